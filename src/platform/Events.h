@@ -1,0 +1,29 @@
+// What a front end calls when the user does something, so that both front ends send the logic the
+// same events in the same order.
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/RichTextBox.h"
+
+namespace tessaryn {
+
+// How many forms have been shown since the start; a front end counts each ShowModal and ShowModeless.
+inline int FormsShown = 0;
+
+// Sends a key to the form and, if it does not take it, to the control with the focus. True if either
+// dealt with it; otherwise the control's own editing applies.
+bool SendKey(Form& form, Control* focus, const KeyEvent& key);
+
+// A press and release at a place of a surface: caret at start, `length` characters selected by the
+// drag. Sends Click and the button-up.
+void SendClick(RichTextBox& box, int start, int length = 0);
+
+// A double click at a place: the click, and unless that opened a form the double click and the
+// button-up. The second press does not move the caret.
+void SendDoubleClick(RichTextBox& box, int start);
+
+// A button, menu item, check box or option pressed by the user; a disabled or hidden one, or one
+// without a handler, does nothing and gives false.
+bool SendChoose(Control& control);
+
+}  // namespace tessaryn

@@ -1,0 +1,71 @@
+// The outside world as the logic sees it. Each function has one body for the desktop (src/desktop/)
+// and one without a display (src/cli/); the logic never asks which it runs on.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Form.h"
+
+namespace tessaryn {
+
+// Shows a form, runs its Activated, and returns when the form has been hidden.
+void ShowModal(Form& form);
+
+// Shows a form beside the one that opened it, and returns at once.
+void ShowModeless(Form& form);
+
+// Ends the program once the present event is over. Returns.
+void EndProgram();
+
+// Thrown through an event when the program ends while a modal form is still up. No handler may
+// swallow it.
+struct ProgramEnded {};
+
+// --- messages
+
+// The system's beep for a refusal. reason: one sentence that tells a person what was clicked and what
+// the command needs instead.
+void Beep(const std::string& reason);
+
+enum class Answer { OK, Yes, No, Cancel };
+enum class Buttons { OK, YesNoCancel };
+
+// A modal message box. Closing it counts as Cancel where there is such a button.
+Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons = Buttons::OK,
+              Answer defaultAnswer = Answer::OK);
+
+// --- file dialogues
+
+struct CommonDialog {
+    std::string FileName;  // in: the name offered; out: the full path chosen
+    std::string Filter;    // "Proofs (*.proof)|*.proof"
+    std::string InitDir;   // "" for the system's choice
+    bool OverwritePrompt = false;
+    bool FileMustExist = false;
+};
+
+// Each returns false, with FileName as it was, when the user cancels.
+bool ShowOpen(CommonDialog& dialog);
+bool ShowSave(CommonDialog& dialog);
+
+// --- clipboard: what is put on it replaces what was there, in all formats
+
+void ClipboardSetText(const std::string& text);
+void ClipboardSetRtf(const std::string& rtf, const std::string& plainText);
+std::string ClipboardText();  // line ends CR LF; "" if there is none
+std::string ClipboardRtf();   // "" if there is none
+
+// --- pointer and help
+
+// True while the pointer is to the right of the box's right edge.
+bool PointerBeyondRightEdge(const Control& box);
+
+// Pops up a menu title's items at the pointer.
+void PopupMenu(MenuItem& menu);
+
+// Opens the manual under the name of its help file. False if the viewer gives no window.
+bool ShowHelpFile(const std::string& path);
+void OpenWebSite(const std::string& address);
+
+}  // namespace tessaryn

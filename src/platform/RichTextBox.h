@@ -1,0 +1,185 @@
+// A rich-text surface: the proof display, the editing boxes, the status line and the hidden work
+// surfaces are all of this class. It lives in memory alone; the desktop paints it.
+//
+// Text is UTF-8 with CR LF as line end; a position is a 0-based byte. The element sign is the one
+// character "e" in font Symbol, a triangle is "4" or "5" in font Webdings.
+//
+// The content is a row of blocks, each with its own runs of one format. An editing box has a single
+// block. The proof display has one for each statement, and a block's runs are worked out when someone
+// first asks for them.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Controls.h"
+
+namespace tessaryn {
+
+using Colour = std::uint32_t;  // 0xRRGGBB
+
+constexpr Colour Rgb(unsigned red, unsigned green, unsigned blue) {
+    return (red << 16) | (green << 8) | blue;
+}
+
+struct CharFormat {
+    std::string Font = "Courier New";
+    int Size = 12;  // points
+    Colour Color = 0;
+    bool Bold = false;
+
+    bool operator==(const CharFormat&) const = default;
+};
+
+// A stretch of text in one format.
+struct FormatRun {
+    int start = 0;   // 0-based byte; relative to the block where a block's runs are meant
+    int length = 0;  // bytes, above 0
+    CharFormat format;
+
+    bool operator==(const FormatRun&) const = default;
+};
+
+// What a surface's content changed by since the front end last asked.
+struct SurfaceChange {
+    bool any = false;
+    int start = 0;     // first byte that may differ
+    int removed = 0;   // bytes of the old text replaced
+    int inserted = 0;  // bytes of the new text that replace them
+};
+
+enum class Alignment { Left, Right, Center };
+
+struct RichTextBox : Control {
+    RichTextBox(Form& parent, std::string name);
+
+    // Lets a member read and assign like a field: box.SelStart = 3.
+    template <class T, auto Get, auto Set>
+    class Property {
+      public:
+        explicit Property(RichTextBox& box) : box_(box) {}
+        Property(const Property&) = delete;
+        operator T() const { return (box_.*Get)(); }  // NOLINT: reads like the field it stands for
+        T operator()() const { return (box_.*Get)(); }
+        Property& operator=(const T& value) {
+            (box_.*Set)(value);
+            return *this;
+        }
+        Property& operator=(const Property& other) { return *this = other(); }
+
+      private:
+        RichTextBox& box_;
+    };
+
+    // --- content and selection, as methods
+
+    const std::string& GetText() const { return text_; }
+    void SetText(const std::string& text);  // in one format, that of the first character (or as set)
+    std::string GetTextRTF() const;
+    void SetTextRTF(const std::string& rtf);  // "" empties the surface
+    std::string GetSelRTF() const;
+    void SetSelRTF(const std::string& rtf);
+    int GetSelStart() const { return selStart_; }
+    void SetSelStart(int position);  // limited to the text; clears the selection; scrolls there
+    int GetSelLength() const { return selLength_; }
+    void SetSelLength(int length);
+    std::string GetSelText() const;
+    // Replaces the selection; the caret ends behind the new text, which takes the format set for the
+    // insertion, else that of the character ahead of it (of the one behind at the very start).
+    void SetSelText(const std::string& text);
+    // Attributes of the selection, or of what will be typed when nothing is selected; the first
+    // character's where they are mixed.
+    std::string GetSelFontName() const;
+    void SetSelFontName(const std::string& font);
+    int GetSelFontSize() const;
+    void SetSelFontSize(int size);
+    Colour GetSelColor() const;
+    void SetSelColor(Colour colour);
+    bool GetSelBold() const;
+    void SetSelBold(bool bold);
+    Alignment GetSelAlignment() const { return alignment_; }
+    void SetSelAlignment(Alignment alignment);
+
+    // --- the same as fields
+
+    using Box = RichTextBox;
+    Property<std::string, &Box::GetText, &Box::SetText> Text{*this};
+    Property<std::string, &Box::GetTextRTF, &Box::SetTextRTF> TextRTF{*this};
+    Property<std::string, &Box::GetSelRTF, &Box::SetSelRTF> SelRTF{*this};
+    Property<int, &Box::GetSelStart, &Box::SetSelStart> SelStart{*this};
+    Property<int, &Box::GetSelLength, &Box::SetSelLength> SelLength{*this};
+    Property<std::string, &Box::GetSelText, &Box::SetSelText> SelText{*this};
+    Property<std::string, &Box::GetSelFontName, &Box::SetSelFontName> SelFontName{*this};
+    Property<int, &Box::GetSelFontSize, &Box::SetSelFontSize> SelFontSize{*this};
+    Property<Colour, &Box::GetSelColor, &Box::SetSelColor> SelColor{*this};
+    Property<bool, &Box::GetSelBold, &Box::SetSelBold> SelBold{*this};
+    Property<Alignment, &Box::GetSelAlignment, &Box::SetSelAlignment> SelAlignment{*this};
+
+    // --- events
+
+    EventHandler Click;
+    EventHandler DblClick;
+    EventHandler Change;   // the user has edited the text (not: the program has)
+    KeyHandler KeyDown;    // every key, ahead of the box's own editing; true: dealt with
+    MouseHandler MouseDown;
+    EventHandler MouseMove;  // with the left button down
+    MouseHandler MouseUp;
+
+    bool ReadOnly = false;
+    bool MultiLine = true;
+
+    // --- editing as by the user, where the front end has no editor of its own
+
+    void TypeText(std::string_view text);  // replaces the selection, as SelText does
+    void DeleteForward();                  // the selection, or the character (CR LF as one) behind it
+    void DeleteBackward();
+
+    // --- formats
+
+    int TextLength() const { return static_cast<int>(text_.size()); }
+    // Runs as long as they can be, in order, covering positions first to last - 1.
+    std::vector<FormatRun> RunsIn(int first, int last);
+    std::vector<FormatRun> Runs() { return RunsIn(0, TextLength()); }
+    CharFormat FormatAt(int position);
+    // Gives a stretch one format, whatever the selection is. Cheaper than selecting.
+    void SetFormat(int start, int length, const CharFormat& format);
+    // What typed text gets, as set through the Sel attributes without a selection.
+    CharFormat InsertionFormat() const;
+
+    // --- content in blocks, for the display
+
+    struct Block {
+        int length = 0;         // bytes, above 0
+        std::uint64_t key = 0;  // equal text and equal key mean equal formats
+    };
+    // Gives the runs of block number `index` (0-based), relative to its start and covering it.
+    using BlockFormatter = std::function<std::vector<FormatRun>(int index)>;
+    // Replaces the whole content. Blocks at the start and at the end that have the same key and bytes
+    // as before keep their formats and are not reported as changed; the others are formatted when
+    // first needed. The formatter must stay valid until the next SetBlocks, SetText or SetTextRTF.
+    void SetBlocks(std::string text, const std::vector<Block>& blocks, BlockFormatter formatter);
+
+    // --- for the front end
+
+    // What changed since the last call, formats included.
+    SurfaceChange TakeChange();
+    // Counts changes of content or format, and of selection.
+    std::uint64_t ContentRevision() const { return contentRevision_; }
+    std::uint64_t SelectionRevision() const { return selectionRevision_; }
+    // Replaces content from the front end's own editor; tells nobody.
+    void LoadFromEditor(std::string text, const std::vector<FormatRun>& runs, int selStart,
+                        int selLength);
+
+  private:
+    std::string text_;
+    int selStart_ = 0;
+    int selLength_ = 0;
+    Alignment alignment_ = Alignment::Left;
+    std::uint64_t contentRevision_ = 0;
+    std::uint64_t selectionRevision_ = 0;
+    // The implementer's: blocks with their runs, the insertion format, the pending change.
+};
+
+}  // namespace tessaryn
