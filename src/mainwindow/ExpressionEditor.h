@@ -1,0 +1,90 @@
+// The editing box that every dialogue with an expression or a comment has: typed "@" shown as
+// epsilon, the palette of symbols, cut, copy and paste, and an undo of its own, one level deep.
+//
+// A dialogue holds one editor as a member and hands it the box and the controls that it has; the
+// names of those differ from form to form.
+#pragma once
+
+#include <string>
+
+#include "platform/Controls.h"
+#include "platform/RichTextBox.h"
+
+namespace tessaryn {
+
+// Rich text of the box in use before its last Cut, Delete, Paste, Clear or Del key.
+inline std::string BoxUndoText;
+// Length in bytes of the selection last copied by Copy; 0 until then.
+inline int ClipLength = 0;
+
+// Copies the selection of a box to the clipboard: with its look in rich text mode, else as plain
+// text with "@" for the element sign. Without a selection: beep.
+void Copy(RichTextBox& box);
+
+// Replaces the selection by the clipboard's content, normalised to black Courier New.
+void Paste(RichTextBox& box);
+
+// Moves the end of the selection on to the end of the line while the mouse is dragged past the
+// right edge of a box, one character a tick.
+struct SelectionExtension {
+    void MouseMoved(RichTextBox& box, Timer& timer);
+    void Tick(RichTextBox& box, Timer& timer);
+    void ButtonUp(Timer& timer);
+    bool done = false;  // has reached a line end; stays until the button comes up
+};
+
+// The two menus of an editing dialogue: editing commands and palette.
+struct EditorMenus {
+    explicit EditorMenus(Form& form);
+
+    MenuItem mnuEdit, optUndo, optRedo, optCut, optCopy, optPaste, optDelete, optClear;
+    MenuItem mnuNotation, optAnd, optOr, optNot, optImplies, optIff, optUnion, optIntersection,
+        optEqual, optLessThan, optGreaterThan, optLessThanOrEqual, optGreaterThanOrEqual, optAdd,
+        optSubtract, optMultiply, optDivide, optExponent, optNegative, optALL, optExist, optSum,
+        optProd, optelement, optComplement;
+};
+
+class ExpressionEditor {
+  public:
+    ExpressionEditor(RichTextBox& box, EditorMenus& menus, Timer& timer);
+
+    // Gives a tool button the action of its twin in the menu; Undo and Redo follow its enabled
+    // state.
+    void BindButton(Button& button, MenuItem& twin);
+
+    // What each activation of the dialogue does: empties the box, black, not bold, in the size of
+    // statements, nothing to undo.
+    void Start();
+
+    // The content as an expression, "@" for the element sign, without line breaks at its ends.
+    std::string Expression();
+
+    // Takes the red mark of an earlier failure away.
+    void ClearMarks();
+    // Marks the token of TokenTable at ParseErrorPos red and puts the caret there.
+    void MarkParseError();
+
+    void DisableUndo();
+
+  private:
+    void Insert(const std::string& text, int caretMove);
+    void InsertElementSign();
+    void SaveForUndo();
+    void Undo();
+    void Redo();
+    void Cut();
+    void Delete();
+    void Clear();
+    bool KeyDown(const KeyEvent& key);
+    bool ControlKey(const std::string& letter);
+    void SetUndoEnabled(bool undo, bool redo);
+
+    RichTextBox& box_;
+    EditorMenus& menus_;
+    Timer& timer_;
+    std::vector<Button*> undoButtons_, redoButtons_;
+    std::string boxRedoText_;
+    SelectionExtension extension_;
+};
+
+}  // namespace tessaryn

@@ -1,0 +1,47 @@
+// The dialogue in which a whole expression is entered: a premise, an axiom, the term of a U Spec,
+// the added operand of the arbitrary rules, the term of Reflex.
+//
+// The caller sets RuleMode, caption and first hint and shows the form modally. Afterwards
+// ParseError is "" if the entry was accepted and "Cancelled" if not; in modes 1 and 45 the accepted
+// text is in NewStmtText with its parse in the tables, in the others the statement has been written
+// already.
+#pragma once
+
+#include "mainwindow/ExpressionEditor.h"
+#include "platform/Form.h"
+
+namespace tessaryn {
+
+struct TestParserForm : Form {
+    TestParserForm();
+
+    void Activated() override;
+    bool KeyPressed(const KeyEvent& key) override;
+    void CloseRequested() override;
+
+    RichTextBox RTB{*this, "RTB"};
+    Label StatusLine{*this, "StatusLine"};
+    Button cmdContinue{*this, "cmdContinue", "Continue..."};
+    Button cmdCancel{*this, "cmdCancel", "Cancel"};
+    Button CmdUndo{*this, "CmdUndo", "Undo"};
+    Button cmdRedo{*this, "cmdRedo", "Redo"};
+    Button cmdCut{*this, "cmdCut", "Cut"};
+    Button cmdCopy{*this, "cmdCopy", "Copy"};
+    Button cmdPaste{*this, "cmdPaste", "Paste"};
+    Button cmdDelete{*this, "cmdDelete", "Delete"};
+    Button cmdClear{*this, "cmdClear", "Clear"};
+    Button cmdParse{*this, "cmdParse", "Parse"};
+    Timer Timer1{*this, "Timer1"};
+    EditorMenus Menus{*this};
+    ExpressionEditor Editor{RTB, Menus, Timer1};
+
+  private:
+    void Continue();
+    void Cancel();
+    void CheckEntry();
+    void CheckByMode();
+};
+
+inline TestParserForm TestParser;
+
+}  // namespace tessaryn

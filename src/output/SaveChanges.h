@@ -1,0 +1,38 @@
+// The question for unsaved changes, asked by New, Open and Exit.
+//
+// After it, OperationCancelled tells the caller to stop. With OpenFollows set the form goes on with
+// the opening of a file by itself.
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/Platform.h"
+
+namespace tessaryn {
+
+inline bool OpenFollows = false;   // after the question, a file is to be opened
+inline bool RecentPicked = false;  // Open runs for an entry of the recent files
+inline std::string RecentName;     // that entry
+
+struct SaveChangesForm : Form {
+    SaveChangesForm();
+
+    void Activated() override;
+    bool KeyPressed(const KeyEvent& key) override;
+    void CloseRequested() override;
+
+    Label FileName{*this, "FileName"};
+    Button cmdYes{*this, "cmdYes", "Yes"};
+    Button cmdNo{*this, "cmdNo", "No"};
+    Button cmdCancel{*this, "cmdCancel", "Cancel"};
+    CommonDialog CommonDialog1;
+
+  private:
+    void Yes();
+    void No();
+    void Cancel();
+    void OpenProofFile();
+};
+
+inline SaveChangesForm SaveChanges;
+
+}  // namespace tessaryn
