@@ -1,0 +1,148 @@
+#include "expr/Lex.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+
+#include "expr/Kind.h"
+
+namespace tessaryn {
+
+namespace {
+
+enum CharClass : unsigned char { Illegal, LowerStart, UpperStart, Single, Compound, White };
+
+constexpr std::array<CharClass, 256> ClassifyAll() {
+    std::array<CharClass, 256> classes{};
+    const auto put = [&classes](std::string_view characters, CharClass to) {
+        for (const char c : characters) classes[static_cast<unsigned char>(c)] = to;
+    };
+    put("0123456789abcdefghijklmnopqrstuvwxyz", LowerStart);
+    put("ABCDEFGHIJKLMNOPQRSTUVWXYZ", UpperStart);
+    put("()[]+-*/^_,~`:@", Single);
+    put("=<>&|", Compound);
+    put(" \t\n\r", White);
+    return classes;
+}
+
+constexpr std::array<CharClass, 256> classOf = ClassifyAll();
+
+CharClass ClassOf(char c) {
+    return classOf[static_cast<unsigned char>(c)];
+}
+
+bool ContinuesName(char c, CharClass start) {
+    const CharClass its = ClassOf(c);
+    return its == LowerStart || its == UpperStart || c == '\'' || (c == '#' && start == LowerStart);
+}
+
+std::string_view NormalForm(std::string_view name) {
+    if (name == "all" || name == "All") return "ALL";
+    if (name == "exist" || name == "Exist") return "EXIST";
+    return name;
+}
+
+// The longest sign at the head of rest, which begins with one of "=<>&|".
+size_t CompoundLength(std::string_view rest) {
+    if (rest.starts_with("<=>")) return 3;
+    for (const std::string_view sign : {"=>", "<=", ">=", "&&", "||"})
+        if (rest.starts_with(sign)) return 2;
+    return 1;
+}
+
+// Bytes of the UTF-8 character at the head of rest; 1 for a byte that begins none.
+size_t CharacterLength(std::string_view rest) {
+    const auto byteAt = [rest](size_t i) -> unsigned {
+        return i < rest.size() ? static_cast<unsigned char>(rest[i]) : 0U;
+    };
+    const unsigned lead = byteAt(0);
+    const size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
+    if (length == 1) return 1;
+    unsigned code = lead & (0x7FU >> length);
+    for (size_t i = 1; i < length; i++) {
+        if ((byteAt(i) & 0xC0U) != 0x80U) return 1;
+        code = code << 6U | (byteAt(i) & 0x3FU);
+    }
+    const unsigned least = length == 4 ? 0x10000 : length == 3 ? 0x800 : 0x80;
+    const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
+    return lead > 0xF4 || code < least || code > 0x10FFFF || surrogate ? 1 : length;
+}
+
+// Appends the tokens of source; returns the 0-based place of an illegal character, npos if none.
+size_t ReadTokens(std::string_view source, TokenList& tokens) {
+    size_t i = 0;
+    while (i < source.size()) {
+        const CharClass start = ClassOf(source[i]);
+        size_t length = 1;
+        if (start == Illegal) return i;
+        if (start == LowerStart || start == UpperStart) {
+            while (i + length < source.size() && ContinuesName(source[i + length], start)) length++;
+        } else if (start == Compound) {
+            length = CompoundLength(source.substr(i));
+        }
+        if (start != White) {
+            AddToken(NormalForm(source.substr(i, length)), static_cast<int>(i) + 1, tokens);
+        }
+        i += length;
+    }
+    return source.npos;
+}
+
+// Links the brackets of one kind. While a bracket is open its TPtr holds the open one around it.
+void LinkBrackets(char opening, char closing, TokenList& tokens) {
+    int open = 0;
+    for (int k = 1; k < std::ssize(tokens); k++) {
+        const char sign = tokens[k].Token[0];
+        if (sign == opening) {
+            tokens[k].TPtr = open;
+            open = k;
+        } else if (sign == closing && open != 0) {
+            TokenRec& partner = tokens[open];
+            tokens[k].TPtr = open;
+            open = partner.TPtr;
+            partner.TPtr = k;
+        }
+    }
+    while (open != 0) open = std::exchange(tokens[open].TPtr, 0);
+}
+
+}  // namespace
+
+void AddToken(std::string_view text, int position, TokenList& tokens) {
+    TokenRec& token = tokens.emplace_back();
+    token.Token = text;
+    token.Position = position;
+}
+
+void Lex(const std::string& source, TokenList& tokens, std::string& error, int& errorPos) {
+    tokens.assign(1, {});
+    tokens.reserve(std::min<size_t>(source.size(), MaxSourceLength) / 2 + 2);
+    error.clear();
+    errorPos = 0;
+    if (source.find_first_not_of(' ') == source.npos) {
+        error = "17. No expression found.";
+        return;
+    }
+    const size_t illegal = ReadTokens(source, tokens);
+    if (illegal != source.npos) {
+        const size_t length = CharacterLength(std::string_view(source).substr(illegal));
+        error = "18. Illegal character " + source.substr(illegal, length);
+        errorPos = static_cast<int>(illegal) + 1;
+        return;
+    }
+    if (tokens.size() == 1) {
+        error = "19. Expecting expression";
+        return;
+    }
+    LinkBrackets('(', ')', tokens);
+    LinkBrackets('[', ']', tokens);
+    for (const TokenRec& token : tokens) {
+        if (!IsBracket(token) || token.TPtr != 0) continue;
+        error = "20. Unmatched bracket(s)";
+        errorPos = token.Position;
+        return;
+    }
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,25 @@
+// Comparison of expressions up to the names of bound variables, and their free variables.
+#pragma once
+
+#include <string>
+
+#include "expr/Expression.h"
+
+namespace tessaryn {
+
+// Whether the two texts are the same expression but for blanks, line breaks, redundant brackets,
+// the kind of bracket and the names of bound variables. False if one of them does not parse, then
+// with ParseError set. Leaves in NewStmtText the rewritten text of b, its bound variables named
+// v#1, v#2 ..., or the text that did not parse, and in the tables what Parse made of it; the second
+// tables are not touched.
+bool Same(const std::string& a, const std::string& b);
+
+// The same answer with no global touched.
+bool SameExpressions(const std::string& a, const std::string& b);
+
+// The free variables of the tables of the last successful Parse as a name list, in the order of
+// first appearance. Numerals and function names are among them, capitalised names are not.
+std::string CollectFreeVars();
+std::string FreeVarsOf(const Expression& expression);
+
+}  // namespace tessaryn
