@@ -5,52 +5,21 @@
 // character "e" in font Symbol, a triangle is "4" or "5" in font Webdings.
 //
 // The content is a row of blocks, each with its own runs of one format. An editing box has a single
-// block. The proof display has one for each statement, and a block's runs are worked out when someone
-// first asks for them.
+// block. The proof display has one for each statement, and a block's runs are worked out when
+// someone first asks for them.
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/Controls.h"
+#include "platform/RichText.h"
+#include "platform/TextBlocks.h"
 
 namespace tessaryn {
-
-using Colour = std::uint32_t;  // 0xRRGGBB
-
-constexpr Colour Rgb(unsigned red, unsigned green, unsigned blue) {
-    return (red << 16) | (green << 8) | blue;
-}
-
-struct CharFormat {
-    std::string Font = "Courier New";
-    int Size = 12;  // points
-    Colour Color = 0;
-    bool Bold = false;
-
-    bool operator==(const CharFormat&) const = default;
-};
-
-// A stretch of text in one format.
-struct FormatRun {
-    int start = 0;   // 0-based byte; relative to the block where a block's runs are meant
-    int length = 0;  // bytes, above 0
-    CharFormat format;
-
-    bool operator==(const FormatRun&) const = default;
-};
-
-// What a surface's content changed by since the front end last asked.
-struct SurfaceChange {
-    bool any = false;
-    int start = 0;     // first byte that may differ
-    int removed = 0;   // bytes of the old text replaced
-    int inserted = 0;  // bytes of the new text that replace them
-};
-
-enum class Alignment { Left, Right, Center };
 
 struct RichTextBox : Control {
     RichTextBox(Form& parent, std::string name);
@@ -75,8 +44,9 @@ struct RichTextBox : Control {
 
     // --- content and selection, as methods
 
-    const std::string& GetText() const { return text_; }
-    void SetText(const std::string& text);  // in one format, that of the first character (or as set)
+    const std::string& GetText() const { return content_.Text(); }
+    // In one format: that of the first character before, or the one set for the insertion.
+    void SetText(const std::string& text);
     std::string GetTextRTF() const;
     void SetTextRTF(const std::string& rtf);  // "" empties the surface
     std::string GetSelRTF() const;
@@ -86,8 +56,8 @@ struct RichTextBox : Control {
     int GetSelLength() const { return selLength_; }
     void SetSelLength(int length);
     std::string GetSelText() const;
-    // Replaces the selection; the caret ends behind the new text, which takes the format set for the
-    // insertion, else that of the character ahead of it (of the one behind at the very start).
+    // Replaces the selection; the caret ends behind the new text, which takes the format set for
+    // the insertion, else that of the character ahead of it (of the one behind at the very start).
     void SetSelText(const std::string& text);
     // Attributes of the selection, or of what will be typed when nothing is selected; the first
     // character's where they are mixed.
@@ -121,8 +91,8 @@ struct RichTextBox : Control {
 
     EventHandler Click;
     EventHandler DblClick;
-    EventHandler Change;   // the user has edited the text (not: the program has)
-    KeyHandler KeyDown;    // every key, ahead of the box's own editing; true: dealt with
+    EventHandler Change;  // the user has edited the text (not: the program has)
+    KeyHandler KeyDown;   // every key, ahead of the box's own editing; true: dealt with
     MouseHandler MouseDown;
     EventHandler MouseMove;  // with the left button down
     MouseHandler MouseUp;
@@ -133,12 +103,12 @@ struct RichTextBox : Control {
     // --- editing as by the user, where the front end has no editor of its own
 
     void TypeText(std::string_view text);  // replaces the selection, as SelText does
-    void DeleteForward();                  // the selection, or the character (CR LF as one) behind it
+    void DeleteForward();  // the selection, or the character (CR LF as one) behind it
     void DeleteBackward();
 
     // --- formats
 
-    int TextLength() const { return static_cast<int>(text_.size()); }
+    int TextLength() const { return content_.Length(); }
     // Runs as long as they can be, in order, covering positions first to last - 1.
     std::vector<FormatRun> RunsIn(int first, int last);
     std::vector<FormatRun> Runs() { return RunsIn(0, TextLength()); }
@@ -150,15 +120,13 @@ struct RichTextBox : Control {
 
     // --- content in blocks, for the display
 
-    struct Block {
-        int length = 0;         // bytes, above 0
-        std::uint64_t key = 0;  // equal text and equal key mean equal formats
-    };
+    using Block = TextBlocks::Block;
     // Gives the runs of block number `index` (0-based), relative to its start and covering it.
-    using BlockFormatter = std::function<std::vector<FormatRun>(int index)>;
-    // Replaces the whole content. Blocks at the start and at the end that have the same key and bytes
-    // as before keep their formats and are not reported as changed; the others are formatted when
-    // first needed. The formatter must stay valid until the next SetBlocks, SetText or SetTextRTF.
+    using BlockFormatter = TextBlocks::Formatter;
+    // Replaces the whole content. Blocks at the start and at the end that have the same key and
+    // bytes as before keep their formats and are not reported as changed; the others are formatted
+    // when first needed. The formatter must stay valid until the next SetBlocks, SetText or
+    // SetTextRTF.
     void SetBlocks(std::string text, const std::vector<Block>& blocks, BlockFormatter formatter);
 
     // --- for the front end
@@ -173,13 +141,24 @@ struct RichTextBox : Control {
                         int selLength);
 
   private:
-    std::string text_;
+    int Limited(int position) const;
+    CharFormat SelFormat() const;
+    void Reformat(int start, int length, const TextBlocks::Reformatter& reformatter);
+    void ReformatSelection(const TextBlocks::Reformatter& reformatter);
+    void ReplaceContent(std::string text, const std::vector<FormatRun>& runs);
+    void ReplaceSelection(std::string_view text, const std::vector<FormatRun>& runs);
+    void Select(int start, int length);
+    void Record(const SurfaceChange& change);
+
+    mutable TextBlocks content_;  // a reader may be the first to need a block's formats
     int selStart_ = 0;
     int selLength_ = 0;
     Alignment alignment_ = Alignment::Left;
+    std::optional<CharFormat> insertion_;  // set without a selection, until the caret is moved
+    CharFormat lastFormat_;                // of the text that was there, once the box is empty
+    SurfaceChange change_;
     std::uint64_t contentRevision_ = 0;
     std::uint64_t selectionRevision_ = 0;
-    // The implementer's: blocks with their runs, the insertion format, the pending change.
 };
 
 }  // namespace tessaryn

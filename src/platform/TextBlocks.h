@@ -1,0 +1,101 @@
+// The content of a rich-text surface: one flat text, cut into blocks that each hold their own
+// format runs. A block's runs may be pending: they are asked for when someone first needs them.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/RichText.h"
+
+namespace tessaryn {
+
+// A stretch of the content that was replaced by another.
+struct SurfaceChange {
+    bool any = false;
+    int start = 0;     // first byte that may differ
+    int removed = 0;   // bytes of the old text replaced
+    int inserted = 0;  // bytes of the new text that replace them
+};
+
+// The one change that covers `earlier` and, made after it, `later`.
+SurfaceChange MergedChange(const SurfaceChange& earlier, const SurfaceChange& later);
+
+// Each format once, under a small number.
+struct FormatTable {
+    using Id = std::uint32_t;
+
+    Id Intern(const CharFormat& format);  // limits size and colour to what there is
+    const CharFormat& operator[](Id id) const { return *formats[id]; }
+    void Clear();
+
+  private:
+    struct Hash {
+        std::size_t operator()(const CharFormat& format) const;
+    };
+    std::unordered_map<CharFormat, Id, Hash> ids;
+    std::vector<const CharFormat*> formats;  // the keys of ids, by number
+};
+
+struct TextBlocks {
+    struct Block {
+        int length = 0;         // bytes, above 0
+        std::uint64_t key = 0;  // equal text and equal key mean equal formats
+    };
+    using Formatter = std::function<std::vector<FormatRun>(int index)>;
+    using Reformatter = std::function<void(CharFormat&)>;
+
+    const std::string& Text() const { return text; }
+    int Length() const { return static_cast<int>(text.size()); }
+
+    // Positions must lie within the text here and below.
+    const CharFormat& FormatAt(int position);  // of the character there; the text is not empty
+    std::vector<FormatRun> RunsIn(int first, int last);
+
+    // Each of these tells what it changed. Runs given need not cover the text: what they leave out
+    // gets the default format, what sticks out is dropped.
+    SurfaceChange Assign(std::string newText, const std::vector<FormatRun>& runs);
+    SurfaceChange Replace(int start, int removed, std::string_view newText,
+                          const std::vector<FormatRun>& runs);
+    SurfaceChange Reformat(int start, int length, const Reformatter& reformatter);
+    SurfaceChange SetBlocks(std::string newText, const std::vector<Block>& newBlocks,
+                            Formatter newFormatter);
+
+  private:
+    struct StoredRun {
+        int length;
+        FormatTable::Id format;
+    };
+    using StoredRuns = std::vector<StoredRun>;
+
+    struct StoredBlock {
+        std::uint64_t key = 0;
+        int length = 0;
+        int pending = -1;     // number that the formatter knows it by; -1: runs are there
+        bool edited = false;  // changed since it was given, so that its key says nothing any more
+        StoredRuns runs;
+    };
+
+    static void AppendRun(StoredRuns& runs, StoredRun run);
+    static void AppendPart(StoredRuns& runs, const StoredRuns& source, int first, int last);
+    StoredRuns Stored(const std::vector<FormatRun>& runs, int length);
+    void EnsureFormatted(StoredBlock& block);
+    const std::vector<int>& Starts();
+    std::size_t BlockAt(int position);
+    SurfaceChange ReformatBlock(StoredBlock& block, int first, int last,
+                                const Reformatter& reformatter);
+    bool SameBlock(const StoredBlock& old, int oldStart, const std::string& newText,
+                   const Block& block, int newStart) const;
+    void ReplaceBlocks(std::size_t first, std::size_t last, std::vector<StoredBlock> replacement);
+
+    std::string text;
+    std::vector<StoredBlock> blocks;  // their lengths add up to that of the text
+    std::vector<int> starts;          // of each block, and the end; empty: to be worked out anew
+    FormatTable formats;
+    Formatter formatter;
+};
+
+}  // namespace tessaryn
