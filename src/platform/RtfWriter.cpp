@@ -74,14 +74,14 @@ void AppendText(std::string& rtf, std::string_view text) {
     }
 }
 
-void AppendFontName(std::string& rtf, const std::string& font) {
-    for (const char c : font) {
-        if (c == ';') {
-            AppendHex(rtf, ';');  // a plain one ends the name
-        } else {
-            AppendText(rtf, std::string_view(&c, 1));
-        }
+// A plain ; would end the name.
+void AppendFontName(std::string& rtf, std::string_view font) {
+    for (std::size_t end = font.find(';'); end != font.npos; end = font.find(';')) {
+        AppendText(rtf, font.substr(0, end));
+        AppendHex(rtf, ';');
+        font.remove_prefix(end + 1);
     }
+    AppendText(rtf, font);
 }
 
 struct Writer {

@@ -1,0 +1,367 @@
+#include "platform/RichTextBox.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "platform/Form.h"
+
+namespace tessaryn {
+namespace {
+
+// Font's first letter, size, colour as one hex digit and "b", then the text: "C12.0b[text]".
+std::string Shown(RichTextBox& box, int first, int last) {
+    std::string shown;
+    for (const FormatRun& run : box.RunsIn(first, last)) {
+        shown += run.format.Font.substr(0, 1) + std::to_string(run.format.Size) + "." +
+                 std::to_string(run.format.Color) + (run.format.Bold ? "b" : "") + "[" +
+                 box.GetText().substr(static_cast<std::size_t>(run.start),
+                                      static_cast<std::size_t>(run.length)) +
+                 "]";
+    }
+    return shown;
+}
+
+std::string Shown(RichTextBox& box) {
+    return Shown(box, 0, box.TextLength());
+}
+
+CharFormat Coloured(Colour colour) {
+    return {"Courier New", 12, colour, false};
+}
+
+struct RichTextBoxTest : testing::Test {
+    // "ab" in colour 1, "cd" in colour 2, "ef" in colour 3.
+    void Fill() {
+        box.Text = "abcdef";
+        for (int i = 0; i < 3; ++i) box.SetFormat(2 * i, 2, Coloured(static_cast<Colour>(i + 1)));
+        box.TakeChange();
+    }
+    void Select(int start, int length) {
+        box.SelStart = start;
+        box.SelLength = length;
+    }
+    void ExpectChange(int start, int removed, int inserted) {
+        const SurfaceChange change = box.TakeChange();
+        EXPECT_TRUE(change.any);
+        EXPECT_EQ(change.start, start);
+        EXPECT_EQ(change.removed, removed);
+        EXPECT_EQ(change.inserted, inserted);
+        EXPECT_FALSE(box.TakeChange().any);
+    }
+
+    Form form{"Proof"};
+    RichTextBox box{form, "RTB"};
+};
+
+TEST_F(RichTextBoxTest, SelectionStaysInsideTheText) {
+    box.Text = "a\xCE\xB5\r\nb";  // 6 bytes
+    struct Row {
+        int start, length, shownStart, shownLength;
+    };
+    const Row rows[] = {
+        {-5, 99, 0, 6}, {99, 1, 6, 0}, {2, 0, 1, 0}, {1, 1, 1, 2},       {0, 2, 0, 3},
+        {4, 1, 4, 1},   {3, -4, 3, 0}, {3, 1, 3, 1}, {1, INT_MAX, 1, 5}, {INT_MIN, INT_MIN, 0, 0}};
+    for (const Row& row : rows) {
+        Select(row.start, row.length);
+        EXPECT_EQ(box.SelStart, row.shownStart) << row.start;
+        EXPECT_EQ(box.SelLength, row.shownLength) << row.start;
+    }
+}
+
+TEST_F(RichTextBoxTest, NewTextTakesTheFormatOfItsNeighbour) {
+    struct Row {
+        int start, length;
+        const char* text;
+        const char* shown;
+    };
+    const Row rows[] = {{2, 2, "x", "C12.1[abx]C12.3[ef]"},
+                        {0, 0, "x", "C12.1[xab]C12.2[cd]C12.3[ef]"},
+                        {0, 3, "x", "C12.2[xd]C12.3[ef]"},
+                        {6, 0, "x", "C12.1[ab]C12.2[cd]C12.3[efx]"},
+                        {0, 6, "x", "C12.1[x]"},
+                        {1, 4, "", "C12.1[a]C12.3[f]"},
+                        {3, 0, "\n", "C12.1[ab]C12.2[c\r\nd]C12.3[ef]"}};
+    for (const Row& row : rows) {
+        Fill();
+        Select(row.start, row.length);
+        box.SelText = row.text;
+        EXPECT_EQ(Shown(box), row.shown);
+        EXPECT_EQ(box.SelLength, 0);
+        Fill();
+        Select(row.start, row.length);
+        box.SelText = "";  // in two steps, as a character is swapped for a glyph
+        box.SelText = row.text;
+        EXPECT_EQ(Shown(box), row.shown);
+        box.Text = "";
+    }
+    Fill();
+    Select(0, 6);
+    box.SelText = "";
+    EXPECT_EQ(box.InsertionFormat(), Coloured(1)) << "an emptied box goes on in its format";
+}
+
+TEST_F(RichTextBoxTest, AttributesOfTheSelection) {
+    Fill();
+    Select(1, 4);
+    EXPECT_EQ(box.SelColor, 1u) << "the first character's";
+    box.SelBold = true;
+    EXPECT_EQ(Shown(box), "C12.1[a]C12.1b[b]C12.2b[cd]C12.3b[e]C12.3[f]");
+    box.SelFontName = "Symbol";
+    box.SelFontSize = 9;
+    box.SelBold = false;
+    EXPECT_EQ(Shown(box), "C12.1[a]S9.1[b]S9.2[cd]S9.3[e]C12.3[f]");
+    Select(4, 1);
+    EXPECT_EQ(std::string(box.SelFontName), "Symbol");
+    box.SelFontSize = -4;
+    EXPECT_EQ(box.SelFontSize, 1);
+}
+
+TEST_F(RichTextBoxTest, InsertionFormatLastsUntilTheCaretMoves) {
+    Fill();
+    Select(2, 0);
+    box.SelColor = 7;
+    box.SelBold = true;
+    box.SelStart = 2;  // where it is: no move
+    box.TypeText("x");
+    box.TypeText("y");
+    EXPECT_EQ(Shown(box), "C12.1[ab]C12.7b[xy]C12.2[cd]C12.3[ef]");
+    box.SelStart = 0;
+    EXPECT_EQ(box.SelColor, 1u);
+    box.SelStart = 4;
+    EXPECT_EQ(box.SelColor, 7u) << "the character ahead";
+}
+
+TEST_F(RichTextBoxTest, WholeText) {
+    EXPECT_EQ(Shown(box), "");
+    box.SelColor = 5;
+    box.Text = "a\nb\rc\r\n";
+    EXPECT_EQ(Shown(box), "C12.5[a\r\nb\r\nc\r\n]");
+    box.SetFormat(0, 1, Coloured(6));
+    box.Text = "";
+    box.Text = "new";
+    EXPECT_EQ(Shown(box), "C12.6[new]");
+    box.TextRTF = "";
+    box.Text = "new";
+    EXPECT_EQ(Shown(box), "C12.0[new]");
+}
+
+TEST_F(RichTextBoxTest, RichTextGoesFromBoxToBox) {
+    Fill();
+    box.SelAlignment = Alignment::Center;
+    RichTextBox other(form, "Other");
+    other.TextRTF = box.TextRTF;
+    EXPECT_EQ(Shown(other), Shown(box));
+    EXPECT_EQ(other.SelAlignment(), Alignment::Center);
+    Select(1, 2);
+    other.SelStart = 6;
+    other.SelRTF = box.SelRTF;
+    EXPECT_EQ(Shown(other), "C12.1[ab]C12.2[cd]C12.3[ef]C12.1[b]C12.2[c]");
+    EXPECT_EQ(other.SelStart, 8);
+    other.SelRTF = "plain";
+    EXPECT_EQ(Shown(other, 6, 99), "C12.1[b]C12.2[cplain]");
+}
+
+TEST_F(RichTextBoxTest, UserEditing) {
+    const std::string text = "a\xCE\xB5\r\nb";
+    struct Row {
+        int start, length;
+        const char* forward;
+        const char* backward;
+    };
+    const Row rows[] = {{0, 0, "\xCE\xB5\r\nb", "a\xCE\xB5\r\nb"},
+                        {1, 0, "a\r\nb", "\xCE\xB5\r\nb"},
+                        {3, 0,
+                         "a\xCE\xB5"
+                         "b",
+                         "a\r\nb"},
+                        {4, 0,
+                         "a\xCE\xB5"
+                         "b",
+                         "a\xCE\xB5"
+                         "b"},
+                        {5, 0, "a\xCE\xB5\r\n",
+                         "a\xCE\xB5"
+                         "b"},
+                        {6, 0, "a\xCE\xB5\r\nb", "a\xCE\xB5\r\n"},
+                        {1, 5, "a", "a"}};
+    for (const Row& row : rows) {
+        box.Text = text;
+        Select(row.start, row.length);
+        box.DeleteForward();
+        EXPECT_EQ(box.GetText(), row.forward) << row.start;
+        box.Text = text;
+        Select(row.start, row.length);
+        box.DeleteBackward();
+        EXPECT_EQ(box.GetText(), row.backward) << row.start;
+    }
+    box.Text = "";
+    box.DeleteBackward();
+    box.DeleteForward();
+    box.MultiLine = false;
+    box.TypeText("a\r\nb");
+    EXPECT_EQ(box.GetText(), "ab");
+    box.ReadOnly = true;
+    box.TypeText("c");
+    box.DeleteBackward();
+    EXPECT_EQ(box.GetText(), "ab");
+}
+
+TEST_F(RichTextBoxTest, ReportsTheRangeThatChanged) {
+    Fill();
+    Select(2, 1);
+    box.SelText = "xyz";  // abxyzdef
+    ExpectChange(2, 1, 3);
+    box.SetFormat(0, 4, Coloured(1));  // "abxyz" has it
+    EXPECT_FALSE(box.TakeChange().any);
+    box.SetFormat(0, 6, Coloured(1));
+    ExpectChange(5, 1, 1);
+    Select(7, 1);
+    box.SelText = "";
+    Select(1, 1);
+    box.SelText = "12";  // a12xyzde
+    ExpectChange(1, 7, 7);
+    const auto revision = box.ContentRevision();
+    box.SetText(box.GetText().substr(0));
+    box.LoadFromEditor("ab", {{0, 1, Coloured(9)}, {-3, 2, {}}, {5, INT_MAX, {}}}, 1, 99);
+    EXPECT_FALSE(box.TakeChange().any);
+    EXPECT_GT(box.ContentRevision(), revision);
+    EXPECT_EQ(Shown(box), "C12.9[a]C12.0[b]");
+    EXPECT_EQ(box.SelLength, 1);
+}
+
+// Blocks named by their text: colour by the key, formatted when asked.
+struct BlocksTest : RichTextBoxTest {
+    void Set(const std::vector<std::pair<std::string, unsigned>>& rows) {
+        std::string text;
+        std::vector<RichTextBox::Block> blocks;
+        for (const auto& [part, key] : rows) {
+            text += part;
+            blocks.push_back({static_cast<int>(part.size()), key});
+        }
+        formatted.clear();
+        box.SetBlocks(text, blocks, [this, blocks](int index) {
+            formatted += std::to_string(index);
+            const auto& block = blocks[static_cast<std::size_t>(index)];
+            return std::vector<FormatRun>{
+                {0, block.length, Coloured(static_cast<Colour>(block.key))}};
+        });
+    }
+    std::string formatted;  // numbers of the blocks asked for
+};
+
+TEST_F(BlocksTest, FormatsWhatIsNewAndNeeded) {
+    Set({{"aa", 1}, {"bb", 2}, {"cc", 2}, {"dd", 4}});
+    ExpectChange(0, 0, 8);
+    EXPECT_EQ(Shown(box, 3, 5), "C12.2[bc]");
+    EXPECT_EQ(formatted, "12");
+    Set({{"aa", 1}, {"xyz", 2}, {"bb", 2}, {"cc", 2}, {"dd", 4}});
+    ExpectChange(2, 0, 3);
+    EXPECT_EQ(Shown(box), "C12.1[aa]C12.2[xyzbbcc]C12.4[dd]");
+    EXPECT_EQ(formatted, "014") << "kept blocks are known by their new number";
+    Set({{"aa", 1}, {"xyz", 9}, {"bb", 2}, {"c2", 2}, {"dd", 4}});
+    ExpectChange(2, 7, 7);
+    Set({{"aa", 1}, {"dd", 4}});
+    ExpectChange(2, 7, 0);
+    Set({{"aa", 1}, {"dd", 4}});
+    EXPECT_FALSE(box.TakeChange().any);
+    Set({{"dd", 4}, {"dd", 4}, {"dd", 4}});
+    EXPECT_EQ(Shown(box), "C12.4[dddddd]");
+    Set({});
+    EXPECT_EQ(Shown(box), "");
+}
+
+TEST_F(BlocksTest, EditedBlocksAreFormattedAnew) {
+    Set({{"aa", 1}, {"bb", 2}, {"cc", 3}});
+    box.SetFormat(3, 2, Coloured(7));
+    EXPECT_EQ(formatted, "12");
+    EXPECT_EQ(Shown(box), "C12.1[aa]C12.2[b]C12.7[bc]C12.3[c]");
+    box.TakeChange();
+    Set({{"aa", 1}, {"bb", 2}, {"cc", 3}});
+    ExpectChange(2, 4, 4);
+    EXPECT_EQ(Shown(box), "C12.1[aa]C12.2[bb]C12.3[cc]");
+    Select(1, 4);
+    box.SelText = "x";
+    EXPECT_EQ(Shown(box), "C12.1[ax]C12.3[c]");
+}
+
+TEST_F(BlocksTest, LengthsThatDoNotFitAreMadeToFit) {
+    const auto none = [](int) { return std::vector<FormatRun>(); };
+    for (const std::vector<int>& lengths : std::vector<std::vector<int>>{
+             {}, {0}, {2}, {9}, {-1, 2, INT_MAX}, {2, 0, 1}, {2, 0}, {0, 3}}) {
+        std::vector<RichTextBox::Block> blocks;
+        for (const int length : lengths) blocks.push_back({length, 1});
+        box.SetBlocks("abc", blocks, none);
+        EXPECT_EQ(Shown(box), "C12.0[abc]");
+        Select(3, 0);
+        box.SelText = "d";
+        Select(0, 2);
+        box.SelText = "";
+        EXPECT_EQ(Shown(box), "C12.0[cd]");
+        box.SetBlocks("", blocks, none);
+        box.SelText = "x";
+        EXPECT_EQ(Shown(box), "C12.0[x]");
+    }
+}
+
+// Random edits beside a plain model: a format for each byte, and a front end's copy that is kept in
+// step by the reported changes alone.
+TEST_F(BlocksTest, RandomEditsAgreeWithASimpleModel) {
+    std::mt19937 random(7);
+    auto below = [&](int limit) {
+        return static_cast<int>(random() % static_cast<unsigned>(limit));
+    };
+    std::string text;
+    std::string colours;
+    std::string copy;
+    for (int round = 0; round < 5000; ++round) {
+        const int start = below(box.TextLength() + 1);
+        const int length = below(box.TextLength() - start + 1);
+        const auto at = static_cast<std::size_t>(start);
+        const auto count = static_cast<std::size_t>(length);
+        const int what = below(20);
+        if (what == 0) {
+            std::vector<std::pair<std::string, unsigned>> rows;
+            text.clear();
+            colours.clear();
+            for (int i = below(9); i > 0; --i) {
+                const auto key = static_cast<unsigned>(1 + below(2));
+                rows.emplace_back(std::string(1 + key, static_cast<char>('a' + below(2))), key);
+                text += rows.back().first;
+                colours.append(rows.back().first.size(), static_cast<char>(key));
+            }
+            Set(rows);
+        } else if (what < 8) {
+            const auto colour = static_cast<Colour>(below(4));
+            box.SetFormat(start, length, Coloured(colour));
+            colours.replace(at, count, count, static_cast<char>(colour));
+        } else {
+            Select(start, length);
+            const char behind = start > 0                ? colours[at - 1]
+                                : count < colours.size() ? colours[count]
+                                                         : static_cast<char>(box.SelColor());
+            const std::string typed(static_cast<std::size_t>(below(3)), 'x');
+            box.SelText = typed;
+            text.replace(at, count, typed);
+            colours.replace(at, count, typed.size(), behind);
+        }
+        if (below(3) == 0) {
+            const SurfaceChange change = box.TakeChange();
+            copy.replace(static_cast<std::size_t>(change.start),
+                         static_cast<std::size_t>(change.removed),
+                         box.GetText().substr(static_cast<std::size_t>(change.start),
+                                              static_cast<std::size_t>(change.inserted)));
+            ASSERT_EQ(copy, text) << round;
+        }
+        ASSERT_EQ(box.GetText(), text) << round;
+        std::string found;
+        for (const FormatRun& run : box.Runs()) {
+            found.append(static_cast<std::size_t>(run.length), static_cast<char>(run.format.Color));
+            ASSERT_EQ(box.FormatAt(run.start + run.length - 1), run.format);
+        }
+        ASSERT_EQ(found, colours) << round;
+    }
+}
+
+}  // namespace
+}  // namespace tessaryn
