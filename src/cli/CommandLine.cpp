@@ -1,0 +1,165 @@
+#include "cli/CommandLine.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <optional>
+
+#include "cli/ExpressionTables.h"
+#include "cli/FormState.h"
+#include "cli/HeadlessPlatform.h"
+#include "cli/ScriptRunner.h"
+#include "cli/StateDump.h"
+#include "document/ProofFile.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+
+namespace tessaryn {
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+constexpr int WrongUse = 2;
+
+constexpr const char* Usage =
+    "usage: tessaryn-cli run [--settings DIR] [--hidden] [--check] FILE|-\n"
+    "       tessaryn-cli parse\n"
+    "       tessaryn-cli same\n"
+    "       tessaryn-cli dump FILE.proof\n"
+    "       tessaryn-cli --version | --help\n";
+
+constexpr const char* Help =
+    "\n"
+    "run    runs a script of user actions, one a line\n"
+    "         --settings DIR  reads and writes the settings in DIR\n"
+    "         --hidden        hidden menu items can be chosen\n"
+    "         --check         checks the whole document after each action\n"
+    "parse  reads expressions as JSON strings, prints their tables, one a line\n"
+    "same   reads pairs of expressions as JSON arrays, prints true or false\n"
+    "dump   opens a proof and prints its state as JSON\n"
+    "\n"
+    "Exit status: 0 done; 1 refused, or an expectation failed; 2 wrong use.\n";
+
+int ReportWrongUse(const Streams& streams) {
+    streams.err << Usage;
+    return WrongUse;
+}
+
+struct RunRequest {
+    ScriptOptions options;
+    std::string file;  // "" if none is named
+};
+
+// Nothing if the words are no right use.
+std::optional<RunRequest> ReadRunRequest(const Words& words) {
+    RunRequest request;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::string& word = words[i];
+        if (word == "--hidden") {
+            request.options.showHidden = true;
+        } else if (word == "--check") {
+            request.options.checkDocument = true;
+        } else if (word == "--settings" && i + 1 < words.size() && !words[i + 1].empty()) {
+            request.options.settingsDir = words[++i];
+        } else if (request.file.empty() && (word == "-" || !word.starts_with('-'))) {
+            request.file = word;
+        } else {
+            return std::nullopt;
+        }
+    }
+    if (request.file.empty()) return std::nullopt;
+    return request;
+}
+
+std::optional<std::string> ReadScript(const std::string& file, std::istream& in) {
+    std::ifstream opened;
+    if (file != "-") opened.open(file, std::ios::binary);
+    if (file != "-" && !opened) return std::nullopt;
+    std::istream& source = file == "-" ? in : opened;
+    std::string script(std::istreambuf_iterator<char>(source), {});
+    if (source.bad()) return std::nullopt;
+    return script;
+}
+
+int RunCommand(const Words& words, const Streams& streams) {
+    const auto request = ReadRunRequest(words);
+    if (!request) return ReportWrongUse(streams);
+    const auto script = ReadScript(request->file, streams.in);
+    if (!script) {
+        streams.err << request->file << ": the script can't be read\n";
+        return 1;
+    }
+    return RunScript(*script, request->file, request->options, streams.out, streams.err);
+}
+
+int ParseCommand(const Words& words, const Streams& streams) {
+    if (!words.empty()) return ReportWrongUse(streams);
+    return PrintParses(streams.in, streams.out, streams.err);
+}
+
+int SameCommand(const Words& words, const Streams& streams) {
+    if (!words.empty()) return ReportWrongUse(streams);
+    return PrintComparisons(streams.in, streams.out, streams.err);
+}
+
+// Opens a proof as the window would. False: refused, with the reason on err.
+bool OpenProof(const std::string& file, std::ostream& err) {
+    StartHeadless();
+    ProofFileName = file;
+    ReadProofFile("");
+    if (!OperationCancelled) return true;
+    err << file << ": " << BoxText(Proof.StatusLine);
+    if (!Headless.Beeps.empty()) err << " (" << Headless.Beeps.back() << ')';
+    err << '\n';
+    return false;
+}
+
+int DumpCommand(const Words& words, const Streams& streams) {
+    if (words.size() != 1) return ReportWrongUse(streams);
+    if (!OpenProof(words[0], streams.err)) return 1;
+    Proof.RTB.SelStart = 0;
+    streams.out << StateAsJson(0, 0) << '\n';
+    return 0;
+}
+
+int VersionCommand(const Words& words, const Streams& streams) {
+    if (!words.empty()) return ReportWrongUse(streams);
+    streams.out << "tessaryn-cli 2.0\n";
+    return 0;
+}
+
+int HelpCommand(const Words& words, const Streams& streams) {
+    if (!words.empty()) return ReportWrongUse(streams);
+    streams.out << Usage << Help;
+    return 0;
+}
+
+struct CommandRow {
+    const char* name;
+    int (*run)(const Words& words, const Streams& streams);
+};
+
+constexpr std::array Commands = std::to_array<CommandRow>({
+    {"run", RunCommand},
+    {"parse", ParseCommand},
+    {"same", SameCommand},
+    {"dump", DumpCommand},
+    {"--version", VersionCommand},
+    {"--help", HelpCommand},
+});
+
+}  // namespace
+
+int RunCommandLine(const Words& arguments, const Streams& streams) {
+    if (arguments.empty()) return ReportWrongUse(streams);
+    for (const CommandRow& command : Commands) {
+        if (command.name != arguments[0]) continue;
+        return command.run(Words(arguments.begin() + 1, arguments.end()), streams);
+    }
+    return ReportWrongUse(streams);
+}
+
+}  // namespace tessaryn

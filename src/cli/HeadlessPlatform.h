@@ -1,0 +1,65 @@
+// The outside world without a display: replies wait in queues, and what the program would have
+// shown is kept. The platform of tessaryn-cli and of all tests.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Platform.h"
+
+namespace tessaryn {
+
+struct MessageShown {
+    std::string title;
+    std::string text;
+    Answer answer = Answer::OK;  // what it was answered with
+};
+
+struct OpenForm {
+    Form* form = nullptr;
+    bool modal = false;
+};
+
+struct HeadlessState {
+    // Replies to come. With none queued a message box takes its default button, and a file dialogue
+    // is cancelled.
+    std::deque<Answer> Answers;
+    std::deque<std::optional<std::string>> Files;  // nullopt: cancelled
+
+    // What has happened so far, in order.
+    std::vector<std::string> Beeps;  // their reasons
+    std::vector<MessageShown> Messages;
+    std::vector<std::string> PagesOpened;  // help files and web addresses
+
+    std::string ClipText;
+    std::string ClipRtf;
+
+    std::vector<OpenForm> Forms;  // bottom to top; hidden ones may still be among them
+
+    // Does the user's next action while a modal form is up; false: there is none left.
+    std::function<bool()> NextStep;
+    bool Ended = false;  // EndProgram has been called
+    std::string Fault;   // a reply that did not fit its question; the program was ended for it
+
+    bool PointerBeyondEdge = false;
+    bool HasHelpViewer = false;
+};
+
+inline HeadlessState Headless;
+
+// Starts the program anew on an empty platform, up to the main window's first activation. With
+// showHidden the menu items that are made hidden become reachable.
+void StartHeadless(const std::string& settingsDir = "", bool showHidden = false);
+
+// The form that the user's actions go to; the main window if nothing else is open.
+Form& TopForm();
+
+// True while a modal form keeps the user from the main window.
+bool ModalFormOpen();
+
+const char* AnswerName(Answer answer);
+
+}  // namespace tessaryn

@@ -1,0 +1,259 @@
+#include "cli/Keyboard.h"
+
+#include <algorithm>
+
+#include "cli/FormState.h"
+#include "platform/Events.h"
+#include "platform/Platform.h"
+#include "platform/TextSteps.h"
+
+namespace tessaryn {
+
+namespace {
+
+KeyEvent PlainKey(Key which) {
+    KeyEvent key;
+    key.key = which;
+    return key;
+}
+
+bool TakesFocus(const Control& control) {
+    if (!control.Visible || !control.Enabled) return false;
+    return dynamic_cast<const RichTextBox*>(&control) != nullptr ||
+           dynamic_cast<const TextBox*>(&control) != nullptr ||
+           dynamic_cast<const Button*>(&control) != nullptr ||
+           dynamic_cast<const CheckBox*>(&control) != nullptr ||
+           dynamic_cast<const OptionButton*>(&control) != nullptr;
+}
+
+const MenuItem* ParentOf(const MenuItem& item) {
+    for (const Control* control : item.Parent.Controls) {
+        const auto* title = dynamic_cast<const MenuItem*>(control);
+        if (title == nullptr) continue;
+        if (std::find(title->Items.begin(), title->Items.end(), &item) != title->Items.end()) {
+            return title;
+        }
+    }
+    return nullptr;
+}
+
+std::string ShortcutName(const KeyEvent& key) {
+    if (key.key == Key::Function) return "F" + std::to_string(key.number);
+    if (key.key == Key::Char && key.ctrl) return "Ctrl+" + key.text;
+    return "";
+}
+
+bool PressShortcut(Form& form, const KeyEvent& key) {
+    const std::string shortcut = ShortcutName(key);
+    if (shortcut.empty()) return false;
+    for (Control* control : form.Controls) {
+        auto* item = dynamic_cast<MenuItem*>(control);
+        if (item != nullptr && item->Shortcut == shortcut && CanReach(*item)) {
+            return SendChoose(*item);
+        }
+    }
+    return false;
+}
+
+void ReplaceSelection(TextBox& box, const std::string& text) {
+    const auto start = static_cast<std::size_t>(box.SelStart);
+    box.Text.replace(start, static_cast<std::size_t>(box.SelLength), text);
+    box.SelStart += static_cast<int>(text.size());
+    box.SelLength = 0;
+}
+
+void Select(TextBox& box, int start, int end) {
+    box.SelStart = start;
+    box.SelLength = end - start;
+}
+
+// The selection, or else the character ahead of or behind the caret.
+void Delete(TextBox& box, bool forward) {
+    if (box.SelLength == 0) {
+        const int caret = box.SelStart;
+        const int length = static_cast<int>(box.Text.size());
+        if (forward && caret < length) Select(box, caret, StepEnd(box.Text, caret));
+        if (!forward && caret > 0) Select(box, StepStart(box.Text, caret - 1), caret);
+    }
+    ReplaceSelection(box, "");
+}
+
+std::string Selected(const TextBox& box) {
+    return box.Text.substr(static_cast<std::size_t>(box.SelStart),
+                           static_cast<std::size_t>(box.SelLength));
+}
+
+std::string WithoutLineEnds(std::string text) {
+    std::erase_if(text, [](char character) { return character == '\r' || character == '\n'; });
+    return text;
+}
+
+void EditByCtrlKey(TextBox& box, const std::string& letter) {
+    if (letter == "A") Select(box, 0, static_cast<int>(box.Text.size()));
+    if ((letter == "C" || letter == "X") && box.SelLength > 0) ClipboardSetText(Selected(box));
+    if (letter == "X") ReplaceSelection(box, "");
+    if (letter == "V") ReplaceSelection(box, WithoutLineEnds(ClipboardText()));
+}
+
+// Programs may have shortened the text under the selection.
+void LimitSelection(TextBox& box) {
+    const int length = static_cast<int>(box.Text.size());
+    box.SelStart = std::clamp(box.SelStart, 0, length);
+    box.SelLength = std::clamp(box.SelLength, 0, length - box.SelStart);
+}
+
+void MoveCaret(TextBox& box, Key key) {
+    const int length = static_cast<int>(box.Text.size());
+    const int caret = box.SelStart;
+    if (key == Key::Left && caret > 0) box.SelStart = StepStart(box.Text, caret - 1);
+    if (key == Key::Right && caret < length) box.SelStart = StepEnd(box.Text, caret);
+    if (key == Key::Home) box.SelStart = 0;
+    if (key == Key::End) box.SelStart = length;
+    box.SelLength = 0;
+}
+
+void Edit(TextBox& box, const KeyEvent& key) {
+    LimitSelection(box);
+    const std::string before = box.Text;
+    if (key.key == Key::Char && key.ctrl) {
+        EditByCtrlKey(box, key.text);
+    } else if (key.key == Key::Char) {
+        ReplaceSelection(box, key.text);
+    } else if (key.key == Key::Del || key.key == Key::Backspace) {
+        Delete(box, key.key == Key::Del);
+    } else {
+        MoveCaret(box, key.key);
+    }
+    if (box.Text != before && box.Change) box.Change();
+}
+
+void Edit(RichTextBox& box, const KeyEvent& key) {
+    if (box.ReadOnly) return;
+    const auto revision = box.ContentRevision();
+    if (key.key == Key::Char && !key.ctrl) box.TypeText(key.text);
+    if (key.key == Key::Enter) box.TypeText("\r\n");
+    if (key.key == Key::Del) box.DeleteForward();
+    if (key.key == Key::Backspace) box.DeleteBackward();
+    if (box.ContentRevision() != revision && box.Change) box.Change();
+}
+
+bool TakesEnter(const Control* focus) {
+    const auto* box = dynamic_cast<const RichTextBox*>(focus);
+    return box != nullptr && box->MultiLine && !box->ReadOnly;
+}
+
+// Enter where no box takes it: the button that has the focus, else the form's default.
+void PressButton(Form& form, Control* focus) {
+    auto* button = dynamic_cast<Button*>(focus);
+    if (button == nullptr) button = form.DefaultButton;
+    if (button != nullptr) SendChoose(*button);
+}
+
+void SelectAll(Control& box) {
+    if (auto* plain = dynamic_cast<TextBox*>(&box)) {
+        Select(*plain, 0, static_cast<int>(plain->Text.size()));
+    }
+    if (auto* rich = dynamic_cast<RichTextBox*>(&box)) {
+        rich->SelStart = 0;
+        rich->SelLength = rich->TextLength();
+    }
+}
+
+// A handler may leave text behind the caret ("e " for a typed "@" in a comment). Where the whole
+// content is being replaced there must be none. What is typed next keeps its format.
+void CutBehindCaret(RichTextBox& box) {
+    const int caret = box.SelStart;
+    if (caret >= box.TextLength()) return;
+    const CharFormat format = box.InsertionFormat();
+    box.SelLength = box.TextLength() - caret;
+    box.SelText = std::string();
+    box.SelFontName = format.Font;
+    box.SelFontSize = format.Size;
+    box.SelColor = format.Color;
+    box.SelBold = format.Bold;
+}
+
+void PutCaretAtEnd(Control& box) {
+    if (auto* plain = dynamic_cast<TextBox*>(&box)) {
+        plain->SelStart = static_cast<int>(plain->Text.size());
+        plain->SelLength = 0;
+    }
+    if (auto* rich = dynamic_cast<RichTextBox*>(&box)) rich->SelStart = rich->TextLength();
+}
+
+}  // namespace
+
+Control* FocusOf(const Form& form) {
+    if (form.ActiveControl != nullptr) return form.ActiveControl;
+    auto first = std::find_if(form.Controls.begin(), form.Controls.end(),
+                              [](const Control* control) { return TakesFocus(*control); });
+    return first == form.Controls.end() ? nullptr : *first;
+}
+
+bool CanReach(const Control& control) {
+    if (!control.Visible || !control.Enabled) return false;
+    const auto* item = dynamic_cast<const MenuItem*>(&control);
+    const MenuItem* title = item == nullptr ? nullptr : ParentOf(*item);
+    return title == nullptr || CanReach(*title);
+}
+
+std::vector<KeyEvent> KeysOf(const std::string& text) {
+    std::vector<KeyEvent> keys;
+    for (int at = 0, next = 0; at < static_cast<int>(text.size()); at = next) {
+        next = StepEnd(text, at);
+        KeyEvent key;
+        key.text = text.substr(static_cast<std::size_t>(at), static_cast<std::size_t>(next - at));
+        if (key.text.find_first_of("\r\n") == 0) key = PlainKey(Key::Enter);
+        if (key.text == "\t") key = PlainKey(Key::Tab);
+        keys.push_back(key);
+    }
+    return keys;
+}
+
+bool KeyFromName(const std::string& name, KeyEvent& key) {
+    key = {};
+    if (name == "Esc") key.key = Key::Esc;
+    if (name == "Enter") key.key = Key::Enter;
+    if (name == "Del") key.key = Key::Del;
+    for (int number = 2; number <= 12; ++number) {
+        if (name != "F" + std::to_string(number)) continue;
+        key.key = Key::Function;
+        key.number = number;
+    }
+    if (name.size() == 6 && name.starts_with("Ctrl+") && name[5] >= 'A' && name[5] <= 'Z') {
+        key.ctrl = true;
+        key.text = name.substr(5);
+    }
+    return key.key != Key::Char || key.ctrl;
+}
+
+void PressKey(Form& form, const KeyEvent& key) {
+    if (PressShortcut(form, key)) return;
+    Control* focus = FocusOf(form);
+    if (SendKey(form, focus, key)) return;
+    if (key.key == Key::Enter && !TakesEnter(focus)) {
+        PressButton(form, focus);
+    } else if (auto* plain = dynamic_cast<TextBox*>(focus)) {
+        Edit(*plain, key);
+    } else if (auto* rich = dynamic_cast<RichTextBox*>(focus)) {
+        Edit(*rich, key);
+    }
+}
+
+void ReplaceByTyping(Control& box, const std::string& text) {
+    auto* rich = dynamic_cast<RichTextBox*>(&box);
+    const bool oneLine = rich == nullptr || !rich->MultiLine;
+    const std::string wanted = oneLine ? WithoutLineEnds(text) : WithCrLf(text);
+    box.SetFocus();
+    if (ControlText(box) != wanted) {
+        SelectAll(box);
+        if (wanted.empty()) PressKey(box.Parent, PlainKey(Key::Del));
+        for (const KeyEvent& key : KeysOf(wanted)) {
+            PressKey(box.Parent, key);
+            if (rich != nullptr) CutBehindCaret(*rich);
+        }
+    }
+    PutCaretAtEnd(box);
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,31 @@
+// The user's keyboard without a display: menu shortcuts, the form's and the box's key events, and
+// the editing that a toolkit's boxes do by themselves.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Form.h"
+
+namespace tessaryn {
+
+// The control that keys go to; nullptr if the form has none that could take them.
+Control* FocusOf(const Form& form);
+
+// The keys that type a text; a line feed is Enter.
+std::vector<KeyEvent> KeysOf(const std::string& text);
+
+// "Esc", "Enter", "Del", "F2" to "F12", "Ctrl+A" to "Ctrl+Z". False: no such key.
+bool KeyFromName(const std::string& name, KeyEvent& key);
+
+// One key pressed in a form.
+void PressKey(Form& form, const KeyEvent& key);
+
+// The item whose title, or the title above that, is hidden or disabled can't be chosen either.
+bool CanReach(const Control& control);
+
+// Replaces the content of a box as selecting all and typing would. The caret ends behind the text;
+// no event is sent if the text is there already. A one-line box leaves line feeds out.
+void ReplaceByTyping(Control& box, const std::string& text);
+
+}  // namespace tessaryn

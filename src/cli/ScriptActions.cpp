@@ -1,0 +1,200 @@
+// The actions of a script by name. Each takes its arguments, checks that a user could do it now,
+// and sends the program what a user's hand would.
+#include <algorithm>
+#include <array>
+#include <ostream>
+
+#include "cli/FormState.h"
+#include "cli/HeadlessPlatform.h"
+#include "cli/Keyboard.h"
+#include "cli/Script.h"
+#include "cli/ScriptTargets.h"
+#include "cli/StateDump.h"
+#include "mainwindow/Proof.h"
+#include "platform/Events.h"
+
+namespace tessaryn {
+
+namespace {
+
+bool HasCommand(const Control& control) {
+    if (const auto* button = dynamic_cast<const Button*>(&control)) return bool(button->Click);
+    if (const auto* item = dynamic_cast<const MenuItem*>(&control)) return bool(item->Click);
+    return dynamic_cast<const CheckBox*>(&control) != nullptr ||
+           dynamic_cast<const OptionButton*>(&control) != nullptr;
+}
+
+Control& ChoosableControl(const std::string& name) {
+    Control& control = FindControl(name);
+    if (!control.Parent.Enabled) throw ActionFailed{control.Parent.Name + " is disabled"};
+    if (!CanReach(control)) throw ActionFailed{name + " is hidden or disabled"};
+    if (!HasCommand(control)) throw ActionFailed{"there is no command behind " + name};
+    return control;
+}
+
+// The display, if no form keeps the user from it.
+RichTextBox& ReachableDisplay() {
+    if (ModalFormOpen()) {
+        throw ActionFailed{"the proof can't be clicked while " + TopForm().Name + " is open"};
+    }
+    return Proof.RTB;
+}
+
+Control& EditableBox(const std::string& name) {
+    Control& control = FindControl(name);
+    const auto* rich = dynamic_cast<RichTextBox*>(&control);
+    if (rich == nullptr && dynamic_cast<TextBox*>(&control) == nullptr) {
+        throw ActionFailed{name + " is no box"};
+    }
+    if (!CanReach(control)) throw ActionFailed{name + " is hidden or disabled"};
+    if (rich != nullptr && rich->ReadOnly) throw ActionFailed{name + " can't be edited"};
+    return control;
+}
+
+void Choose(ScriptRun&, Arguments& arguments) {
+    const std::string name = arguments.Word();
+    arguments.End();
+    SendChoose(ChoosableControl(name));
+}
+
+// The keys are pressed one by one in the steps that follow, so that each goes to what is on top by
+// then.
+void Type(ScriptRun& run, Arguments& arguments) {
+    const std::string text = arguments.Text();
+    arguments.End();
+    if (FocusOf(TopForm()) == nullptr) throw ActionFailed{"no box has the focus"};
+    const std::vector<KeyEvent> keys = KeysOf(text);
+    run.keys.assign(keys.begin(), keys.end());
+}
+
+void Set(ScriptRun&, Arguments& arguments) {
+    const std::string name = arguments.Word();
+    const std::string text = arguments.Text();
+    arguments.End();
+    ReplaceByTyping(EditableBox(name), text);
+}
+
+void PressNamedKey(ScriptRun&, Arguments& arguments) {
+    const std::string name = arguments.Word();
+    arguments.End();
+    KeyEvent key;
+    if (!KeyFromName(name, key)) throw ActionFailed{"there is no key " + name};
+    PressKey(TopForm(), key);
+}
+
+void Click(ScriptRun&, Arguments& arguments) {
+    RichTextBox& display = ReachableDisplay();
+    SendClick(display, ClickTarget(arguments));
+}
+
+void DoubleClick(ScriptRun&, Arguments& arguments) {
+    RichTextBox& display = ReachableDisplay();
+    SendDoubleClick(display, ClickTarget(arguments));
+}
+
+void SelectText(ScriptRun&, Arguments& arguments) {
+    RichTextBox& display = ReachableDisplay();
+    const Place place = SelectTarget(arguments);
+    SendClick(display, place.start, place.length);
+}
+
+void Pick(ScriptRun&, Arguments& arguments) {
+    Form& form = TopForm();
+    auto* box = dynamic_cast<RichTextBox*>(form.Find("RTB"));
+    if (&form == &Proof || box == nullptr || !box->Click) {
+        throw ActionFailed{"no dialogue with a statement to pick from is open"};
+    }
+    SendClick(*box, PickTarget(*box, arguments));
+}
+
+void QueueAnswer(ScriptRun&, Arguments& arguments) {
+    const std::string word = arguments.Word();
+    arguments.End();
+    for (const Answer answer : {Answer::OK, Answer::Yes, Answer::No, Answer::Cancel}) {
+        if (word != AnswerName(answer)) continue;
+        Headless.Answers.push_back(answer);
+        return;
+    }
+    throw ActionFailed{"an answer is Yes, No, Cancel or OK, not " + word};
+}
+
+void QueueFile(ScriptRun&, Arguments& arguments) {
+    if (arguments.Take("cancel")) {
+        Headless.Files.push_back(std::nullopt);
+    } else {
+        Headless.Files.push_back(arguments.Text());
+    }
+    arguments.End();
+}
+
+void ChooseWithFile(const std::string& item, Arguments& arguments) {
+    const std::string path = arguments.Text();
+    arguments.End();
+    Control& control = ChoosableControl(item);
+    Headless.Files.push_back(path);
+    SendChoose(control);
+}
+
+void Open(ScriptRun&, Arguments& arguments) {
+    ChooseWithFile("optOpen", arguments);
+}
+
+void Save(ScriptRun&, Arguments& arguments) {
+    ChooseWithFile("optSaveAs", arguments);
+}
+
+void Echo(ScriptRun& run, Arguments& arguments) {
+    const std::string text = arguments.Text();
+    arguments.End();
+    run.out << text << '\n';
+}
+
+void Show(ScriptRun& run, Arguments& arguments) {
+    arguments.End();
+    std::string text = TextWithSigns(Proof.RTB, {"ε", "▶", "▲"});
+    std::erase(text, '\r');
+    run.out << text;
+    if (!text.empty() && !text.ends_with('\n')) run.out << '\n';
+}
+
+void Dump(ScriptRun& run, Arguments& arguments) {
+    arguments.End();
+    run.out << StateAsJson(run.beepsDumped, run.messagesDumped) << '\n';
+    run.beepsDumped = Headless.Beeps.size();
+    run.messagesDumped = Headless.Messages.size();
+}
+
+constexpr std::array Actions = std::to_array<ActionRow>({
+    {"choose", Choose},
+    {"type", Type},
+    {"set", Set},
+    {"key", PressNamedKey},
+    {"click", Click},
+    {"doubleclick", DoubleClick},
+    {"select", SelectText},
+    {"pick", Pick},
+    {"answer", QueueAnswer},
+    {"file", QueueFile},
+    {"open", Open},
+    {"save", Save},
+    {"expect", Expect},
+    {"echo", Echo},
+    {"show", Show},
+    {"dump", Dump},
+});
+
+}  // namespace
+
+Action FindScriptAction(std::string_view name) {
+    return FindAction(Actions, name);
+}
+
+Control& FindControl(const std::string& name) {
+    Form& top = TopForm();
+    Control* control = top.Find(name);
+    if (control == nullptr && !ModalFormOpen()) control = Proof.Find(name);
+    if (control == nullptr) throw ActionFailed{top.Name + " has no " + name};
+    return *control;
+}
+
+}  // namespace tessaryn

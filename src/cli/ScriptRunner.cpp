@@ -1,0 +1,119 @@
+#include "cli/ScriptRunner.h"
+
+#include <exception>
+#include <ostream>
+#include <sstream>
+
+#include "cli/HeadlessPlatform.h"
+#include "cli/Keyboard.h"
+#include "cli/Script.h"
+#include "document/Invariants.h"
+
+namespace tessaryn {
+
+namespace {
+
+std::vector<std::string> SplitLines(const std::string& script) {
+    std::vector<std::string> lines;
+    std::istringstream stream(script.starts_with("\xEF\xBB\xBF") ? script.substr(3) : script);
+    for (std::string line; std::getline(stream, line);) {
+        if (line.ends_with('\r')) line.pop_back();
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+bool IsAction(const std::string& line) {
+    const std::size_t first = line.find_first_not_of(" \t");
+    return first != std::string::npos && line[first] != '#';
+}
+
+void DoLine(ScriptRun& run, const std::string& line) {
+    Arguments arguments(line);
+    const std::string name = arguments.Word();
+    const Action action = FindScriptAction(name);
+    if (action == nullptr) throw ActionFailed{"there is no action " + name};
+    if (name != "expect") {
+        run.beepsBefore = Headless.Beeps.size();
+        run.messagesBefore = Headless.Messages.size();
+    }
+    action(run, arguments);
+}
+
+// False at the end of the script.
+bool DoNext(ScriptRun& run) {
+    if (!run.keys.empty()) {
+        const KeyEvent key = run.keys.front();
+        run.keys.pop_front();
+        PressKey(TopForm(), key);
+        return true;
+    }
+    while (run.line < run.lines.size()) {
+        const std::string& line = run.lines[run.line++];
+        if (!IsAction(line)) continue;
+        DoLine(run, line);
+        return true;
+    }
+    return false;
+}
+
+// A command that waits in a modal form may be half done.
+void CheckState(const ScriptRun& run) {
+    if (!run.checkDocument || ModalFormOpen()) return;
+    const std::string fault = CheckDocument();
+    if (!fault.empty()) throw ActionFailed{"the document does not agree with itself: " + fault};
+}
+
+// False if the run is over. Nothing but ProgramEnded leaves it, as events lie on the stack below.
+bool Step(ScriptRun& run) {
+    if (Headless.Ended || !run.failure.empty()) return false;
+    try {
+        if (!DoNext(run)) return false;
+        CheckState(run);
+    } catch (const ActionFailed& failed) {
+        run.failure = failed.reason;
+    }
+    return run.failure.empty() && !Headless.Ended;
+}
+
+void RunToEnd(ScriptRun& run, const ScriptOptions& options) {
+    Headless.NextStep = [&run] { return Step(run); };
+    try {
+        StartHeadless(options.settingsDir, options.showHidden);
+        while (Step(run)) {
+        }
+    } catch (const ProgramEnded&) {
+        if (run.failure.empty()) run.failure = Headless.Fault;
+    } catch (const std::exception& unexpected) {
+        run.failure = std::string("unexpected failure: ") + unexpected.what();
+    }
+    Headless.NextStep = nullptr;
+}
+
+std::string LastBeep() {
+    if (Headless.Beeps.empty() || Headless.Beeps.back().empty()) return "";
+    return " (last beep: " + Headless.Beeps.back() + ")";
+}
+
+}  // namespace
+
+int RunScript(const std::string& script, const std::string& name, const ScriptOptions& options,
+              std::ostream& out, std::ostream& err) {
+    ScriptRun run(out);
+    run.lines = SplitLines(script);
+    run.checkDocument = options.checkDocument;
+    RunToEnd(run, options);
+    if (run.failure.empty()) return 0;
+    err << name << ':' << run.line << ": " << run.failure << LastBeep() << '\n';
+    return 1;
+}
+
+ScriptResult RunScript(const std::string& script, const std::string& name,
+                       const ScriptOptions& options) {
+    std::ostringstream out;
+    std::ostringstream err;
+    const int status = RunScript(script, name, options, out, err);
+    return {status, out.str(), err.str()};
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,37 @@
+// Runs a script of user actions, one a line, against the program. docs/scripts.md tells what a
+// script may hold.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+
+namespace tessaryn {
+
+#ifdef NDEBUG
+inline constexpr bool CheckByDefault = false;
+#else
+inline constexpr bool CheckByDefault = true;
+#endif
+
+struct ScriptOptions {
+    std::string settingsDir;              // "" reads and writes no settings
+    bool showHidden = false;              // menu items that are made hidden can be chosen
+    bool checkDocument = CheckByDefault;  // after each action; a fault ends the run
+};
+
+// Results go to out, the reason of a failure to err as "NAME:LINE: reason". Gives the exit status:
+// 0 done, 1 an action could not be done or an expectation failed.
+int RunScript(const std::string& script, const std::string& name, const ScriptOptions& options,
+              std::ostream& out, std::ostream& err);
+
+struct ScriptResult {
+    int status = 0;
+    std::string output;
+    std::string error;
+};
+
+// The same for tests.
+ScriptResult RunScript(const std::string& script, const std::string& name = "script",
+                       const ScriptOptions& options = {});
+
+}  // namespace tessaryn
