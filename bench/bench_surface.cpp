@@ -91,6 +91,19 @@ void RunsInOneScreen(benchmark::State& state) {
     for (auto _ : state) benchmark::DoNotOptimize(box.RunsIn(middle, middle + 5000));
 }
 
+// Copying the whole display, and taking it back into an editing box.
+void WriteAndReadRtf(benchmark::State& state) {
+    const Content content(static_cast<int>(state.range(0)));
+    Form form{"Proof"};
+    RichTextBox display{form, "RTB"};
+    RichTextBox editor{form, "CommentBox"};
+    display.SetBlocks(content.text, content.blocks, SevenRuns);
+    for (auto _ : state) {
+        editor.TextRTF = display.TextRTF;
+        editor.TextRTF = "";
+    }
+}
+
 void Sizes(benchmark::internal::Benchmark* bench) {
     for (const int count : {100, 1000, 10000, 32000}) bench->Arg(count);
     bench->Unit(benchmark::kMicrosecond);
@@ -100,6 +113,7 @@ BENCHMARK(SetBlocksOneAtTheEnd)->Apply(Sizes);
 BENCHMARK(SetBlocksOneAtTheSecondPlace)->Apply(Sizes);
 BENCHMARK(RunsInAllPending)->Apply(Sizes);
 BENCHMARK(RunsInOneScreen)->Apply(Sizes);
+BENCHMARK(WriteAndReadRtf)->Apply(Sizes);
 
 }  // namespace
 }  // namespace tessaryn

@@ -126,6 +126,7 @@ void RichTextBox::ReplaceSelection(std::string_view text, const std::vector<Form
 
 void RichTextBox::LoadFromEditor(std::string text, const std::vector<FormatRun>& runs, int selStart,
                                  int selLength) {
+    if (TextLength() > 0) lastFormat_ = content_.FormatAt(0);
     content_.Assign(std::move(text), runs);
     ++contentRevision_;
     change_ = {};

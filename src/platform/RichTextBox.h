@@ -100,7 +100,8 @@ struct RichTextBox : Control {
     bool ReadOnly = false;
     bool MultiLine = true;
 
-    // --- editing as by the user, where the front end has no editor of its own
+    // --- editing as by the user, where the front end has no editor of its own. Firing Change is
+    // the front end's part. A box that is ReadOnly stays as it is.
 
     void TypeText(std::string_view text);  // replaces the selection, as SelText does
     void DeleteForward();  // the selection, or the character (CR LF as one) behind it
@@ -133,7 +134,7 @@ struct RichTextBox : Control {
 
     // What changed since the last call, formats included.
     SurfaceChange TakeChange();
-    // Counts changes of content or format, and of selection.
+    // Counts changes of content, format or alignment, and of selection or insertion format.
     std::uint64_t ContentRevision() const { return contentRevision_; }
     std::uint64_t SelectionRevision() const { return selectionRevision_; }
     // Replaces content from the front end's own editor; tells nobody.

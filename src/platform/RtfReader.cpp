@@ -19,7 +19,7 @@ namespace {
 // Far above what any text needs; a hostile one must not eat the memory.
 constexpr std::size_t longestInput = 64u << 20;
 constexpr std::size_t deepestGroup = 1000;
-constexpr std::size_t mostRuns = 1000000;
+constexpr std::size_t mostRuns = 500000;
 constexpr std::size_t mostTableEntries = 65536;
 constexpr std::size_t longestFontName = 100;
 constexpr char32_t replacementCharacter = 0xFFFD;
@@ -82,6 +82,11 @@ bool IsLetter(char c) {
 }
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
+}
+
+// Stands for itself wherever it is.
+bool IsPlainAscii(char c) {
+    return c >= ' ' && c <= '~' && c != '\\' && c != '{' && c != '}' && c != ';';
 }
 
 int HexValue(char c) {
@@ -150,15 +155,15 @@ class Reader {
     }
 
     void ReadPlain() {
-        const int start = static_cast<int>(at);
-        const int length = SequenceLength(rtf, start);
-        at += static_cast<std::size_t>(length);
+        const std::size_t start = at;
+        at += static_cast<std::size_t>(SequenceLength(rtf, static_cast<int>(start)));
         if (SkipFallback()) return;
-        const auto sequence =
-            rtf.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
-        if (group.destination != Destination::Text && sequence == ";") return EndTableEntry();
-        if (length > 1) return Put(sequence);
-        Put(FromWindows1252(static_cast<unsigned char>(sequence[0])));
+        if (group.destination != Destination::Text && rtf[start] == ';') return EndTableEntry();
+        if (at == start + 1 && !IsPlainAscii(rtf[start])) {
+            return Put(FromWindows1252(static_cast<unsigned char>(rtf[start])));
+        }
+        while (at < rtf.size() && IsPlainAscii(rtf[at])) ++at;
+        Put(rtf.substr(start, at - start));
     }
 
     void ReadControl() {
@@ -364,9 +369,7 @@ class Reader {
 
     void Put(std::string_view sequence) {
         starred = false;
-        if (group.destination == Destination::Fonts && font.name.size() < longestFontName) {
-            font.name += sequence;
-        }
+        if (group.destination == Destination::Fonts) return LengthenFontName(sequence);
         if (group.destination != Destination::Text || group.hidden) return;
         FlushHighUnit();
         text += sequence;
@@ -377,6 +380,12 @@ class Reader {
         } else {
             runs.push_back({length, group.format});
         }
+    }
+
+    void LengthenFontName(std::string_view sequence) {
+        font.name += sequence.substr(0, longestFontName);
+        const int end = static_cast<int>(std::min(font.name.size(), longestFontName));
+        font.name.resize(static_cast<std::size_t>(CharStart(font.name, end)));
     }
 
     // --- the result

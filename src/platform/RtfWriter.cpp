@@ -1,5 +1,5 @@
-#include <algorithm>
 #include <array>
+#include <unordered_map>
 
 #include "platform/Rtf.h"
 #include "platform/TextSteps.h"
@@ -8,14 +8,22 @@ namespace tessaryn {
 
 namespace {
 
-// A font or colour list in which each stands once; its number is its index.
+// The fonts or colours used, each once, numbered from 0.
 template <class T>
-std::size_t NumberIn(std::vector<T>& list, const T& value) {
-    const auto found = std::find(list.begin(), list.end(), value);
-    const auto number = static_cast<std::size_t>(found - list.begin());
-    if (found == list.end()) list.push_back(value);
-    return number;
-}
+struct Numbered {
+    explicit Numbered(const T& first) { NumberOf(first); }
+
+    std::size_t NumberOf(const T& value) {
+        const auto [entry, added] = numbers.try_emplace(value, list.size());
+        if (added) list.push_back(value);
+        return entry->second;
+    }
+
+    std::vector<T> list;
+
+  private:
+    std::unordered_map<T, std::size_t> numbers;
+};
 
 bool IsSymbolFont(const std::string& font) {
     return font == "Symbol" || font == "Webdings";
@@ -85,15 +93,15 @@ void AppendFontName(std::string& rtf, std::string_view font) {
 }
 
 struct Writer {
-    std::vector<std::string> fonts{CharFormat().Font};
-    std::vector<Colour> colours{0};  // number 0 is the reader's own colour for text
+    Numbered<std::string> fonts{CharFormat().Font};
+    Numbered<Colour> colours{0};  // number 0 is the reader's own colour for text
     std::string body;
 
     // Only what differs from the format ahead.
     void PutFormat(const CharFormat& before, const CharFormat& format) {
         const std::size_t start = body.size();
-        const std::size_t font = NumberIn(fonts, format.Font);
-        const std::size_t colour = NumberIn(colours, format.Color);
+        const std::size_t font = fonts.NumberOf(format.Font);
+        const std::size_t colour = colours.NumberOf(format.Color);
         if (format.Font != before.Font) body += "\\f" + std::to_string(font);
         if (format.Size != before.Size) body += "\\fs" + std::to_string(2 * format.Size);
         if (format.Color != before.Color) body += "\\cf" + std::to_string(colour);
@@ -103,10 +111,10 @@ struct Writer {
 
     std::string FontTable() const {
         std::string rtf = "{\\fonttbl";
-        for (std::size_t i = 0; i < fonts.size(); ++i) {
+        for (std::size_t i = 0; i < fonts.list.size(); ++i) {
             rtf += "{\\f" + std::to_string(i);
-            rtf += IsSymbolFont(fonts[i]) ? "\\fnil\\fcharset2 " : "\\fnil\\fcharset0 ";
-            AppendFontName(rtf, fonts[i]);
+            rtf += IsSymbolFont(fonts.list[i]) ? "\\fnil\\fcharset2 " : "\\fnil\\fcharset0 ";
+            AppendFontName(rtf, fonts.list[i]);
             rtf += ";}";
         }
         return rtf + "}\n";
@@ -114,10 +122,11 @@ struct Writer {
 
     std::string ColourTable() const {
         std::string rtf = "{\\colortbl;";
-        for (std::size_t i = 1; i < colours.size(); ++i) {
-            rtf += "\\red" + std::to_string((colours[i] >> 16) & 0xFF);
-            rtf += "\\green" + std::to_string((colours[i] >> 8) & 0xFF);
-            rtf += "\\blue" + std::to_string(colours[i] & 0xFF) + ";";
+        for (std::size_t i = 1; i < colours.list.size(); ++i) {
+            const Colour colour = colours.list[i];
+            rtf += "\\red" + std::to_string((colour >> 16) & 0xFF);
+            rtf += "\\green" + std::to_string((colour >> 8) & 0xFF);
+            rtf += "\\blue" + std::to_string(colour & 0xFF) + ";";
         }
         return rtf + "}\n";
     }

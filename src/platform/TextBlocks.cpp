@@ -47,22 +47,30 @@ void FormatTable::Clear() {
 
 // --- runs of one block
 
-void TextBlocks::AppendRun(StoredRuns& runs, StoredRun run) {
-    if (run.length <= 0) return;
-    if (!runs.empty() && runs.back().format == run.format) {
-        runs.back().length += run.length;
+// The run that covers a position; behind the last one, their number.
+std::size_t TextBlocks::RunAt(const StoredRuns& runs, int position) {
+    const auto found =
+        std::upper_bound(runs.begin(), runs.end(), position,
+                         [](int place, const StoredRun& run) { return place < run.end; });
+    return static_cast<std::size_t>(found - runs.begin());
+}
+
+void TextBlocks::AppendRun(StoredRuns& runs, int length, FormatTable::Id format) {
+    if (length <= 0) return;
+    const int end = (runs.empty() ? 0 : runs.back().end) + length;
+    if (!runs.empty() && runs.back().format == format) {
+        runs.back().end = end;
     } else {
-        runs.push_back(run);
+        runs.push_back({end, format});
     }
 }
 
 // Appends what `source` says of the positions first to last - 1.
 void TextBlocks::AppendPart(StoredRuns& runs, const StoredRuns& source, int first, int last) {
-    int start = 0;
-    for (const StoredRun& run : source) {
-        if (start >= last) break;
-        const int end = start + run.length;
-        AppendRun(runs, {std::min(end, last) - std::max(start, first), run.format});
+    int start = std::max(first, 0);
+    for (std::size_t i = RunAt(source, start); i < source.size() && start < last; ++i) {
+        const int end = std::min(source[i].end, last);
+        AppendRun(runs, end - start, source[i].format);
         start = end;
     }
 }
@@ -71,7 +79,7 @@ TextBlocks::StoredRuns TextBlocks::Stored(const std::vector<FormatRun>& runs, in
     StoredRuns stored;
     int done = 0;
     auto fillTo = [&](int position) {
-        if (done < position) AppendRun(stored, {position - done, formats.Intern({})});
+        if (done < position) AppendRun(stored, position - done, formats.Intern({}));
         done = std::max(done, position);
     };
     for (const FormatRun& run : runs) {
@@ -80,7 +88,7 @@ TextBlocks::StoredRuns TextBlocks::Stored(const std::vector<FormatRun>& runs, in
         const int end = run.start + std::min(run.length, length - std::max(run.start, 0));
         if (end <= start) continue;
         fillTo(start);
-        AppendRun(stored, {end - start, formats.Intern(run.format)});
+        AppendRun(stored, end - start, formats.Intern(run.format));
         done = end;
     }
     fillTo(length);
@@ -123,12 +131,7 @@ const CharFormat& TextBlocks::FormatAt(int position) {
     const std::size_t index = BlockAt(position);
     StoredBlock& block = blocks[index];
     EnsureFormatted(block);
-    int end = Starts()[index];
-    for (const StoredRun& run : block.runs) {
-        end += run.length;
-        if (position < end) return formats[run.format];
-    }
-    return formats[block.runs.back().format];
+    return formats[block.runs[RunAt(block.runs, position - Starts()[index])].format];
 }
 
 std::vector<FormatRun> TextBlocks::RunsIn(int first, int last) {
@@ -142,8 +145,9 @@ std::vector<FormatRun> TextBlocks::RunsIn(int first, int last) {
     result.reserve(found.size());
     int start = first;
     for (const StoredRun& run : found) {
-        result.push_back({start, run.length, formats[run.format]});
-        start += run.length;
+        const int end = first + run.end;
+        result.push_back({start, end - start, formats[run.format]});
+        start = end;
     }
     return result;
 }
@@ -201,7 +205,7 @@ SurfaceChange TextBlocks::Replace(int start, int removed, std::string_view newTe
         EnsureFormatted(blocks[last]);
         StoredRuns all;
         AppendPart(all, blocks[first].runs, 0, start - starts[first]);
-        for (const StoredRun& run : merged[0].runs) AppendRun(all, run);
+        AppendPart(all, merged[0].runs, 0, inserted);
         AppendPart(all, blocks[last].runs, start + removed - starts[last], blocks[last].length);
         merged[0].runs = std::move(all);
         merged[0].length = starts[last] + blocks[last].length - starts[first] - removed + inserted;
@@ -217,20 +221,18 @@ SurfaceChange TextBlocks::Replace(int start, int removed, std::string_view newTe
 SurfaceChange TextBlocks::ReformatBlock(StoredBlock& block, int first, int last,
                                         const Reformatter& reformatter) {
     SurfaceChange change;
-    StoredRuns part;
-    AppendPart(part, block.runs, first, last);
     StoredRuns result;
     AppendPart(result, block.runs, 0, first);
     int start = first;
-    for (const StoredRun& run : part) {
+    for (std::size_t i = RunAt(block.runs, first); start < last; ++i) {
+        const StoredRun& run = block.runs[i];
+        const int length = std::min(run.end, last) - start;
         CharFormat format = formats[run.format];
         reformatter(format);
         const FormatTable::Id id = formats.Intern(format);
-        if (id != run.format) {
-            change = MergedChange(change, {true, start, run.length, run.length});
-        }
-        AppendRun(result, {run.length, id});
-        start += run.length;
+        if (id != run.format) change = MergedChange(change, {true, start, length, length});
+        AppendRun(result, length, id);
+        start += length;
     }
     if (!change.any) return change;
     AppendPart(result, block.runs, last, block.length);

@@ -66,7 +66,7 @@ struct TextBlocks {
 
   private:
     struct StoredRun {
-        int length;
+        int end;  // where it ends in its block; it begins where the one ahead of it ends
         FormatTable::Id format;
     };
     using StoredRuns = std::vector<StoredRun>;
@@ -79,7 +79,8 @@ struct TextBlocks {
         StoredRuns runs;
     };
 
-    static void AppendRun(StoredRuns& runs, StoredRun run);
+    static std::size_t RunAt(const StoredRuns& runs, int position);
+    static void AppendRun(StoredRuns& runs, int length, FormatTable::Id format);
     static void AppendPart(StoredRuns& runs, const StoredRuns& source, int first, int last);
     StoredRuns Stored(const std::vector<FormatRun>& runs, int length);
     void EnsureFormatted(StoredBlock& block);
