@@ -9,11 +9,15 @@ bool SendKey(Form& form, Control* focus, const KeyEvent& key) {
     return false;
 }
 
+void SendRelease(RichTextBox& box) {
+    if (box.Click) box.Click();
+    if (box.MouseUp) box.MouseUp(MouseButton::Left);
+}
+
 void SendClick(RichTextBox& box, int start, int length) {
     box.SelStart = start;
     if (length > 0) box.SelLength = length;
-    if (box.Click) box.Click();
-    if (box.MouseUp) box.MouseUp(MouseButton::Left);
+    SendRelease(box);
 }
 
 void SendDoubleClick(RichTextBox& box, int start) {

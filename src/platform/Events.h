@@ -7,12 +7,17 @@
 
 namespace tessaryn {
 
-// How many forms have been shown since the start; a front end counts each ShowModal and ShowModeless.
+// How many forms have been shown since the start; a front end counts each ShowModal and
+// ShowModeless.
 inline int FormsShown = 0;
 
-// Sends a key to the form and, if it does not take it, to the control with the focus. True if either
-// dealt with it; otherwise the control's own editing applies.
+// Sends a key to the form and, if it does not take it, to the control with the focus. True if
+// either dealt with it; otherwise the control's own editing applies.
 bool SendKey(Form& form, Control* focus, const KeyEvent& key);
+
+// The left button released over a surface, with caret and selection as they stand: Click and the
+// button-up.
+void SendRelease(RichTextBox& box);
 
 // A press and release at a place of a surface: caret at start, `length` characters selected by the
 // drag. Sends Click and the button-up.

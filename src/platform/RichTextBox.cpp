@@ -47,6 +47,12 @@ void RichTextBox::Select(int start, int length) {
 
 void RichTextBox::SetSelStart(int position) {
     Select(CharStart(GetText(), Limited(position)), 0);
+    if (placesToShow_.size() == 2) placesToShow_.erase(placesToShow_.begin());
+    placesToShow_.push_back(selStart_);
+}
+
+std::vector<int> RichTextBox::TakePlacesToShow() {
+    return std::exchange(placesToShow_, {});
 }
 
 void RichTextBox::SetSelLength(int length) {

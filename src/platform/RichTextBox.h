@@ -134,6 +134,9 @@ struct RichTextBox : Control {
 
     // What changed since the last call, formats included.
     SurfaceChange TakeChange();
+    // Where SelStart was set to since the last call, the last two places: each is to be scrolled
+    // into view, in this order and no further than needed.
+    std::vector<int> TakePlacesToShow();
     // Counts changes of content, format or alignment, and of selection or insertion format.
     std::uint64_t ContentRevision() const { return contentRevision_; }
     std::uint64_t SelectionRevision() const { return selectionRevision_; }
@@ -158,6 +161,7 @@ struct RichTextBox : Control {
     std::optional<CharFormat> insertion_;  // set without a selection, until the caret is moved
     CharFormat lastFormat_;                // of the text that was there, once the box is empty
     SurfaceChange change_;
+    std::vector<int> placesToShow_;
     std::uint64_t contentRevision_ = 0;
     std::uint64_t selectionRevision_ = 0;
 };
