@@ -301,6 +301,7 @@ bool BracketTokens(TokenList& tokens, NodeList& nodes, std::string& error, int& 
         errorPos = 0;
         return false;
     }
+    nodes.reserve((chain.links.size() - static_cast<size_t>(chain.lexed)) / 2 + 1);
     FillTable(chain);
     return true;
 }

@@ -14,8 +14,9 @@ struct Builder {
     NodeList& nodes;
     std::string& error;
     int& errorPos;
-    std::vector<int> sameNameBehind;  // by token: the next one of the same name, 0 none; {} unless
-                                      // there is a quantifier
+    std::vector<int> sameNameBehind;  // by token: the next one of the same name, 0 none
+    std::vector<int> firstUse;        // by leaf: its first token
+    std::vector<int> lastUse;         // by leaf: the last token that the walk has passed
 };
 
 int LastToken(const Builder& b) {
@@ -39,7 +40,10 @@ void Fail(Builder& b, std::string message, int token) {
 // Appends the node of the group that closes at k.
 void AddNode(Builder& b, int k, int rule, int ptr1, int ptr2) {
     const int node = static_cast<int>(b.nodes.size());
-    b.nodes.push_back({.Rule = rule, .Name = {}, .Ptr1 = ptr1, .Ptr2 = ptr2});
+    ParseRec& record = b.nodes.emplace_back();
+    record.Rule = rule;
+    record.Ptr1 = ptr1;
+    record.Ptr2 = ptr2;
     b.tokens[k].DPtr = b.tokens[b.tokens[k].TPtr].DPtr = node;
 }
 
@@ -59,26 +63,9 @@ void BuildLNeg(Builder& b, int k) {
     AddNode(b, k, Node::LNeg, NodeAt(b, o + 2), 0);
 }
 
-// A name's node is found at its wrapper, one token ahead.
-bool IsNameAt(const Builder& b, int token) {
-    return b.tokens[token].TPtr == 0 && b.tokens[token - 1].TPtr == token + 1 &&
-           IsName(KindOf(b.tokens[token].Token));
-}
-
-void LinkSameNames(Builder& b) {
-    b.sameNameBehind.assign(b.tokens.size(), 0);
-    std::vector<int> latest(b.nodes.size());
-    for (int i = 2; i < LastToken(b); i++) {
-        if (!IsNameAt(b, i)) continue;
-        const int before = std::exchange(latest[NodeAt(b, i - 1)], i);
-        if (before != 0) b.sameNameBehind[before] = i;
-    }
-}
-
 // Marks the variable and its occurrences up to the token k. False at the first that is marked
 // already; what was marked until then stays so.
 bool MarkBound(Builder& b, int variable, int k) {
-    if (b.sameNameBehind.empty()) LinkSameNames(b);
     for (int m = variable; m != 0 && m <= k; m = b.sameNameBehind[m])
         if (std::exchange(b.tokens[m].Bound, true)) return false;
     return true;
@@ -173,6 +160,12 @@ void BuildFunc(Builder& b, int k) {
             NodeAt(b, o + 4));
 }
 
+// Takes note of the name at a token. The walk passes the names from left to right.
+void ListUse(Builder& b, int leaf, int token) {
+    const int before = std::exchange(b.lastUse[leaf], token);
+    (before == 0 ? b.firstUse[leaf] : b.sameNameBehind[before]) = token;
+}
+
 // The group that closes at k, once its own content is built. False if the walk ends here. It goes
 // on behind a faulty quantifier and a group without an operand; a later message then replaces the
 // first one.
@@ -186,7 +179,10 @@ bool BuildGroup(Builder& b, int k) {
         b.tokens[k].DPtr = b.tokens[o].DPtr = NodeAt(b, k - 1);
         return true;
     }
-    if (NodeAt(b, k) > 0) return true;
+    if (NodeAt(b, k) > 0) {  // so far only the brackets round a name have a node
+        ListUse(b, NodeAt(b, k), k - 1);
+        return true;
+    }
     if (IsQuantifier(b.tokens[o + 1])) {
         BuildQuantifier(b, k);
         return true;
@@ -207,24 +203,24 @@ bool BuildGroup(Builder& b, int k) {
     return b.error.empty();
 }
 
-// No name stands both free and bound. Without a quantifier none is bound.
+// No name stands both free and bound. Leaves are numbered by their first appearance.
 void CheckBound(Builder& b) {
-    if (b.sameNameBehind.empty()) return;
-    std::vector<int> uses(b.nodes.size());  // by node: 1 free, 2 bound, 3 both
-    for (int i = 2; i < LastToken(b); i++)
-        if (IsNameAt(b, i)) uses[NodeAt(b, i - 1)] |= b.tokens[i].Bound ? 2 : 1;
-    for (int i = 2; i < LastToken(b); i++) {
-        if (!IsNameAt(b, i)) continue;
-        const int node = NodeAt(b, i - 1);
-        if (uses[node] == 3 && b.nodes[node].Rule == Node::Atom)
-            return Fail(b, "27. Inconsistent usage of variable " + b.tokens[i].Token, i);
+    for (size_t leaf = 1; leaf < b.firstUse.size(); leaf++) {
+        const int first = b.firstUse[leaf];
+        for (int i = first; i != 0; i = b.sameNameBehind[i]) {
+            if (b.tokens[i].Bound == b.tokens[first].Bound) continue;
+            return Fail(b, "27. Inconsistent usage of variable " + b.nodes[leaf].Name, first);
+        }
     }
 }
 
 }  // namespace
 
 void BuildNodes(TokenList& tokens, NodeList& nodes, std::string& error, int& errorPos) {
-    Builder b{tokens, nodes, error, errorPos, {}};
+    Builder b{tokens, nodes, error, errorPos, {}, {}, {}};
+    b.sameNameBehind.resize(tokens.size());
+    b.firstUse.resize(nodes.size());
+    b.lastUse.resize(nodes.size());
     for (int k = 1; k <= LastToken(b); k++)
         if (IsClosing(tokens[k]) && !BuildGroup(b, k)) return;
     if (nodes.size() == 1) {

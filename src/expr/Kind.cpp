@@ -5,9 +5,9 @@ namespace tessaryn {
 namespace {
 
 int KindOfName(const std::string& token) {
+    if (token[0] < 'A' || token[0] > 'Z') return Node::Atom;
     if (token == "ALL") return Node::ALL;
-    if (token == "EXIST") return Node::EXIST;
-    return token[0] >= 'A' && token[0] <= 'Z' ? Node::Prop : Node::Atom;
+    return token == "EXIST" ? Node::EXIST : Node::Prop;
 }
 
 }  // namespace

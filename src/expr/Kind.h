@@ -34,7 +34,8 @@ inline bool IsBracket(const TokenRec& token) {
     return IsOpening(token) || IsClosing(token);
 }
 inline bool IsQuantifier(const TokenRec& token) {
-    return token.Token == "ALL" || token.Token == "EXIST";
+    const char first = token.Token[0];
+    return (first == 'A' && token.Token == "ALL") || (first == 'E' && token.Token == "EXIST");
 }
 
 }  // namespace tessaryn

@@ -1,6 +1,7 @@
 #include "expr/PrintExpression.h"
 
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "expr/Kind.h"
@@ -120,6 +121,8 @@ void PrintConnective(Printer& printer, std::string_view sign) {
 std::string Print(const std::string& source, const TokenList& tokens, const NodeList& nodes) {
     if (nodes.size() < 2) return {};
     Printer printer{nodes, BreaksOf(source, tokens), {}, 0, {}};
+    printer.text.reserve(source.size() * 2);
+    printer.stack.reserve(64);
     printer.stack.push_back({static_cast<int>(nodes.size()) - 1, {}});
     while (!printer.stack.empty()) {
         const Piece piece = printer.stack.back();
@@ -132,7 +135,7 @@ std::string Print(const std::string& source, const TokenList& tokens, const Node
             printer.text += piece.text;
         }
     }
-    return printer.text;
+    return std::move(printer.text);
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
 #include "expr/Same.h"
 
 #include <algorithm>
-#include <unordered_map>
+#include <iterator>
 #include <utility>
+#include <vector>
 
 #include "expr/Kind.h"
 #include "expr/NameList.h"
@@ -12,73 +13,69 @@ namespace tessaryn {
 
 namespace {
 
-// Places in the token table by the name that stands there, ascending. A place whose token was
-// renamed since may still be listed under the old name.
-using Occurrences = std::unordered_map<std::string, std::vector<int>>;
-
 bool IsNameToken(const TokenRec& token) {
     return !token.Token.empty() && IsName(KindOf(token.Token));
 }
 
-Occurrences OccurrencesIn(const TokenList& tokens) {
-    Occurrences places;
-    for (int i = 1; i < std::ssize(tokens); i++)
-        if (IsNameToken(tokens[i])) places[tokens[i].Token].push_back(i);
-    return places;
-}
-
-// Lists the places of a name that was just given to them. There are earlier ones only if the text
-// itself had a name like the generated ones.
-void AddPlaces(std::vector<int>& places, const std::vector<int>& added) {
-    const auto middle = places.insert(places.end(), added.begin(), added.end());
-    std::inplace_merge(places.begin(), middle, places.end());
-}
-
-void RenameQuantified(TokenList& tokens, Occurrences& places, int quantifier,
-                      const std::string& newName) {
-    const int variable = quantifier + 3;
-    const int body = quantifier + 7;
-    const std::string oldName = std::exchange(tokens[variable].Token, newName);
-    const std::vector<int>& old = places[oldName];
-    std::vector<int> renamed{variable};
-    for (auto at = std::ranges::upper_bound(old, body); at != old.end() && *at <= tokens[body].TPtr;
-         ++at) {
-        if (tokens[*at].Token != oldName) continue;
-        tokens[*at].Token = newName;
-        renamed.push_back(*at);
+// By token: the next one of the same name, 0 if none.
+std::vector<int> LinkSameNames(const TokenList& tokens, size_t nodes) {
+    std::vector<int> behind(tokens.size());
+    std::vector<int> latest(nodes);  // by leaf
+    for (int i = 2; i < std::ssize(tokens); i++) {
+        if (!IsNameToken(tokens[i])) continue;
+        const int before = std::exchange(latest[tokens[i - 1].DPtr], i);
+        behind[before] = i;  // behind[0] is never read
     }
-    AddPlaces(places[newName], renamed);
+    return behind;
+}
+
+// Renames the variable of a quantifier and its occurrences in the body. No quantifier of the same
+// variable lies within the body, so that each token is renamed once at most and the links hold.
+void RenameQuantified(TokenList& tokens, const std::vector<int>& behind, int quantifier,
+                      const std::string& newName) {
+    const int end = tokens[quantifier + 7].TPtr;
+    for (int i = quantifier + 3; i != 0 && i <= end; i = behind[i]) tokens[i].Token = newName;
+}
+
+// The same where the text itself has names with "#": a token that became v#1 is renamed again by a
+// quantifier of a written v#1 within the scope.
+void RenameByText(TokenList& tokens, int quantifier, const std::string& newName) {
+    const std::string oldName = std::exchange(tokens[quantifier + 3].Token, newName);
+    for (int i = quantifier + 8; i <= tokens[quantifier + 7].TPtr; i++)
+        if (tokens[i].Token == oldName) tokens[i].Token = newName;
 }
 
 // "SUM" and "PROD" applied to a list: the name in its first place, if there is one, is renamed.
-void RenameFirstArgument(TokenList& tokens, Occurrences& places, int name,
-                         const std::string& newName) {
+void RenameFirstArgument(TokenList& tokens, int name, const std::string& newName) {
     const int argument = name + 5;
     if (argument >= std::ssize(tokens)) return;
     const TokenRec& behind = tokens[name + 2];
     const bool applied = behind.Token == "(" && behind.Position > 0;
-    if (!applied || KindOf(tokens[argument].Token) != Node::Atom) return;
-    tokens[argument].Token = newName;
-    AddPlaces(places[newName], {argument});
+    if (applied && KindOf(tokens[argument].Token) == Node::Atom) tokens[argument].Token = newName;
 }
 
 bool BindsName(const TokenRec& token) {
     return IsQuantifier(token) || token.Token == "SUM" || token.Token == "PROD";
 }
 
-void RenameBound(TokenList& tokens) {
-    if (std::ranges::none_of(tokens, BindsName)) return;
-    Occurrences places = OccurrencesIn(tokens);
+// Gives the bound variables the names v#1, v#2 ... False if there is nothing that could bind one.
+bool RenameBound(const std::string& text, TokenList& tokens, size_t nodes) {
+    if (std::ranges::none_of(tokens, BindsName)) return false;
+    const bool byText = text.find('#') != text.npos;
+    const std::vector<int> behind = LinkSameNames(tokens, nodes);
     int counter = 0;
     for (int i = 1; i < std::ssize(tokens); i++) {
         if (!BindsName(tokens[i])) continue;
         const std::string newName = "v#" + std::to_string(++counter);
-        if (IsQuantifier(tokens[i])) {
-            RenameQuantified(tokens, places, i, newName);
+        if (!IsQuantifier(tokens[i])) {
+            RenameFirstArgument(tokens, i, newName);
+        } else if (byText) {
+            RenameByText(tokens, i, newName);
         } else {
-            RenameFirstArgument(tokens, places, i, newName);
+            RenameQuantified(tokens, behind, i, newName);
         }
     }
+    return true;
 }
 
 std::string WrittenText(const TokenList& tokens) {
@@ -88,20 +85,21 @@ std::string WrittenText(const TokenList& tokens) {
     return text;
 }
 
-// Parses text, replaces it by the form with generated names and parses that.
+// Parses text, replaces it by the form with generated names and parses that. With nodesOnly the
+// second parse is left out where it would build the same nodes.
 bool ParseRenamed(std::string& text, TokenList& tokens, NodeList& nodes, std::string& error,
-                  int& errorPos) {
+                  int& errorPos, bool nodesOnly) {
     ParseText(text, tokens, nodes, error, errorPos);
     if (!error.empty()) return false;
-    RenameBound(tokens);
+    if (!RenameBound(text, tokens, nodes.size()) && nodesOnly) return true;
     text = WrittenText(tokens);
     ParseText(text, tokens, nodes, error, errorPos);
     return error.empty();
 }
 
-bool ParseRenamedGlobal(const std::string& text) {
+bool ParseRenamedGlobal(const std::string& text, bool nodesOnly) {
     NewStmtText = text;
-    return ParseRenamed(NewStmtText, TokenTable, ParseTable, ParseError, ParseErrorPos);
+    return ParseRenamed(NewStmtText, TokenTable, ParseTable, ParseError, ParseErrorPos, nodesOnly);
 }
 
 std::string FreeVars(const TokenList& tokens, const NodeList& nodes) {
@@ -120,12 +118,11 @@ std::string FreeVars(const TokenList& tokens, const NodeList& nodes) {
 }  // namespace
 
 bool Same(const std::string& a, const std::string& b) {
-    const bool identical = a == b;
+    if (a == b) return ParseRenamedGlobal(std::string(b), false);
     const std::string second = b;  // b may be NewStmtText itself
-    if (!ParseRenamedGlobal(a)) return false;
-    if (identical) return true;
+    if (!ParseRenamedGlobal(a, true)) return false;
     const NodeList first = std::move(ParseTable);
-    return ParseRenamedGlobal(second) && first == ParseTable;
+    return ParseRenamedGlobal(second, false) && first == ParseTable;
 }
 
 bool SameExpressions(const std::string& a, const std::string& b) {
@@ -133,7 +130,7 @@ bool SameExpressions(const std::string& a, const std::string& b) {
     Expression second;
     const auto parse = [](Expression& to, const std::string& text) {
         to.text = text;
-        return ParseRenamed(to.text, to.tokens, to.nodes, to.error, to.errorPos);
+        return ParseRenamed(to.text, to.tokens, to.nodes, to.error, to.errorPos, true);
     };
     return parse(first, a) && (a == b || (parse(second, b) && first.nodes == second.nodes));
 }

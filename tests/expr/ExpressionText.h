@@ -1,0 +1,23 @@
+// Tables of expressions as text, and the laws that every parsed expression keeps.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "expr/Expression.h"
+
+namespace tessaryn {
+
+// The tree on one line, "All(x,Imply(Elt(x,s),Pred(P,x)))"; "" after a failure.
+std::string Tree(const Expression& expression);
+
+// One line for each token: text, Position, TPtr, DPtr, and " bound" if it is.
+std::vector<std::string> TokenLines(const Expression& expression);
+
+// Whether the bracket pairs lie inside or beside one another.
+bool BracketsNest(const Expression& expression);
+
+// Printing is stable and keeps the tree; the expression is the same as its print.
+void ExpectLaws(const Expression& expression);
+
+}  // namespace tessaryn

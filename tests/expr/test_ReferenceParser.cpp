@@ -1,0 +1,69 @@
+// The parser against its slow definition, and its laws, over random texts.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <functional>
+
+#include "ExpressionText.h"
+#include "RandomText.h"
+#include "ReferenceParser.h"
+#include "expr/Parse.h"
+#include "expr/PrintExpression.h"
+#include "expr/Same.h"
+
+namespace tessaryn {
+
+namespace {
+
+// Returns whether the text parses.
+bool CheckAgainstReference(const std::string& text) {
+    const Expression expected = ReferenceParse(text);
+    const Expression actual = ParseExpression(text);
+    EXPECT_EQ(actual.error, expected.error) << text;
+    EXPECT_EQ(actual.errorPos, expected.errorPos) << text;
+    if (!expected.error.empty()) return false;
+    EXPECT_EQ(TokenLines(actual), TokenLines(expected)) << text;
+    EXPECT_EQ(actual.nodes, expected.nodes) << text;
+    EXPECT_TRUE(BracketsNest(actual)) << text;
+    ExpectLaws(actual);
+    return true;
+}
+
+int CountParsed(int texts, const std::function<std::string()>& next) {
+    int parsed = 0;
+    for (int i = 0; i < texts && !testing::Test::HasFailure(); i++)
+        parsed += CheckAgainstReference(next()) ? 1 : 0;
+    return parsed;
+}
+
+}  // namespace
+
+TEST(Reference, FormulasAndTheirMutations) {
+    Random random(1);
+    const auto next = [&] { return Mutated(random, RandomFormula(random, 5)); };
+    EXPECT_GT(CountParsed(20000, next), 5000);
+}
+
+TEST(Reference, ShortRowsOfTokens) {
+    Random random(2);
+    EXPECT_GT(CountParsed(40000, [&] { return RandomTokens(random, 9); }), 1000);
+}
+
+TEST(Reference, LongRowsOfTokens) {
+    Random random(3);
+    CountParsed(10000, [&] { return RandomTokens(random, 40); });
+}
+
+// Brackets that match by kind but cross, round every sign that makes a group.
+TEST(Reference, CrossingBrackets) {
+    Random random(4);
+    const std::array<const char*, 14> pieces{"(", "[", "(", "[", ")", "]",   ")",
+                                             "]", "x", "P", ":", "~", "ALL", "(x):"};
+    CountParsed(40000, [&] {
+        std::string text = "[";
+        for (size_t i = 4 + random() % 12; i > 0; i--) text += pieces[random() % pieces.size()];
+        return text + "]";
+    });
+}
+
+}  // namespace tessaryn
