@@ -89,7 +89,7 @@ std::string RichTextBox::GetTextRTF() const {
 void RichTextBox::SetTextRTF(const std::string& rtf) {
     RichText content = ReadRtf(rtf);
     lastFormat_ = content.runs.empty() ? CharFormat() : content.runs.front().format;
-    alignment_ = content.alignment;
+    SetSelAlignment(content.alignment);
     ReplaceContent(std::move(content.text), content.runs);
 }
 

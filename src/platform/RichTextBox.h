@@ -4,9 +4,9 @@
 // Text is UTF-8 with CR LF as line end; a position is a 0-based byte. The element sign is the one
 // character "e" in font Symbol, a triangle is "4" or "5" in font Webdings.
 //
-// The content is a row of blocks, each with its own runs of one format. An editing box has a single
-// block. The proof display has one for each statement, and a block's runs are worked out when
-// someone first asks for them.
+// The content is a row of blocks, each with its own runs of one format. The proof display has one
+// block for each statement, and a block's runs are worked out when someone first asks for them.
+// Other content is cut into blocks as suits.
 #pragma once
 
 #include <cstdint>

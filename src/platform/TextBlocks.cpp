@@ -154,6 +154,10 @@ std::vector<FormatRun> TextBlocks::RunsIn(int first, int last) {
 
 // --- changing
 
+// Content that comes whole is cut into pieces, so that an edit moves only the runs of its own
+// piece.
+constexpr int pieceLength = 4096;  // bytes
+
 SurfaceChange TextBlocks::Assign(std::string newText, const std::vector<FormatRun>& runs) {
     const int oldLength = Length();
     text = std::move(newText);
@@ -161,11 +165,12 @@ SurfaceChange TextBlocks::Assign(std::string newText, const std::vector<FormatRu
     starts.clear();
     formats.Clear();  // nothing refers to it any more, so it can't grow for ever
     formatter = nullptr;
-    if (!text.empty()) {
+    const StoredRuns all = Stored(runs, Length());
+    for (int start = 0; start < Length(); start += pieceLength) {
         StoredBlock block;
-        block.length = Length();
+        block.length = std::min(pieceLength, Length() - start);
         block.edited = true;
-        block.runs = Stored(runs, block.length);
+        AppendPart(block.runs, all, start, start + block.length);
         blocks.push_back(std::move(block));
     }
     return {oldLength > 0 || Length() > 0, 0, oldLength, Length()};

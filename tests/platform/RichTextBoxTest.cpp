@@ -146,6 +146,19 @@ TEST_F(RichTextBoxTest, WholeText) {
     EXPECT_EQ(Shown(box), "C12.0[new]");
 }
 
+TEST_F(RichTextBoxTest, LongContentIsCutNowhere) {
+    const std::string text(20000, 'x');
+    box.Text = text;
+    Select(4000, 9000);
+    box.SelColor = 3;
+    box.SelText = "";
+    box.SelText = text;
+    EXPECT_EQ(box.GetText(), std::string(31000, 'x'));
+    EXPECT_EQ(box.Runs(), (std::vector<FormatRun>{{0, 31000, {}}}));
+    box.TextRTF = box.TextRTF;
+    EXPECT_EQ(box.Runs(), (std::vector<FormatRun>{{0, 31000, {}}}));
+}
+
 TEST_F(RichTextBoxTest, RichTextGoesFromBoxToBox) {
     Fill();
     box.SelAlignment = Alignment::Center;
