@@ -1,11 +1,5 @@
 #include "ExpressionText.h"
 
-#include <gtest/gtest.h>
-
-#include "expr/Parse.h"
-#include "expr/PrintExpression.h"
-#include "expr/Same.h"
-
 namespace tessaryn {
 
 namespace {
@@ -39,28 +33,6 @@ std::vector<std::string> TokenLines(const Expression& expression) {
                         (token.Bound ? " bound" : ""));
     }
     return lines;
-}
-
-bool BracketsNest(const Expression& expression) {
-    std::vector<int> open;
-    for (int i = 1; i < std::ssize(expression.tokens); i++) {
-        const int partner = expression.tokens[i].TPtr;
-        if (partner > i) open.push_back(i);
-        if (partner == 0 || partner > i) continue;
-        if (open.empty() || open.back() != partner) return false;
-        open.pop_back();
-    }
-    return open.empty();
-}
-
-void ExpectLaws(const Expression& expression) {
-    const std::string printed = PrintExpression(expression);
-    const Expression again = ParseExpression(printed);
-    EXPECT_EQ(again.nodes, expression.nodes) << expression.text;
-    EXPECT_EQ(PrintExpression(again), printed) << expression.text;
-    EXPECT_EQ(FreeVarsOf(again), FreeVarsOf(expression)) << expression.text;
-    EXPECT_EQ(SameExpressions(printed, expression.text), SameExpressions(printed, printed))
-        << expression.text;
 }
 
 }  // namespace tessaryn

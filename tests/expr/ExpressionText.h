@@ -1,4 +1,4 @@
-// Tables of expressions as text, and the laws that every parsed expression keeps.
+// Tables of expressions as text.
 #pragma once
 
 #include <string>
@@ -13,11 +13,5 @@ std::string Tree(const Expression& expression);
 
 // One line for each token: text, Position, TPtr, DPtr, and " bound" if it is.
 std::vector<std::string> TokenLines(const Expression& expression);
-
-// Whether the bracket pairs lie inside or beside one another.
-bool BracketsNest(const Expression& expression);
-
-// Printing is stable and keeps the tree; the expression is the same as its print.
-void ExpectLaws(const Expression& expression);
 
 }  // namespace tessaryn

@@ -1,0 +1,45 @@
+// What holds for the parse of any text.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "expr/Parse.h"
+#include "expr/PrintExpression.h"
+#include "expr/Same.h"
+
+namespace tessaryn {
+
+// Whether the bracket pairs lie inside or beside one another.
+inline bool BracketsNest(const Expression& expression) {
+    std::vector<int> open;
+    for (int i = 1; i < static_cast<int>(expression.tokens.size()); i++) {
+        const int partner = expression.tokens[static_cast<size_t>(i)].TPtr;
+        if (partner > i) open.push_back(i);
+        if (partner == 0 || partner > i) continue;
+        if (open.empty() || open.back() != partner) return false;
+        open.pop_back();
+    }
+    return open.empty();
+}
+
+// The first law that the text breaks, "" if none. A text that is refused must have its place
+// within itself; one that parses, a print that is stable and is the same expression.
+inline std::string BrokenLaw(const std::string& text) {
+    const Expression parsed = ParseExpression(text);
+    if (parsed.errorPos < 0 || parsed.errorPos > static_cast<int>(text.size()))
+        return "the place of a fault lies in the text";
+    if (!parsed.error.empty()) return "";
+    if (!BracketsNest(parsed)) return "brackets nest";
+    const std::string printed = PrintExpression(parsed);
+    const Expression again = ParseExpression(printed);
+    if (again.error == UnableToParse) return "";  // its blanks took it beyond the limit
+    if (again.nodes != parsed.nodes) return "the print has the same tree";
+    if (PrintExpression(again) != printed) return "printing is stable";
+    if (FreeVarsOf(again) != FreeVarsOf(parsed)) return "the print has the same free variables";
+    if (SameExpressions(printed, text) != SameExpressions(text, text))
+        return "the print is the same expression";
+    return "";
+}
+
+}  // namespace tessaryn

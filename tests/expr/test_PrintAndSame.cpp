@@ -1,0 +1,118 @@
+#include <gtest/gtest.h>
+
+#include "../../fuzz/ParseLaws.h"
+#include "expr/NameList.h"
+
+namespace tessaryn {
+
+TEST(Print, CanonicalForms) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"ALL(x):(x@s=>P(x))", "ALL(x):[x @ s => P(x)]"},
+        {"all[x]:[~P(x)]", "ALL(x):~P(x)"},
+        {"~(x=y)", "~x=y"},
+        {"~(P & Q)", "~[P & Q]"},
+        {"~(ALL(x):(P(x)))", "~ALL(x):P(x)"},
+        // the left side may group by itself, the right one keeps its brackets
+        {"(a-b)-c", "a-b-c"},
+        {"a-(b-c)", "a-(b-c)"},
+        {"a+(b*c)", "a+b*c"},
+        {"(a+b)*c", "(a+b)*c"},
+        {"(P & Q) & R", "P & Q & R"},
+        {"P & (Q & R)", "P & [Q & R]"},
+        {"(P | Q) & R", "[P | Q] & R"},
+        {"P=>(Q=>R)<=>S", "P => [Q => R] <=> S"},
+        {"2^(3^4)", "2^(3^4)"},
+        {"(x<y)=>x>=y", "x<y => x>=y"},
+        // negatives, lists, applications
+        {"__x", "_(_x)"},
+        {"_ (a)*b", "_a*b"},
+        {"_(a*b)", "_(a*b)"},
+        {"(_2)^3", "(_2)^3"},
+        {"_(a,b)", "_(a,b)"},
+        {"a , b", "a,b"},
+        {"((a,b),c)@s", "(a,b,c) @ s"},
+        {"f((a),[b],c)", "f(a,b,c)"},
+        // a line break stays only right ahead of a connective
+        {"P\r\n& Q", "P\r\n& Q"},
+        {"P\n|Q <=>\r\nR\r\n => S", "P\r\n| Q <=> R => S"},
+        {"P & [x<=y\r\n=>x>=\r\ny\n<=>Q]", "P & [x<=y\r\n=> x>=y\r\n<=> Q]"},
+        {"x\r\n+y", "x+y"},
+    };
+    for (const auto& [text, printed] : rows) {
+        NewStmtText = text;
+        Parse();
+        EXPECT_EQ(ParseError, "") << text;
+        EXPECT_EQ(PrintExpression(), printed);
+        EXPECT_EQ(BrokenLaw(text), "") << text;
+    }
+}
+
+TEST(Same, Pairs) {
+    const struct {
+        const char* a;
+        const char* b;
+        bool same;
+    } rows[] = {
+        {" P\r\n", "[((P))]", true},
+        {"ALL(x):P(x)", "all[y]:(P(y))", true},
+        {"ALL(x):P(x)", "EXIST(x):P(x)", false},
+        {"ALL(x):ALL(y):R(x,y)", "ALL(y):ALL(x):R(y,x)", true},
+        {"ALL(x):ALL(y):R(x,y)", "ALL(y):ALL(x):R(x,y)", false},
+        {"ALL(x):P(x) & ALL(x):Q(x)", "ALL(y):P(y) & ALL(z):Q(z)", true},
+        {"ALL(x):P(x,y)", "ALL(z):P(z,y)", true},
+        {"ALL(x):P(x,y)", "ALL(y):P(y,y)", false},
+        {"P(x)", "P(y)", false},
+        {"a+b", "b+a", false},
+        {"a+b+c", "a+(b+c)", false},
+        {"~~P", "P", false},
+        {"P", "", false},
+        {"P &", "P &", false},
+        // a name like a generated one
+        {"ALL(x):ALL(y):R(x,y)", "ALL(v#2):ALL(v#1):R(v#2,v#1)", false},
+        // SUM and PROD bind a name in their first place when applied
+        {"SUM(x,y)", "SUM(z,y)", true},
+        {"SUM(x,y)", "SUM(x,z)", false},
+        {"SUM & P(x)", "SUM & P(y)", false},
+        {"SUM(x)", "SUM(y)", false},
+        // renamed, the variable is free and bound
+        {"ALL(x):x=y & PROD(x,y)", "ALL(x):x=y & PROD(x,y)", false},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(Same(row.a, row.b), row.same) << row.a << " / " << row.b;
+        EXPECT_EQ(Same(row.b, row.a), row.same) << row.b << " / " << row.a;
+        EXPECT_EQ(SameExpressions(row.a, row.b), row.same) << row.a << " / " << row.b;
+    }
+}
+
+TEST(Same, LeavesTheSecondTextRewritten) {
+    StmtText2 = "kept";
+    EXPECT_TRUE(Same("ALL(a):P(a)", "[all(x): [P(x)]]"));
+    EXPECT_EQ(NewStmtText, "[ALL(v#1):[P(v#1)]]");
+    EXPECT_EQ(TokenTable[1].TPtr + 1, static_cast<int>(TokenTable.size()));
+    EXPECT_EQ(StmtText2, "kept");
+    NewStmtText.assign(1, 'x');
+    EXPECT_TRUE(Same("(x)", NewStmtText));
+    EXPECT_FALSE(Same("P", "P &"));
+    EXPECT_EQ(NewStmtText, "P &");
+    EXPECT_EQ(ParseError, "31. No expression on RHS of &");
+}
+
+TEST(FreeVars, InOrderOfAppearance) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"f(x)=2", " f x 2 "}, {"P & Q", ""}, {"ALL(x):[x@s & P(s,a)]", " s a "}};
+    for (const auto& [text, names] : rows) EXPECT_EQ(FreeVarsOf(ParseExpression(text)), names);
+}
+
+TEST(NameList, HoldsWholeNames) {
+    std::string list;
+    EXPECT_FALSE(HoldsName(list, "a"));
+    for (const char* name : {"ab", "b", "c"}) AppendName(list, name);
+    EXPECT_EQ(list, " ab b c ");
+    EXPECT_TRUE(HoldsName(list, "b"));
+    EXPECT_TRUE(HoldsName(list, "c"));
+    EXPECT_FALSE(HoldsName(list, "a"));
+    EXPECT_FALSE(HoldsName(list, ""));
+    EXPECT_EQ(NamesOf(list), (std::vector<std::string>{"ab", "b", "c"}));
+}
+
+}  // namespace tessaryn
