@@ -83,6 +83,10 @@ const RuleRow* FindRule(int ruleMode);
 void StartClickRule(int ruleMode);
 void StartClickRule(int ruleMode, const std::string& prompt);
 
+// The end of a rule: none is pending any more. If its statement has been written the prompt goes;
+// otherwise StatusLine keeps the message.
+void FinishRule(bool written);
+
 // A click in the proof display, taken as the operand of the pending rule.
 void ClickInDisplay();
 

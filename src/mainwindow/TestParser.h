@@ -40,6 +40,7 @@ struct TestParserForm : Form {
     void Cancel();
     void CheckEntry();
     void CheckByMode();
+    void Refuse(const std::string& message);
 };
 
 inline TestParserForm TestParser;

@@ -1,0 +1,152 @@
+// Open, Save and Save As: the proof file and the window around it.
+#include <utility>
+
+#include "document/ProofFile.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "output/SaveChanges.h"
+#include "platform/Files.h"
+#include "view/Display.h"
+#include "view/InsertMode.h"
+#include "view/Undo.h"
+
+namespace tessaryn {
+namespace {
+
+bool WriteFileWithHourglass() {
+    const std::string prompt = Proof.StatusLine.GetText();
+    SetPrompt("Please wait...");
+    Proof.MousePointer = Pointer::Hourglass;
+    RefreshNow(Proof);
+    const bool saved = ReplaceFile(ProofFileName, WriteProof());
+    Proof.MousePointer = Pointer::Default;
+    SetPrompt(prompt);
+    return saved;
+}
+
+// Closed blocks are folded away on opening, with what is nested in them; all else shows.
+void FoldClosedBlocks() {
+    int line = 1;
+    while (line <= StmtCount) {
+        Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+        if (!IsClosedPremise(stmt)) {
+            stmt.Visible = true;
+            ++line;
+            continue;
+        }
+        for (; line < stmt.Arg1; ++line) {
+            StmtTable[static_cast<std::size_t>(line)].Visible = false;
+            StmtTable[static_cast<std::size_t>(line)].ViewerStartLine = 0;
+        }
+    }
+}
+
+void TakeOver(StoredProof proof) {
+    ProofCaption = std::move(proof.caption);
+    StmtTable = std::move(proof.table);
+    StmtCount = static_cast<int>(StmtTable.size()) - 1;
+    ProofText = std::move(proof.text);
+    if (StmtCount == 0) {
+        IntroEnd = static_cast<int>(ProofText.size()) - 4;
+    } else {
+        IntroEnd = StmtTable[1].StartLine < 2 ? 0 : StmtTable[1].StartLine - 5;
+    }
+    FoldClosedBlocks();
+    RelayoutViewer();
+}
+
+}  // namespace
+
+std::string ProofTitle() {
+    if (ProofCaption.empty()) return " Tessaryn 2.0  -  " + ProofFileName;
+    return " " + ProofCaption + "  -  " + ProofFileName;
+}
+
+std::string WithProofExtension(const std::string& name) {
+    const std::size_t dot = name.rfind('.');
+    const std::size_t slash = name.rfind('/');
+    const bool hasDot = dot != std::string::npos && (slash == std::string::npos || dot > slash);
+    return (hasDot ? name.substr(0, dot + 1) : name + ".") + "proof";
+}
+
+bool SaveProof() {
+    if (WriteFileWithHourglass()) return true;
+    OperationCancelled = true;
+    MsgBox("Unable to save file", "WARNING");
+    return false;
+}
+
+void SaveProofFile() {
+    if (!SaveProof()) return;
+    ProofChanged = false;
+    Proof.Caption = ProofTitle();
+}
+
+void ReadProofFile(const std::string& previousName) {
+    SetUndoRedo(false, false);
+    RuleMode = 0;
+    if (InsertMode) EndInsertMode();
+    const std::optional<std::string> bytes = ReadWholeFile(ProofFileName);
+    std::optional<StoredProof> proof = bytes ? ReadProof(*bytes) : std::nullopt;
+    if (!proof) {
+        OperationCancelled = true;
+        Beep(bytes ? "\"" + ProofFileName + "\" is no proof file, or a damaged one."
+                   : "\"" + ProofFileName + "\" can't be opened for reading.");
+        SetPrompt("Open: Unable to open proof file");
+        ProofFileName = previousName;
+        return;
+    }
+    TakeOver(std::move(*proof));
+    Proof.Caption = ProofTitle();
+    CheckStoredText();
+    ResetFonts();
+    ProofChanged = false;
+}
+
+void OpenCommand() {
+    Proof.RTB.SetFocus();
+    RuleMode = 0;
+    SetPrompt("");
+    if (ProofChanged) {
+        OpenFollows = true;
+        ShowModal(SaveChanges);
+    } else {
+        const std::string previousName = ProofFileName;
+        if (RecentPicked) {
+            ProofFileName = RecentName;
+        } else {
+            CommonDialog& dialog = Proof.CommonDialog1;
+            CommonDialog choice{"", ProofFilter, dialog.InitDir, false, true};
+            if (!ShowOpen(choice)) return;
+            dialog.FileName = choice.FileName;
+            ProofFileName = choice.FileName;
+        }
+        RefreshNow(Proof);
+        ReadProofFile(previousName);
+    }
+    Proof.RTB.SelStart = 0;
+}
+
+void SaveAsCommand() {
+    Proof.RTB.SetFocus();
+    RuleMode = 0;
+    CommonDialog& dialog = Proof.CommonDialog1;
+    if (!dialog.FileName.empty()) dialog.FileName = WithProofExtension(dialog.FileName);
+    CommonDialog choice{dialog.FileName, ProofFilter, dialog.InitDir, true, false};
+    if (!ShowSave(choice)) return;
+    RefreshNow(Proof);
+    dialog.FileName = choice.FileName;
+    ProofFileName = choice.FileName;
+    SaveProofFile();
+}
+
+void SaveCommand() {
+    Proof.RTB.SetFocus();
+    if (ProofFileName.empty()) {
+        SaveAsCommand();
+    } else {
+        SaveProofFile();
+    }
+}
+
+}  // namespace tessaryn

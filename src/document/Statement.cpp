@@ -1,0 +1,88 @@
+#include "document/Statement.h"
+
+#include <algorithm>
+
+#include "mainwindow/RuleModes.h"
+
+namespace tessaryn {
+
+void ClearDocument() {
+    StmtTable.assign(1, Statement());
+    StmtCount = 0;
+    ProofText.clear();
+    IntroEnd = 0;
+    ProofCaption.clear();
+}
+
+int Depth(const Statement& stmt) {
+    return stmt.StartRule - stmt.EndStmt - 4;
+}
+
+int BlockLength(const Statement& stmt) {
+    return stmt.EndRule - stmt.StartLine + 5;
+}
+
+int ViewOffset(const Statement& stmt) {
+    return stmt.StartLine - stmt.ViewerStartLine;
+}
+
+int NumberStart(const Statement& stmt) {
+    const int line = stmt.EndUserComment > 0 ? stmt.EndUserComment + 5 : stmt.StartLine;
+    return line + Depth(stmt);
+}
+
+int ViewerEndRule(const Statement& stmt) {
+    return stmt.EndRule - ViewOffset(stmt);
+}
+
+int FirstViewerStartLine() {
+    return IntroEnd > 0 ? IntroEnd + 5 : 1;
+}
+
+void ShiftIndexes(Statement& stmt, int shift) {
+    stmt.StartLine += shift;
+    if (stmt.EndUserComment > 0) stmt.EndUserComment += shift;
+    stmt.StartStmt += shift;
+    stmt.EndStmt += shift;
+    stmt.StartRule += shift;
+    stmt.EndRule += shift;
+}
+
+std::string_view ProofSlice(int first, int last) {
+    return std::string_view(ProofText).substr(static_cast<std::size_t>(first - 1),
+                                              static_cast<std::size_t>(last - first + 1));
+}
+
+std::string_view StoredText(int number) {
+    const Statement& stmt = StmtTable[static_cast<std::size_t>(number)];
+    return ProofSlice(stmt.StartStmt, stmt.EndStmt);
+}
+
+void RemoveTabs(std::string& text) {
+    std::erase(text, '\t');
+}
+
+std::string StmtText(int number) {
+    std::string text(StoredText(number));
+    RemoveTabs(text);
+    return text;
+}
+
+std::string RuleAnnotation(int rule, int arg1, int arg2) {
+    std::string text = rule == Rule::Conclusion ? "4 " : "";
+    text += RuleName(rule);
+    if (arg1 > 0 && rule != Rule::Premise) text += ", " + std::to_string(arg1);
+    if (arg2 > 0) text += ", " + std::to_string(arg2);
+    return text;
+}
+
+void RelayoutViewer() {
+    int start = FirstViewerStartLine();
+    for (Statement& stmt : StmtTable) {
+        if (&stmt == &StmtTable.front() || !stmt.Visible) continue;
+        stmt.ViewerStartLine = start;
+        start += BlockLength(stmt);
+    }
+}
+
+}  // namespace tessaryn

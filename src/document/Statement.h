@@ -1,0 +1,93 @@
+// The proof in memory: the statement table, the one long text and the document values.
+//
+// ProofText is an optional introduction and one block for each statement, in table order, with
+// nothing between them:
+//
+//   introduction, CR LF CR LF          if IntroEnd > 0
+//   comment, CR LF CR LF               if EndUserComment > 0
+//   depth TABs, number, TAB, statement text (a line break in it is CR LF TAB), CR LF TAB
+//   depth TABs, rule annotation, CR LF CR LF
+//
+// depth counts the closed premise blocks around the statement; it is no field but follows from
+// StartRule - EndStmt - 4. A statement's text exists nowhere else. What always holds after a
+// command stands in Invariants.cpp, as a check.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessaryn {
+
+struct Statement {
+    int Rule = 0;  // rule number that made it
+    int Arg1 = 0;  // line references; 0 none. Of a closed Premise: the line of its Conclusion
+    int Arg2 = 0;  //
+    std::string SpecName;   // rules 3 and 4: the name brought in
+    std::string FreeVars;   // name list: the free variables
+    std::string FixedVars;  // name list: those of them already in use outside the innermost premise
+    std::string SpareVars;  // name list: drawn bold; the writer leaves it ""
+    bool Visible = false;   // drawn in the display
+    int StartLine = 0;  // first byte of the block; this and the next five are 1-based in ProofText
+    int EndUserComment = 0;  // last byte of the comment; 0 none
+    int StartStmt = 0;       // first byte of the statement text
+    int EndStmt = 0;         // last byte of the statement text
+    int StartRule = 0;       // first byte of the annotation
+    int EndRule = 0;         // last byte of the annotation
+    int ViewerStartLine =
+        0;                 // while Visible: first byte of the block in the display's text, 1-based
+    bool Flagged = false;  // scratch of deletion: doomed
+    int NewNumber = 0;     // scratch of deletion: number after it
+    bool Highlight = false;  // the number is bold
+};
+
+inline constexpr int MaxStatements = 32767;
+
+inline std::vector<Statement> StmtTable(1);  // statement n at index n; element 0 is never used
+inline int StmtCount = 0;
+inline std::string ProofText;
+inline int IntroEnd = 0;          // length of the introduction in bytes; 0 or negative: none
+inline std::string ProofCaption;  // "" if none
+
+// Empties the proof.
+void ClearDocument();
+
+int Depth(const Statement& stmt);
+// Bytes of the block, the CR LF CR LF behind it included.
+int BlockLength(const Statement& stmt);
+// What to take from an index of ProofText inside a visible block to get its place in the display.
+int ViewOffset(const Statement& stmt);
+// First digit of the statement's number, 1-based in ProofText.
+int NumberStart(const Statement& stmt);
+// Last byte of the block's annotation in the display, 1-based; the block must be visible.
+int ViewerEndRule(const Statement& stmt);
+// Where the first visible block begins in the display, 1-based.
+int FirstViewerStartLine();
+// Adds to the six indexes into ProofText (to EndUserComment only if there is a comment).
+void ShiftIndexes(Statement& stmt, int shift);
+
+// The text between two 1-based indexes of ProofText, both included.
+std::string_view ProofSlice(int first, int last);
+// A statement's text as stored, with CR LF TAB at its line breaks.
+std::string_view StoredText(int number);
+// A statement's text without TABs: what a rule hands to Parse.
+std::string StmtText(int number);
+void RemoveTabs(std::string& text);
+
+// "Join, 3, 4": the annotation of a statement with that rule and those references.
+std::string RuleAnnotation(int rule, int arg1, int arg2);
+
+inline bool IsClosedPremise(const Statement& stmt) {
+    return stmt.Rule == 1 && stmt.Arg1 > 0;
+}
+inline bool IsOpenPremise(const Statement& stmt) {
+    return stmt.Rule == 1 && stmt.Arg1 == 0;
+}
+inline bool IsConclusion(const Statement& stmt) {
+    return stmt.Rule == 7;
+}
+
+// Assigns ViewerStartLine to the visible statements.
+void RelayoutViewer();
+
+}  // namespace tessaryn

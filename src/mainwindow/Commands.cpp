@@ -1,0 +1,65 @@
+#include "mainwindow/Commands.h"
+
+#include "document/ProofFile.h"
+#include "document/Statement.h"
+#include "mainwindow/ExpressionEditor.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "output/SaveChanges.h"
+#include "view/Display.h"
+#include "view/InsertMode.h"
+#include "view/Undo.h"
+
+namespace tessaryn {
+
+void NewCommand() {
+    Proof.RTB.SetFocus();
+    if (ProofChanged) {
+        OpenFollows = false;
+        ShowModal(SaveChanges);
+        if (OperationCancelled) return;
+    }
+    ProofFileName.clear();
+    Proof.CommonDialog1.FileName.clear();
+    ClearDocument();
+    EndInsertMode();
+    SetPrompt("");
+    SetUndoRedo(false, false);
+    ProofChanged = false;
+    CheckStoredText();
+    ResetFonts();
+    Proof.RTB.SelStart = 0;
+    Proof.Caption = " Tessaryn 2.0 - (Untitled)";
+}
+
+void ExitCommand() {
+    Proof.RTB.SetFocus();
+    OperationCancelled = false;
+    if (ProofChanged) {
+        OpenFollows = false;
+        ShowModal(SaveChanges);
+        if (OperationCancelled) return;
+    }
+    EndProgram();
+}
+
+void HelpCommand() {
+    SetPrompt("");
+    if (!ShowHelpFile(AppPath + "\\Tessaryn.chm")) {
+        MsgBox("Help file \"Tessaryn.chm\" not found", "SYSTEM ERROR");
+    }
+}
+
+void WebSiteCommand() {
+    OpenWebSite(WebSite);
+}
+
+void CopySelection() {
+    Copy(Proof.RTB);
+}
+
+void ToggleRichTextMode() {
+    Proof.optRichTextMode.Checked = !Proof.optRichTextMode.Checked;
+}
+
+}  // namespace tessaryn

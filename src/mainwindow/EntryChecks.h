@@ -1,0 +1,30 @@
+// The checks of an entered expression, and the way in which an entry is refused.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tessaryn {
+
+// What `box` takes as the reason to refuse an entry before or right behind its parse: a "#", or a
+// use of the names that only a comparison knows. "" if there is none.
+std::string ForbiddenCharacter(const std::string& entry);  // "Invalid character '#'"
+std::string ForbiddenName();                               // in TokenTable: "Invalid name 'SUM'"
+
+// Is the expression in the tables a formula?
+bool RootIsLogical();
+
+// The free names of the expression in the tables, in table order.
+std::vector<std::string> FreeNames();
+
+// Is a name in FreeVars and not in FixedVars of a statement, so introduced by its premise block?
+bool IsGreen(const std::string& name, int stmt);
+
+// Each of these gives "" or the message of the first failure.
+
+// Axiom: no free name may have been introduced in the proof already.
+std::string CheckAxiomNames();
+// Premise, in insert mode: no later line may change who introduced a name.
+std::string CheckPremiseNames();
+
+}  // namespace tessaryn

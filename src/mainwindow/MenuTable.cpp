@@ -1,0 +1,259 @@
+// The menu bar and the tool buttons, with what each calls. Handler and shortcut of an item stand in
+// one row; a row without a command is shown disabled.
+#include <algorithm>
+#include <string>
+
+#include "document/ProofFile.h"
+#include "mainwindow/Commands.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "rules/Rules.h"
+#include "view/InsertMode.h"
+#include "view/Undo.h"
+
+namespace tessaryn {
+namespace {
+
+enum Flag : unsigned { None = 0, Hidden = 1, Checked = 2, Checkable = 4, Disabled = 8 };
+
+using Command = void (*)();
+
+struct MenuRow {
+    int level;  // 0 a title in the bar; an item hangs under the nearest row above of a lower level
+    MenuItem ProofForm::*item;
+    const char* name;
+    const char* caption;  // "-": a separator
+    const char* shortcut = "";
+    Command command = nullptr;
+    unsigned flags = None;
+    const char* failure = "Unable to process request";
+};
+
+template <int ruleMode>
+void Click() {
+    StartClickRule(ruleMode);
+}
+
+using P = ProofForm;
+
+const MenuRow MenuRows[] = {
+    {0, &P::mnuFile, "mnuFile", "&File"},
+    {1, &P::optNew, "optNew", "&New", "", NewCommand},
+    {1, &P::optOpen, "optOpen", "&Open", "", OpenCommand, None, "Open: Unable to open proof file"},
+    {1, &P::optSave, "optSave", "&Save", "", SaveCommand},
+    {1, &P::optSaveAs, "optSaveAs", "Save &As", "", SaveAsCommand},
+    {1, &P::optHTML, "optHTML", "Make HTML File   (*.html)"},
+    {1, &P::optPrint, "optPrint", "Print"},
+    {1, &P::optSelectDir, "optSelectDir", "Select Default Directory"},
+    {1, &P::optExit, "optExit", "E&xit", "", ExitCommand},
+    {1, &P::optDebug, "optDebug", "&Debug", "", nullptr, Hidden},
+    {1, &P::bar6, "bar6", "-", "", nullptr, Hidden},
+    {1, &P::optFile1, "optFile1", "File 1", "", nullptr, Hidden},
+    {1, &P::optFile2, "optFile2", "File 2", "", nullptr, Hidden},
+    {1, &P::optFile3, "optFile3", "File 3", "", nullptr, Hidden},
+    {1, &P::optFile4, "optFile4", "File 4", "", nullptr, Hidden},
+    {1, &P::optFile5, "optFile5", "File 5", "", nullptr, Hidden},
+
+    {0, &P::mnuEdit, "mnuEdit", "&Edit"},
+    {1, &P::optUndo, "optUndo", "&Undo", "Ctrl+Z", Undo, Disabled, "Unable to complete Undo"},
+    {1, &P::optRedo, "optRedo", "&Redo", "Ctrl+Y", Redo, Disabled, "Unable to complete Redo"},
+    {1, &P::optInsert, "optInsert", "&Insert Mode ", "F2", ToggleInsertMode, Checkable},
+    {1, &P::optCopy, "optCopy", "&Copy", "Ctrl+C", CopySelection},
+    {1, &P::DeleteAllRef, "DeleteAllRef", "Delete &ALL References", "F3"},
+    {1, &P::DelAllSubsequent, "DelAllSubsequent", "Delete &Subsequent Lines", "F4"},
+    {1, &P::optFind, "optFind", "&Find", "Ctrl+F"},
+    {1, &P::optRepeatFind, "optRepeatFind", "R&epeat Find", "F9"},
+    {1, &P::optCaption, "optCaption", "C&aption"},
+    {1, &P::optIntro, "optIntro", "I&ntroduction"},
+    {1, &P::optComment, "optComment", "Comment            (Click Stmt Text)"},
+    {1, &P::optToggleHighlight, "optToggleHighlight", "Toggle Highlight  (Click Stmt No.)"},
+    {1, &P::optRichTextMode, "optRichTextMode", "Rich Text Mode", "", ToggleRichTextMode,
+     Checkable | Checked},
+
+    {0, &P::mnuView, "mnuView", "&View"},
+    {1, &P::optHideDetails, "optHideDetails", "Hide All Details", "F5"},
+    {1, &P::optShowDetails, "optShowDetails", "Show All Active Stmts", "F6"},
+    {1, &P::optShowLastDetails, "optShowLastDetails", "Show Last Active Stmts", "F7"},
+    {1, &P::optDetails, "optDetails",
+     "Show / Hide Detail Block     (Dbl Click Highlighted Stmt No.)"},
+    {1, &P::optPremiseBlock, "optPremiseBlock",
+     "Show / Hide Premise Block  (Click \"Conclusion\")"},
+    {1, &P::optShowAllStmts, "optShowAllStmts", "Show All Stmts", "F11"},
+    {1, &P::optShowHighlights, "optShowHighlights", "Show Only Highlights and Conclusions", "F12"},
+    {1, &P::optTextSize, "optTextSize", "Text Size"},
+    {2, &P::optSmallText, "optSmallText", "Small", "", nullptr, Checkable},
+    {2, &P::optMediumText, "optMediumText", "Medium", "", nullptr, Checkable | Checked},
+    {2, &P::optLargeText, "optLargeText", "Large", "", nullptr, Checkable},
+
+    {0, &P::mnuLogic, "mnuLogic", "&Logic"},
+    {1, &P::optPremise, "optPremise", "Premise", "", Premise},
+    {1, &P::optAxiom, "optAxiom", "Create Axiom", "", Axiom},
+    {1, &P::barLogic1, "barLogic1", "-"},
+    {1, &P::optJoin, "optJoin", "Join", "", Click<Rule::Join>},
+    {1, &P::optSplit, "optSplit", "Split", "", Click<Rule::Split>},
+    {1, &P::optDNegRemove, "optDNegRemove", "&Remove '~~'                      (Rem DNeg)"},
+    {1, &P::optConclusion, "optConclusion", "Conclusion / Generalization", "", Conclusion, None,
+     "Conclusion Rule: Unable to process request"},
+    {1, &P::barLogic2, "barLogic2", "-"},
+    {1, &P::optImplies, "optImplies", "'=>'      <-->   '&&'                (Implies-And)"},
+    {1, &P::optImliesOr, "optImliesOr", "'=>'      <-->   '|'                 (Implies-Or)"},
+    {1, &P::optIff, "optIff", "'<=>'   <-->   '&&'                (Iff-And)"},
+    {1, &P::optDeMorgan, "optDeMorgan", "'&&'         <-->   '|'                 (De Morgan)"},
+    {1, &P::barLogic3, "barLogic3", "-"},
+    {1, &P::optDetachment, "optDetachment", "&Detachment                        (Detach)", "",
+     Click<Rule::Detach>},
+    {1, &P::optContrapositive, "optContrapositive", "&Contrapositive                    (Contra)"},
+    {1, &P::optCases, "optCases", "C&ases "},
+    {1, &P::barLogic4, "barLogic4", "-"},
+    {1, &P::optArbAntecedent, "optArbAntecedent", "P ---> Q => P                    (Arb Ante)"},
+    {1, &P::optArbConsequent, "optArbConsequent", "P ---> ~P => Q                 (Arb Cons)"},
+    {1, &P::optArbOr, "optArbOr", "P ---> P | Q  or Q | P          (Arb Or)"},
+    {2, &P::optArbOrRight, "optArbOrRight", "Insert Right  --->   P | Q"},
+    {2, &P::optArbOrLeft, "optArbOrLeft", "Insert Left    --->   Q | P"},
+    {1, &P::optOrNot, "optOrNot", "P | ~P                                 (Or Not)    "},
+    {1, &P::barLogic5, "barLogic5", "-"},
+    {1, &P::optQuantifierSwitch, "optQuantifierSwitch",
+     "&Quantifier Switch                (Quant)"},
+    {1, &P::optSpec, "optSpec", "Specify                                (E Spec / U Spec)"},
+    {1, &P::optEGen, "optEGen", "&Existential Generalization    (E Gen)"},
+    {1, &P::optUGen, "optUGen", "&Universal  Gen                (U Gen)", "", nullptr,
+     Hidden | Disabled},
+    {1, &P::barLogic6, "barLogic6", "-"},
+    {1, &P::optRename, "optRename", "Re&name"},
+    {1, &P::optReorder, "optReorder", "Re&order"},
+    {1, &P::optCopyStatement, "optCopyStatement", "Copy statement", "", Click<Rule::Copy>},
+
+    {0, &P::mnuSets, "mnuSets", "&Sets"},
+    {1, &P::optSubset, "optSubset", "&Subset"},
+    {1, &P::optCartesianProd, "optCartesianProd", "&Cartesian Product"},
+    {1, &P::optPowerSet, "optPowerSet", "&Power Set"},
+    {1, &P::optSetEquality, "optSetEquality", "Set &Equality"},
+    {1, &P::optNtupleEQ, "optNtupleEQ", "&N-tuple Equality", "", nullptr, Hidden},
+    {1, &P::barSets1, "barSets1", "-"},
+    {1, &P::optReflexivity, "optReflexivity", "&Reflexivity (x=x)                  (Reflex)"},
+    {1, &P::optSymmetry, "optSymmetry", "S&ymmetry  (x=y, y=x)         (Sym)"},
+    {1, &P::optSubstitution, "optSubstitution", "S&ubstitute"},
+    {1, &P::barSets2, "barSets2", "-"},
+    {1, &P::optFunctionAxioms, "optFunctionAxioms", "Function Axioms", "", nullptr, Hidden},
+    {2, &P::optFunction, "optFunction", "Function Axiom"},
+    {2, &P::optFunctionEquality, "optFunctionEquality", "Function Equality"},
+    {2, &P::optFunctionSpace, "optFunctionSpace", "Function Space"},
+    {1, &P::optSetOps, "optSetOps", "Set &Operations   ||, &&&&, `    (Set Ops)", "", nullptr,
+     Hidden},
+    {1, &P::barSets3, "barSets3", "-"},
+    {1, &P::optUnionOfSets, "optUnionOfSets", "Union"},
+    {2, &P::optPairwiseUnion, "optPairwiseUnion", "Pairwise"},
+    {2, &P::optArbitraryUnion, "optArbitraryUnion", "Arbitrary"},
+    {1, &P::optChoice, "optChoice", "Choice"},
+
+    {0, &P::mnuNumbers, "mnuNumbers", "&Numbers"},
+    {1, &P::optNumberAxioms, "optNumberAxioms", "&Number Axioms    (n, 1, +)"},
+    {1, &P::optAdd, "optAdd", "&Induction Shortcut"},
+    {1, &P::optSumShortcut, "optSumShortcut", "&SUM Shortcut", "", nullptr, Hidden},
+    {1, &P::optProdShortcut, "optProdShortcut", "PR&OD Shortcut", "", nullptr, Hidden},
+    {1, &P::mnuAlgProperties, "mnuAlgProperties", "&Definitions"},
+    {2, &P::optAddProperties, "optAddProperties", "Addition                         +", "", nullptr,
+     Hidden},
+    {2, &P::optSubtraction, "optSubtraction", "Subtraction                    -"},
+    {2, &P::optMultiplicationProperties, "optMultiplicationProperties",
+     "Multiplication (asterisk)  *"},
+    {2, &P::optDivision, "optDivision", "Division                          /"},
+    {2, &P::optExponentPropeterties, "optExponentPropeterties", "Exponentiation              ^"},
+    {2, &P::OptLessThan, "OptLessThan", "Less Than                      <"},
+    {2, &P::optGreateThan, "optGreateThan", "Greater Than                 >"},
+    {2, &P::optLessThanOrEqual, "optLessThanOrEqual", "Less Than or Equal        <="},
+    {2, &P::optGreaterThanOrEqual, "optGreaterThanOrEqual", "Greater Than or Equal   >="},
+    {2, &P::optSummationProperties, "optSummationProperties", "Summation                     SUM",
+     "", nullptr, Hidden},
+    {2, &P::optProductProperties, "optProductProperties", "Product                          PROD",
+     "", nullptr, Hidden},
+    {1, &P::optGroupAxioms, "optGroupAxioms", "&Group Axioms      (g, 0, +,_ )", "", nullptr,
+     Hidden},
+    {1, &P::optRingAxioms, "optRingAxioms", "&Ring Axioms         (r, 0, 1, +, _ , *)", "", nullptr,
+     Hidden},
+
+    {0, &P::optHelp, "optHelp", "&Help"},
+    {1, &P::optShowTip, "optShowTip", "Show Tip on Start-Up", "", nullptr, Checkable | Checked},
+    {1, &P::optUserManual, "optUserManual", "User Manual / Tutorial", "", HelpCommand},
+    {1, &P::optTessarynOnlline, "optTessarynOnlline", "Tessaryn Online", "", WebSiteCommand},
+    {1, &P::optAbout, "optAbout", "About Tessaryn"},
+};
+
+struct ButtonRow {
+    Button ProofForm::*button;
+    const char* name;
+    const char* caption;
+    const char* toolTip;
+    MenuItem ProofForm::*item;  // whose command it calls
+};
+
+const ButtonRow ButtonRows[] = {
+    {&P::cmdNew, "cmdNew", "New", "Start a New Proof", &P::optNew},
+    {&P::cmdOpen, "cmdOpen", "Open", "Open a  *.proof file", &P::optOpen},
+    {&P::cmdSave, "cmdSave", "Save", "Save the Current Proof", &P::optSave},
+    {&P::cmdPremise, "cmdPremise", "Prem", "Enter a Premise", &P::optPremise},
+    {&P::cmdSpecify, "cmdSpecify", "Spec",
+     "Apply Universal or Existential Specification Rule, eliminating leading quantifier",
+     &P::optSpec},
+    {&P::cmdConclusion, "cmdConclusion", "Conc", "Apply Conclusion Rule, generalizing if possible",
+     &P::optConclusion},
+    {&P::cmdUndo, "cmdUndo", "Undo", "Undo Previous Change", &P::optUndo},
+    {&P::cmdRedo, "cmdRedo", "Redo", "Redo Previous Change", &P::optRedo},
+    {&P::cmdIff, "cmdIff", "Iff ", "Apply IFF-AND Rule, introducing or eliminating '<=>'",
+     &P::optIff},
+    {&P::cmdDetach, "cmdDetach", "Det", "Apply Detachment Rule", &P::optDetachment},
+    {&P::cmdEGen, "cmdEGen", "E Gen",
+     "Apply Existential Generalization Rule, introducing EXIST quantifier", &P::optEGen},
+    {&P::cmdHelp, "cmdHelp", "Help** ", "User Manual, Tutorial", &P::optUserManual},
+    {&P::cmdSubAllOccurrences, "cmdSubAllOccurrences", "Subst",
+     "Substitute source expression for target expression", &P::optSubstitution},
+    {&P::cmdSplit, "cmdSplit", "Split",
+     "Split an AND statement into 2 more statements, eliminating '&'", &P::optSplit},
+    {&P::cmdJoin, "cmdJoin", "Join",
+     "Join two statements to form an AND statement, introducing '&' ", &P::optJoin},
+};
+
+void FillItem(MenuItem& item, const MenuRow& row) {
+    item.Name = row.name;
+    item.Caption = row.caption;
+    item.Shortcut = row.shortcut;
+    item.Visible = (row.flags & Hidden) == 0;
+    item.Checkable = (row.flags & Checkable) != 0;
+    item.Checked = (row.flags & Checked) != 0;
+    item.Enabled = row.command != nullptr && (row.flags & Disabled) == 0;
+    if (row.command == nullptr) return;
+    item.Click = [command = row.command, failure = row.failure] { RunHandler(command, failure); };
+}
+
+}  // namespace
+
+void ProofForm::BuildMenus() {
+    MenuItem* open[3] = {};  // the latest item of each level
+    for (const MenuRow& row : MenuRows) {
+        MenuItem& item = this->*row.item;
+        FillItem(item, row);
+        open[row.level] = &item;
+        if (row.level == 0) {
+            item.Enabled = true;
+            MenuBar.push_back(&item);
+        } else {
+            MenuItem& parent = *open[row.level - 1];
+            parent.Items.push_back(&item);
+            parent.Enabled = parent.Enabled || item.Enabled;
+        }
+    }
+}
+
+void ProofForm::BuildButtons() {
+    for (const ButtonRow& row : ButtonRows) {
+        Button& button = this->*row.button;
+        const MenuItem& item = this->*row.item;
+        button.Name = row.name;
+        button.Caption = row.caption;
+        button.ToolTip = row.toolTip;
+        button.Enabled = item.Enabled;
+        button.Click = item.Click;
+    }
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,86 @@
+#include "mainwindow/MyInputBox.h"
+
+#include "expr/Expression.h"
+#include "mainwindow/EntryChecks.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "rules/Rules.h"
+#include "view/Display.h"
+
+namespace tessaryn {
+namespace {
+
+// What Continue does in each mode once the entry holds no "#".
+struct InputMode {
+    int ruleMode;
+    void (*accept)();
+    bool preset = false;  // the opening rule fills Text1
+};
+
+const InputMode InputModes[] = {
+    {Rule::Conclusion, ContinueConclusion, true},
+};
+
+const InputMode* FindMode(int ruleMode) {
+    for (const InputMode& mode : InputModes) {
+        if (mode.ruleMode == ruleMode) return &mode;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+void RefuseEntry(const std::string& message) {
+    MyInputBox.Label2.Caption = message;
+    Beep(message);
+    MyInputBox.Text1.SetFocus();
+}
+
+MyInputBoxForm::MyInputBoxForm() : Form("MyInputBox") {
+    Continue.Click = [this] { ContinuePressed(); };
+    Cancel.Click = [this] { CancelPressed(); };
+    DefaultButton = &Continue;
+    Text1.KeyPress = [this](const KeyEvent& key) {
+        if (key.key != Key::Enter) return false;
+        ContinuePressed();
+        return true;
+    };
+}
+
+void MyInputBoxForm::Activated() {
+    const InputMode* mode = FindMode(RuleMode);
+    if (mode == nullptr || !mode->preset) Text1.Text.clear();
+    Text1.SelStart = 0;
+    Text1.SelLength = static_cast<int>(Text1.Text.size());
+    Text1.FontSize = StmtFontSize;
+    Text1.SetFocus();
+}
+
+bool MyInputBoxForm::KeyPressed(const KeyEvent& key) {
+    if (key.key != Key::Esc) return false;
+    CancelPressed();
+    return true;
+}
+
+void MyInputBoxForm::CloseRequested() {
+    CancelPressed();
+}
+
+void MyInputBoxForm::CancelPressed() {
+    RuleMode = 0;
+    ParseError = "Cancelled";
+    Hide();
+}
+
+void MyInputBoxForm::ContinuePressed() {
+    try {
+        const std::string fault = ForbiddenCharacter(Text1.Text);
+        if (!fault.empty()) return RefuseEntry(fault);
+        if (const InputMode* mode = FindMode(RuleMode)) mode->accept();
+    } catch (const std::exception&) {
+        RefuseEntry("Unable to process request");
+    }
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,44 @@
+#include "document/Statement.h"
+#include "expr/Expression.h"
+#include "mainwindow/ExpressionEditor.h"
+#include "mainwindow/MyInputBox.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/TestParser.h"
+#include "output/SaveChanges.h"
+#include "rules/modConclusion.h"
+#include "view/Display.h"
+#include "view/InsertMode.h"
+#include "view/Undo.h"
+
+namespace tessaryn {
+
+void StartProgram() {
+    ResetExpression();
+    RuleMode = Arg1Pending = Arg2Pending = 0;
+    SpecName.clear();
+    BoundVarName.clear();
+    FirstClick = ArbOrLeft = OperationCancelled = EditingIntro = false;
+    CommentLine = 0;
+    ProofFileName.clear();
+    AppPath.clear();
+    BoxUndoText.clear();
+    ClipLength = 0;
+    OpenFollows = RecentPicked = false;
+    RecentName.clear();
+    StmtFontSize = 12;
+    RuleFontSize = 10;
+    InsertMode = false;
+    InsertLine = 0;
+    ClearDocument();
+    CheckStoredText();
+    ResetUndo();
+    ResetConclusion();
+    Restart(Proof);
+    Restart(TestParser);
+    Restart(MyInputBox);
+    Restart(SaveChanges);
+    Restart(WorkArea);
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,152 @@
+#include <algorithm>
+
+#include "document/Statement.h"
+#include "expr/Parse.h"
+#include "mainwindow/ActiveStmts.h"
+#include "mainwindow/Proof.h"
+#include "view/InsertMode.h"
+
+namespace tessaryn {
+namespace {
+
+const Statement& At(int number) {
+    return StmtTable[static_cast<std::size_t>(number)];
+}
+
+// Does the block of a statement hold a place of the display (1-based)?
+bool IsShownAt(const Statement& stmt, int place) {
+    return stmt.Visible && stmt.ViewerStartLine <= place && place <= ViewerEndRule(stmt);
+}
+
+// Where the text of a statement begins in the display, 0-based.
+int ViewerStartStmt(const Statement& stmt) {
+    return stmt.StartStmt - ViewOffset(stmt) - 1;
+}
+
+// The first written token that holds the place `offset` of the text (1-based); 0 if there is none.
+int TokenAt(int offset) {
+    for (std::size_t k = 1; k < TokenTable.size(); ++k) {
+        const TokenRec& token = TokenTable[k];
+        if (token.Position == 0 || token.Position > offset) continue;
+        if (offset <= token.Position + static_cast<int>(token.Token.size()) - 1) {
+            return static_cast<int>(k);
+        }
+    }
+    return 0;
+}
+
+// The last written token up to the one that holds the place `offset`, or up to the end.
+int LastTokenUpTo(int offset, bool& found) {
+    int last = 0;
+    found = false;
+    for (std::size_t k = 1; k < TokenTable.size() && !found; ++k) {
+        const TokenRec& token = TokenTable[k];
+        if (token.Position == 0) continue;
+        last = static_cast<int>(k);
+        found = token.Position <= offset &&
+                offset <= token.Position + static_cast<int>(token.Token.size()) - 1;
+    }
+    return last;
+}
+
+bool ParseOrReport() {
+    Parse();
+    if (ParseError.empty()) return true;
+    ReportParseError();
+    return false;
+}
+
+// Token indexes stay valid: TABs are white space.
+void ParseWithoutTabs() {
+    if (NewStmtText.find('\t') == std::string::npos) return;
+    RemoveTabs(NewStmtText);
+    ParseOrReport();
+}
+
+// The statement at the caret with its parse; 0 if there is none or it does not parse. stmt is set
+// in the latter case.
+bool ParseStmtAtCaret(int& stmt) {
+    ActiveStmtAtCaret(stmt, NewStmtText);
+    return stmt != 0 && ParseOrReport();
+}
+
+}  // namespace
+
+int InsertionLimit() {
+    return InsertMode ? InsertLine : StmtCount + 1;
+}
+
+std::vector<int> ActiveLines(int limit) {
+    std::vector<int> lines;
+    for (int i = 1; i < limit;) {
+        if (IsClosedPremise(At(i))) {
+            i = At(i).Arg1;
+        } else {
+            lines.push_back(i++);
+        }
+    }
+    return lines;
+}
+
+int InnermostOpenPremise() {
+    const std::vector<int> lines = ActiveLines();
+    const auto found = std::find_if(lines.rbegin(), lines.rend(),
+                                    [](int line) { return IsOpenPremise(At(line)); });
+    return found == lines.rend() ? 0 : *found;
+}
+
+void ActiveStmtAtCaret(int& stmt, std::string& text) {
+    const int place = Proof.RTB.SelStart + 1;
+    const std::vector<int> lines = ActiveLines();
+    const auto found = std::find_if(lines.begin(), lines.end(),
+                                    [&](int line) { return IsShownAt(At(line), place); });
+    stmt = found == lines.end() ? 0 : *found;
+    if (stmt != 0) text = StoredText(stmt);
+}
+
+void GetActiveStmt(int& stmt, std::string& text) {
+    ActiveStmtAtCaret(stmt, text);
+    if (stmt != 0) RemoveTabs(text);
+}
+
+void SelectToken(int& stmt, int& token) {
+    stmt = token = 0;
+    if (!ParseStmtAtCaret(stmt)) return;
+    token = TokenAt(Proof.RTB.SelStart - ViewerStartStmt(At(stmt)) + 1);
+    ParseWithoutTabs();
+}
+
+void SelectTokenRange(int& stmt, int& first, int& last) {
+    stmt = first = last = 0;
+    if (!ParseStmtAtCaret(stmt)) return;
+    const int textStart = ViewerStartStmt(At(stmt));
+    first = TokenAt(Proof.RTB.SelStart - textStart + 1);
+    if (first == 0) return;
+    if (Proof.RTB.SelLength == 0) {
+        last = first;
+        return;
+    }
+    bool found = false;
+    last = LastTokenUpTo(Proof.RTB.SelStart + Proof.RTB.SelLength - textStart, found);
+    if (!found) ParseWithoutTabs();
+}
+
+void BeepNoActiveStmt() {
+    const int place = Proof.RTB.SelStart + 1;
+    for (int line = 1; line <= StmtCount; ++line) {
+        if (!IsShownAt(At(line), place)) continue;
+        if (line >= InsertionLimit()) {
+            return Beep("Line " + std::to_string(line) + " is not above the insert line " +
+                        std::to_string(InsertLine) + ": click a line above it.");
+        }
+        return Beep("Line " + std::to_string(line) +
+                    " lies in a closed premise block: click an active line.");
+    }
+    Beep("There is no statement at this place: click an active line.");
+}
+
+void BeepAtLine(int line, const std::string& whatIsWrong) {
+    Beep("Line " + std::to_string(line) + " " + whatIsWrong);
+}
+
+}  // namespace tessaryn

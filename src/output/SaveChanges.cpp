@@ -1,0 +1,75 @@
+#include "output/SaveChanges.h"
+
+#include "document/ProofFile.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+
+namespace tessaryn {
+
+SaveChangesForm::SaveChangesForm() : Form("SaveChanges", "Save changes to current proof?") {
+    cmdYes.Click = [this] { Yes(); };
+    cmdNo.Click = [this] { No(); };
+    cmdCancel.Click = [this] { Cancel(); };
+    DefaultButton = &cmdYes;
+}
+
+void SaveChangesForm::Activated() {
+    Beep("The proof has changes that are in no file yet.");
+    OperationCancelled = false;
+    FileName.Caption = ProofFileName.empty() ? "(Untitled file)" : ProofFileName;
+    cmdYes.SetFocus();
+}
+
+bool SaveChangesForm::KeyPressed(const KeyEvent& key) {
+    if (key.key != Key::Esc) return false;
+    Cancel();
+    return true;
+}
+
+void SaveChangesForm::CloseRequested() {
+    Cancel();
+}
+
+void SaveChangesForm::Cancel() {
+    OperationCancelled = true;
+    Hide();
+}
+
+void SaveChangesForm::No() {
+    if (OpenFollows) OpenProofFile();
+    Hide();
+}
+
+void SaveChangesForm::Yes() {
+    bool save = true;
+    if (!ProofFileName.empty()) {
+        ProofFileName = WithProofExtension(ProofFileName);
+    } else {
+        CommonDialog1 = {"", ProofFilter, Proof.CommonDialog1.InitDir, true, false};
+        save = ShowSave(CommonDialog1);
+        if (save) ProofFileName = CommonDialog1.FileName;
+    }
+    if (save) {
+        RefreshNow(Proof);
+        SaveProofFile();
+        if (OperationCancelled) return Hide();  // not saved: nothing that would lose it goes on
+    }
+    if (OpenFollows) OpenProofFile();
+    Hide();
+}
+
+void SaveChangesForm::OpenProofFile() {
+    const std::string previousName = ProofFileName;
+    if (RecentPicked) {
+        RecentPicked = false;
+        ProofFileName = RecentName;
+    } else {
+        CommonDialog1 = {"", ProofFilter, Proof.CommonDialog1.InitDir, false, true};
+        if (!ShowOpen(CommonDialog1)) return;
+        ProofFileName = CommonDialog1.FileName;
+    }
+    RefreshNow(Proof);
+    ReadProofFile(previousName);
+}
+
+}  // namespace tessaryn

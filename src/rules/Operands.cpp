@@ -1,0 +1,61 @@
+#include "rules/Operands.h"
+
+#include <algorithm>
+
+#include "expr/Parse.h"
+#include "mainwindow/Proof.h"
+
+namespace tessaryn {
+
+const ParseRec& NodeAt(const NodeList& nodes, int n) {
+    return nodes[static_cast<std::size_t>(n)];
+}
+
+const ParseRec& Root(const NodeList& nodes) {
+    return nodes.back();
+}
+
+const TokenRec& TokenAt(const TokenList& tokens, int k) {
+    return tokens[static_cast<std::size_t>(k)];
+}
+
+Span WrittenSpan(const TokenList& tokens, int first, int last) {
+    while (TokenAt(tokens, first).Position == 0) ++first;
+    while (TokenAt(tokens, last).Position == 0) --last;
+    const TokenRec& end = TokenAt(tokens, last);
+    return {TokenAt(tokens, first).Position, end.Position + static_cast<int>(end.Token.size()) - 1};
+}
+
+Span SpanOfNode(const TokenList& tokens, int node) {
+    const auto bracket = std::find_if(tokens.begin() + 1, tokens.end(),
+                                      [&](const TokenRec& token) { return token.DPtr == node; });
+    return WrittenSpan(tokens, static_cast<int>(bracket - tokens.begin()), bracket->TPtr);
+}
+
+std::string Cut(const std::string& text, Span span) {
+    return text.substr(static_cast<std::size_t>(span.start - 1),
+                       static_cast<std::size_t>(span.end - span.start + 1));
+}
+
+std::string JoinWritten(const TokenList& tokens, int first, int last) {
+    std::string text;
+    for (int k = first; k <= last; ++k) {
+        if (TokenAt(tokens, k).Position > 0) text += TokenAt(tokens, k).Token;
+    }
+    return text;
+}
+
+bool ParseOrReport() {
+    Parse();
+    if (ParseError.empty()) return true;
+    ReportParseError();
+    return false;
+}
+
+void KeepAsSecond() {
+    StmtText2 = NewStmtText;
+    TokenTable2 = TokenTable;
+    ParseTable2 = ParseTable;
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,294 @@
+// Conclusion: closes the innermost open premise P with the last statement Q above the insertion
+// point.
+//
+//   Q no contradiction: writes ALL(x):[P => EXIST(y):Q], where x are the names that the premise
+//                       introduced and y those introduced inside the block and free in Q
+//   Q a contradiction:  writes ~EXIST(x):P
+//
+// No click. The user may rename the bound variables. The block is indented and stops being active.
+#include "rules/modConclusion.h"
+
+#include <algorithm>
+
+#include "document/PutStmt.h"
+#include "document/Statement.h"
+#include "expr/NameList.h"
+#include "expr/Parse.h"
+#include "expr/Same.h"
+#include "mainwindow/ActiveStmts.h"
+#include "mainwindow/EntryChecks.h"
+#include "mainwindow/MyInputBox.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "rules/Operands.h"
+#include "rules/Rules.h"
+#include "view/InsertMode.h"
+#include "view/Undo.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr std::size_t LineLength = 50;  // from this length on the result is folded ahead of "=>"
+
+Statement& At(int number) {
+    return StmtTable[static_cast<std::size_t>(number)];
+}
+
+void Refuse(const std::string& message) {
+    Beep(message);
+    SetPrompt(message);
+}
+
+// The innermost open premise, if the line above the insertion point is in force; 0 otherwise.
+int FindPremise(int line) {
+    const std::vector<int> lines = ActiveLines();
+    return lines.empty() || lines.back() != line - 1 ? 0 : InnermostOpenPremise();
+}
+
+bool ParseLine(int line) {
+    NewStmtText = StmtText(line);
+    return ParseOrReport();
+}
+
+// --- contradictions: A & ~A, ~A & A, A <=> ~A, ~A <=> A and ~x=x
+
+bool OperandsContradict(const TokenList& tokens) {
+    const int last = static_cast<int>(tokens.size()) - 1;
+    const std::string left = JoinWritten(tokens, 3, TokenAt(tokens, 2).TPtr - 1);
+    const std::string right = JoinWritten(tokens, TokenAt(tokens, last - 1).TPtr + 1, last - 2);
+    return Same("~(" + left + ")", right) || Same(left, "~(" + right + ")");
+}
+
+bool DeniesIdentity(const TokenList& tokens) {
+    const int last = static_cast<int>(tokens.size()) - 1;
+    const int leftEnd = TokenAt(tokens, 4).TPtr;
+    return Same(JoinWritten(tokens, 4, leftEnd), JoinWritten(tokens, leftEnd + 2, last - 2));
+}
+
+// The statement whose parse is in the tables; overwrites them.
+bool IsContradiction() {
+    const TokenList tokens = TokenTable;
+    const int rule = Root(ParseTable).Rule;
+    if (rule == Node::LAnd || rule == Node::Iff) return OperandsContradict(tokens);
+    if (rule != Node::LNeg || NodeAt(ParseTable, RootIndex(ParseTable) - 1).Rule != Node::EQ) {
+        return false;
+    }
+    return DeniesIdentity(tokens);
+}
+
+// --- the statement
+
+void CollectNames(int premise, int last, bool contradiction) {
+    ResetConclusion();
+    for (const std::string& name : NamesOf(At(premise).FreeVars)) {
+        if (IsGreen(name, premise)) ConclusionUVars.push_back(name);
+    }
+    if (contradiction) return;
+    for (const std::string& name : NamesOf(At(last).FreeVars)) {
+        if (IsGreen(name, last) && !HoldsName(At(premise).FreeVars, name)) {
+            ConclusionEVars.push_back(name);
+        }
+    }
+}
+
+// Puts a quantifier for each name in front of the text, the first outermost.
+std::string Quantify(const char* quantifier, const std::vector<std::string>& names,
+                     const std::string& text) {
+    std::string prefix;
+    for (const std::string& name : names) prefix += quantifier + ("(" + name) + "):";
+    return prefix + text;
+}
+
+std::string BuildImplication(const std::string& premise, std::string last) {
+    for (auto name = ConclusionEVars.rbegin(); name != ConclusionEVars.rend(); ++name) {
+        last = "EXIST(" + *name + "):[" + last + "]";
+    }
+    const bool fits = last.size() + premise.size() < LineLength;
+    const std::string text = "[[" + premise + "]" + (fits ? " => [" : "\r\n=> [") + last + "]]";
+    return Quantify("ALL", ConclusionUVars, text);
+}
+
+std::string BuildNegation(const std::string& premise) {
+    return "~" + Quantify("EXIST", ConclusionUVars, "[[" + premise + "]]");
+}
+
+// --- insert mode: what stands behind the new Conclusion must survive it
+
+// Calls visit for each line from `line` on, up to an open Premise; closed blocks are stepped over.
+// Stops at the first message.
+template <class Visit>
+std::string WalkLaterLines(int line, Visit visit) {
+    for (int i = line; i <= StmtCount && !IsOpenPremise(At(i));) {
+        if (IsClosedPremise(At(i))) {
+            i = At(i).Arg1;
+            continue;
+        }
+        for (const std::string& name : NamesOf(At(i).FreeVars)) {
+            if (!visit(name, i)) continue;
+            return "Conclusion Rule: Inconsistent usage of variable '" + name + "' on line " +
+                   std::to_string(i) + ". Consider deleting that line.";
+        }
+        ++i;
+    }
+    return "";
+}
+
+// Is a name green on a line above the premise, up to the next open one?
+bool IsGreenAbove(const std::string& name, int premise) {
+    for (int j = premise - 1; j > 0 && !IsOpenPremise(At(j));) {
+        if (IsGreen(name, j)) return true;
+        j = IsConclusion(At(j)) ? At(j).Arg1 - 1 : j - 1;
+    }
+    return false;
+}
+
+std::string CheckReferences(int premise, int line) {
+    for (int i = line; i <= StmtCount; ++i) {
+        for (const int reference : {At(i).Arg1, At(i).Arg2}) {
+            if (reference < premise || reference >= line) continue;
+            return "Conclusion Rule: Invalid reference to line " + std::to_string(reference) +
+                   " on subsequent line " + std::to_string(i);
+        }
+    }
+    return "";
+}
+
+std::string CheckLaterLines(int premise, int line) {
+    std::string message = CheckReferences(premise, line);
+    if (message.empty()) message = WalkLaterLines(line, IsGreen);
+    if (!message.empty()) return message;
+    return WalkLaterLines(line, [&](const std::string& name, int i) {
+        return HoldsName(At(i).FixedVars, name) && IsGreenAbove(name, premise);
+    });
+}
+
+// --- the names of the bound variables
+
+std::vector<std::string> BoundNames() {
+    std::vector<std::string> names = ConclusionUVars;
+    names.insert(names.end(), ConclusionEVars.begin(), ConclusionEVars.end());
+    return names;
+}
+
+// Puts the statement with the names that the user wants into NewStmtText. False if the user
+// cancelled.
+bool AskForNames() {
+    const std::vector<std::string> names = BoundNames();
+    if (names.empty()) return true;
+    std::string list = names.front();
+    for (std::size_t i = 1; i < names.size(); ++i) list += ", " + names[i];
+    KeepAsSecond();
+    MyInputBox.Caption = "Conclusion Rule: Generalizing on " + list;
+    MyInputBox.Label1.Caption = names.size() == 1
+                                    ? "Enter name of bound variable"
+                                    : "Enter names of " + std::to_string(names.size()) +
+                                          " bound variables, separated by commas";
+    MyInputBox.Text1.Text = list;
+    MyInputBox.Label2.Caption.clear();
+    ShowModal(MyInputBox);
+    return RuleMode != 0;
+}
+
+// The entered names, from the parse in the tables; nothing if it is no list of `count` names.
+std::vector<std::string> EnteredNames(std::size_t count) {
+    std::vector<std::string> names;
+    const bool isList =
+        ParseTable.size() == 2 * count && (count == 1 || Root(ParseTable).Rule == Node::Ntuple);
+    for (std::size_t i = 1; isList && i <= count; ++i) {
+        if (ParseTable[i].Rule != Node::Atom) return {};
+        names.push_back(ParseTable[i].Name);
+    }
+    return names;
+}
+
+// StmtText2 with each old name replaced by the new one in its place.
+std::string Renamed(const std::vector<std::string>& oldNames,
+                    const std::vector<std::string>& newNames) {
+    std::string text = StmtText2;
+    for (auto token = TokenTable2.rbegin(); token != TokenTable2.rend(); ++token) {
+        const auto found = std::find(oldNames.begin(), oldNames.end(), token->Token);
+        if (found == oldNames.end()) continue;
+        text.replace(static_cast<std::size_t>(token->Position - 1), token->Token.size(),
+                     newNames[static_cast<std::size_t>(found - oldNames.begin())]);
+    }
+    return text;
+}
+
+// --- the steps
+
+// Builds the statement in NewStmtText and tests it. False after a refusal.
+bool BuildStatement(int premise, int line) {
+    if (!ParseLine(premise)) return false;
+    const std::string premiseText = NewStmtText;
+    if (!ParseLine(line - 1)) return false;
+    const std::string lastText = NewStmtText;
+    const bool contradiction = IsContradiction();
+    CollectNames(premise, line - 1, contradiction);
+    NewStmtText =
+        contradiction ? BuildNegation(premiseText) : BuildImplication(premiseText, lastText);
+    Parse();
+    if (!ParseError.empty()) {
+        Refuse("Conclusion Rule: Inconsistent usage of same variable name in lines " +
+               std::to_string(premise) + " and " + std::to_string(line - 1) +
+               ". Try letters a-j for bound variables, k-z for free variables.");
+        return false;
+    }
+    const std::string fault = InsertMode ? CheckLaterLines(premise, line) : "";
+    if (!fault.empty()) Refuse(fault);
+    return fault.empty();
+}
+
+void CloseBlock(int premise, int line) {
+    if (!StatementsFit(1)) return;
+    BackUpUndo();
+    At(premise).Arg1 = line;
+    IndentStatements(premise, line - 1);
+    Arg2Pending = 0;
+    PutStmt();
+}
+
+}  // namespace
+
+void ResetConclusion() {
+    ConclusionUVars.clear();
+    ConclusionEVars.clear();
+}
+
+void ContinueConclusion() {
+    const std::vector<std::string> oldNames = BoundNames();
+    const char* invalid =
+        oldNames.size() == 1 ? "Invalid bound variable" : "Invalid list of bound variables";
+    NewStmtText = MyInputBox.Text1.Text;
+    Parse();
+    if (!ParseError.empty()) return RefuseEntry(invalid);
+    const std::vector<std::string> newNames = EnteredNames(oldNames.size());
+    if (newNames.empty()) return RefuseEntry(invalid);
+    const std::string text = Renamed(oldNames, newNames);
+    if (!Same(StmtText2, text)) {
+        return RefuseEntry("New bound variable already used in premise or last statement");
+    }
+    NewStmtText = text;
+    Parse();
+    if (!ParseError.empty()) return RefuseEntry(ParseError);
+    MyInputBox.Hide();
+}
+
+void Conclusion() {
+    Proof.RTB.SetFocus();
+    SetPrompt("");
+    RuleMode = Rule::Conclusion;
+    const int line = InsertionLimit();
+    const int premise = FindPremise(line);
+    Arg1Pending = premise;
+    if (premise == 0) {
+        Refuse("Conclusion Rule: No active premise found");
+    } else if (BuildStatement(premise, line)) {
+        if (!AskForNames()) return;
+        CloseBlock(premise, line);
+    }
+    RuleMode = 0;
+    Proof.RTB.SetFocus();
+}
+
+}  // namespace tessaryn

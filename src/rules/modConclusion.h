@@ -1,0 +1,19 @@
+// What the Conclusion Rule keeps while it asks for the names of the bound variables.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tessaryn {
+
+// Names to be bound universally, in the order of the premise's FreeVars, and existentially, in that
+// of the last statement's.
+inline std::vector<std::string> ConclusionUVars;
+inline std::vector<std::string> ConclusionEVars;
+
+void ResetConclusion();
+
+// Puts one more TAB in front of every line of the blocks first to last, in one pass over the text.
+void IndentStatements(int first, int last);
+
+}  // namespace tessaryn

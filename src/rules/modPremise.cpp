@@ -1,0 +1,73 @@
+// The two free starting points of a proof.
+//
+//   Premise: opens a block that the Conclusion Rule closes. No axiom may follow it.
+//   Axiom:   opens nothing. No premise may precede it, open or closed.
+//
+// Both open TestParser, which checks the entry, and write what it accepts.
+#include <string>
+
+#include "document/PutStmt.h"
+#include "document/Statement.h"
+#include "expr/Expression.h"
+#include "mainwindow/ActiveStmts.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "mainwindow/TestParser.h"
+#include "rules/Rules.h"
+#include "view/InsertMode.h"
+
+namespace tessaryn {
+namespace {
+
+// Is there a statement of that rule on lines first to last? Gives its line, 0 if not.
+int FindStatement(int rule, int first, int last) {
+    for (int line = first; line <= last; ++line) {
+        if (StmtTable[static_cast<std::size_t>(line)].Rule == rule) return line;
+    }
+    return 0;
+}
+
+void Refuse(const std::string& message, const std::string& reason) {
+    Beep(reason);
+    SetPrompt(message);
+    Proof.RTB.SetFocus();
+}
+
+void EnterStatement(int rule, const std::string& caption) {
+    Proof.RTB.SetFocus();
+    RuleMode = rule;
+    Arg1Pending = Arg2Pending = 0;
+    SpecName.clear();
+    SetPrompt("");
+    TestParser.Caption = caption;
+    TestParser.StatusLine.Caption =
+        "Suggestion: Use letters a-j for bound variables, k-z for free variables";
+    ShowModal(TestParser);
+    FinishRule(!ParseError.empty() || WriteStatement());
+}
+
+}  // namespace
+
+void Premise() {
+    const int axiom = InsertMode ? FindStatement(Rule::Axiom, InsertLine, StmtCount) : 0;
+    if (axiom > 0) {
+        return Refuse(
+            "Premise Rule: Axiom found on subsequent line. Consider another insertion point.",
+            "Line " + std::to_string(axiom) + " is an Axiom: all axioms stand ahead of premises.");
+    }
+    EnterStatement(Rule::Premise, "Premise Rule: Enter a premise");
+}
+
+void Axiom() {
+    const int premise = FindStatement(Rule::Premise, 1, InsertionLimit() - 1);
+    if (premise > 0) {
+        return Refuse(
+            "Axiom Rule: Premise on previous line. Consider another insertion point for axiom.",
+            "Line " + std::to_string(premise) +
+                " is a Premise: all axioms stand ahead of premises.");
+    }
+    EnterStatement(Rule::Axiom, "Create an Axiom: Enter a logical expression");
+}
+
+}  // namespace tessaryn

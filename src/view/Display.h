@@ -1,0 +1,58 @@
+// The proof display: builds the surface Proof.RTB from the document, and the small services that
+// every surface with an expression shares.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Form.h"
+#include "platform/RichTextBox.h"
+
+namespace tessaryn {
+
+inline int StmtFontSize = 12;  // points, of statements
+inline int RuleFontSize = 10;  // points, of annotations; always StmtFontSize - 2
+
+inline constexpr const char* StatementFont = "Courier New";
+inline constexpr const char* SymbolFont = "Symbol";      // "e" is the element sign
+inline constexpr const char* TriangleFont = "Webdings";  // "4" points right, "5" up
+
+inline constexpr Colour Black = 0;
+inline constexpr Colour CommentBlue = Rgb(0, 0, 150);
+inline constexpr Colour FaintGrey = Rgb(128, 128, 128);
+inline constexpr Colour FixedRed = Rgb(200, 0, 0);
+inline constexpr Colour FreeGreen = Rgb(0, 175, 0);
+
+// Rebuilds the display. Nothing is selected afterwards; the caller places the caret. Only what
+// changed is handed on, and a statement is lexed and coloured when its place is first looked at.
+void ResetFonts();
+
+// Lexes all stored text. A statement that can't be lexed, which only a damaged file can hold, is
+// reported by this and by each ResetFonts from then on until a sound document replaces it.
+void CheckStoredText();
+
+// Turns each "@" into the element sign, over 1-based positions start to start + length - 1.
+void ConvertAmpersand(RichTextBox& surface, int start, int length);
+
+// The surface's plain text with "@" for each element sign. The surface is left alone.
+std::string ConvertEpsilon(RichTextBox& surface);
+
+// A hidden surface on which formatted text is normalised, and pages are built.
+struct WorkAreaForm : Form {
+    WorkAreaForm() : Form("WorkArea") {}
+    RichTextBox RTB{*this, "RTB"};
+};
+inline WorkAreaForm WorkArea;
+
+// Makes the WorkArea surface's content an expression: one font, the given colour, no TABs, element
+// signs shown.
+void ReformatWA(Colour colour);
+
+// Is `name`, in statement `stmt`, already in use outside the innermost open premise? Statements
+// with Flagged set count as gone.
+void FreeVarColourFont(const std::string& name, int stmt, bool& isFixed);
+
+// The names of a list that FreeVarColourFont finds fixed in a statement, as a name list.
+std::string FixedNames(const std::string& names, int stmt);
+
+}  // namespace tessaryn

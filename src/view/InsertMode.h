@@ -1,0 +1,25 @@
+// Insert mode: new statements go in front of a line that the user picked, and only the lines above
+// it can be used.
+#pragma once
+
+namespace tessaryn {
+
+inline bool InsertMode = false;
+inline int InsertLine = 0;  // the number of the next statement; 0 while the mode is off
+
+// The menu item: ends the mode, or waits for the click that starts it.
+void ToggleInsertMode();
+
+// The click while RuleMode is 44.
+void GetInsertLineNo();
+
+// Turns the mode off, with its label and check mark.
+void EndInsertMode();
+
+// Shows "^" and InsertLine in the label.
+void ShowInsertLine();
+
+// Puts the caret behind the nearest visible statement above InsertLine, or at 0.
+void PutCaretBehindInsertMark();
+
+}  // namespace tessaryn

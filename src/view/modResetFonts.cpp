@@ -1,0 +1,249 @@
+// Builds the proof display from the document.
+//
+// The surface holds the same bytes as ProofText, visible block after visible block, but for two
+// glyph swaps: "@" is shown as "e" in font Symbol, and a Conclusion's "4" as "5" in font Webdings
+// while its block is folded. One surface block stands for one statement; its runs are worked out on
+// demand.
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "document/Statement.h"
+#include "expr/Lex.h"
+#include "expr/NameList.h"
+#include "mainwindow/Proof.h"
+#include "view/Display.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr int Introduction = 0;  // stands for the introduction where a statement number is meant
+
+std::vector<int> ShownBlocks;      // statement number of each block of the surface
+bool StoredTextIsDamaged = false;  // some statement can't be lexed
+
+const Statement& At(int number) {
+    return StmtTable[static_cast<std::size_t>(number)];
+}
+
+CharFormat Format(int size, Colour colour, bool bold = false) {
+    return {StatementFont, size, colour, bold};
+}
+
+bool BlockIsFolded(const Statement& conclusion) {
+    return !At(conclusion.Arg1).Visible;
+}
+
+void SwapElementSigns(std::string& text, std::size_t first, std::size_t last) {
+    for (std::size_t at = text.find('@', first); at < last; at = text.find('@', at + 1)) {
+        text[at] = 'e';
+    }
+}
+
+// --- runs of one block
+
+// Lays runs side by side, joining neighbours of one format.
+class RunBuilder {
+  public:
+    // Continues the block to `end` (0-based, relative) in one format.
+    void Until(int end, const CharFormat& format) {
+        if (end <= at_) return;
+        if (!runs_.empty() && runs_.back().format == format) {
+            runs_.back().length += end - at_;
+        } else {
+            runs_.push_back({at_, end - at_, format});
+        }
+        at_ = end;
+    }
+    std::vector<FormatRun> Take() { return std::move(runs_); }
+
+  private:
+    std::vector<FormatRun> runs_;
+    int at_ = 0;
+};
+
+// Free text: one format, but for its element signs.
+void AddCommentRuns(RunBuilder& runs, std::string_view text, int start) {
+    const CharFormat plain = Format(StmtFontSize, CommentBlue);
+    CharFormat symbol = plain;
+    symbol.Font = SymbolFont;
+    for (std::size_t at = text.find('@'); at != std::string_view::npos;
+         at = text.find('@', at + 1)) {
+        const int place = start + static_cast<int>(at);
+        runs.Until(place, plain);
+        runs.Until(place + 1, symbol);
+    }
+    runs.Until(start + static_cast<int>(text.size()), plain);
+}
+
+// Colours and fonts of a statement's text, a format for each byte. Unformatted if it can't be
+// lexed.
+std::vector<CharFormat> StatementFormats(const Statement& stmt, std::string_view text,
+                                         const TokenList& tokens) {
+    std::vector<CharFormat> formats(text.size(), Format(StmtFontSize, Black));
+    for (std::size_t k = 1; k < tokens.size(); ++k) {
+        const TokenRec& token = tokens[k];
+        const auto first = static_cast<std::size_t>(token.Position) - 1;
+        if (HoldsName(stmt.FreeVars, token.Token)) {
+            const bool fixed = HoldsName(stmt.FixedVars, token.Token);
+            for (std::size_t i = first; i < first + token.Token.size(); ++i) {
+                formats[i].Color = fixed ? FixedRed : FreeGreen;
+                formats[i].Bold = HoldsName(stmt.SpareVars, token.Token);
+            }
+        } else if (token.Token == "@") {
+            // The blanks on both sides go with the sign.
+            const bool blankBehind = first + 1 < text.size() && text[first + 1] == ' ';
+            const std::size_t from = blankBehind && first > 0 ? first - 1 : first;
+            const std::size_t to = blankBehind ? first + 1 : first;
+            for (std::size_t i = from; i <= to; ++i) formats[i].Font = SymbolFont;
+        }
+    }
+    return formats;
+}
+
+void AddStatementRuns(RunBuilder& runs, const Statement& stmt, int number) {
+    const std::string_view text = StoredText(number);
+    TokenList tokens;
+    std::string error;
+    int errorPos = 0;
+    Lex(std::string(text), tokens, error, errorPos);
+    if (!error.empty()) tokens.resize(1);
+    const std::vector<CharFormat> formats = StatementFormats(stmt, text, tokens);
+    int place = stmt.StartStmt - stmt.StartLine;
+    for (const CharFormat& format : formats) runs.Until(++place, format);
+}
+
+void AddAnnotationRuns(RunBuilder& runs, const Statement& stmt) {
+    const int start = stmt.StartRule - stmt.StartLine;
+    if (IsConclusion(stmt)) {
+        runs.Until(start + 1, {TriangleFont, RuleFontSize, Black, false});
+        runs.Until(start + 2, Format(StmtFontSize, Black));
+    }
+    runs.Until(stmt.EndRule - stmt.StartLine + 1, Format(RuleFontSize, FaintGrey));
+}
+
+std::vector<FormatRun> StatementBlockRuns(int number) {
+    const Statement& stmt = At(number);
+    const CharFormat plain = Format(StmtFontSize, Black);
+    RunBuilder runs;
+    if (stmt.EndUserComment > 0) {
+        AddCommentRuns(runs, ProofSlice(stmt.StartLine, stmt.EndUserComment), 0);
+    }
+    const int numberStart = NumberStart(stmt) - stmt.StartLine;
+    const int digits = static_cast<int>(std::to_string(number).size());
+    runs.Until(numberStart, plain);
+    runs.Until(numberStart + digits,
+               Format(StmtFontSize, Depth(stmt) > 0 ? FaintGrey : Black, stmt.Highlight));
+    runs.Until(stmt.StartStmt - stmt.StartLine, plain);
+    AddStatementRuns(runs, stmt, number);
+    runs.Until(stmt.StartRule - stmt.StartLine, plain);
+    AddAnnotationRuns(runs, stmt);
+    runs.Until(BlockLength(stmt), plain);
+    return runs.Take();
+}
+
+std::vector<FormatRun> IntroductionRuns() {
+    RunBuilder runs;
+    AddCommentRuns(runs, ProofSlice(1, IntroEnd), 0);
+    runs.Until(IntroEnd + 4, Format(StmtFontSize, Black));
+    return runs.Take();
+}
+
+std::vector<FormatRun> BlockRuns(int index) {
+    const int number = ShownBlocks[static_cast<std::size_t>(index)];
+    return number == Introduction ? IntroductionRuns() : StatementBlockRuns(number);
+}
+
+// --- the surface's text and blocks
+
+// Mixes a value into a key (the step of the FNV-1a hash, over whole values).
+void Mix(std::uint64_t& key, std::size_t value) {
+    key = (key ^ value) * 0x100000001B3ULL;
+}
+
+// All that a block's formats depend on besides its bytes.
+std::uint64_t BlockKey(const Statement& stmt) {
+    static const std::hash<std::string_view> hashOf;
+    std::uint64_t key = 0xCBF29CE484222325ULL;
+    for (const int part : {stmt.EndUserComment > 0 ? stmt.EndUserComment - stmt.StartLine : -1,
+                           stmt.StartStmt - stmt.StartLine, stmt.EndStmt - stmt.StartLine,
+                           stmt.StartRule - stmt.StartLine, stmt.Rule, StmtFontSize}) {
+        Mix(key, static_cast<std::size_t>(part));
+    }
+    Mix(key, stmt.Highlight ? 1 : 0);
+    for (const std::string* list : {&stmt.FreeVars, &stmt.FixedVars, &stmt.SpareVars}) {
+        Mix(key, list->empty() ? 0 : hashOf(*list));
+    }
+    return key;
+}
+
+void AppendBlock(std::string& text, const Statement& stmt) {
+    const std::size_t start = text.size();
+    const auto place = [&](int index) {
+        return start + static_cast<std::size_t>(index - stmt.StartLine);
+    };
+    text += ProofSlice(stmt.StartLine, stmt.EndRule + 4);
+    if (stmt.EndUserComment > 0) SwapElementSigns(text, start, place(stmt.EndUserComment) + 1);
+    SwapElementSigns(text, place(stmt.StartStmt), place(stmt.EndStmt) + 1);
+    if (IsConclusion(stmt) && BlockIsFolded(stmt)) text[place(stmt.StartRule)] = '5';
+}
+
+void AppendIntroduction(std::string& text) {
+    text += ProofSlice(1, IntroEnd + 4);
+    SwapElementSigns(text, 0, static_cast<std::size_t>(IntroEnd));
+}
+
+std::string LexError(int number) {
+    TokenList tokens;
+    std::string error;
+    int errorPos = 0;
+    Lex(std::string(StoredText(number)), tokens, error, errorPos);
+    return error;
+}
+
+// Reports the statements that can't be lexed, each in its turn; the last message stays.
+void ReportDamagedStatements() {
+    for (const int number : ShownBlocks) {
+        if (number == Introduction) continue;
+        const std::string error = LexError(number);
+        if (error.empty()) continue;
+        SetPrompt("PARSER ERROR: " + error);
+        Beep("The text of line " + std::to_string(number) + " is damaged: " + error);
+    }
+}
+
+}  // namespace
+
+void ResetFonts() {
+    std::string text;
+    text.reserve(ProofText.size());
+    std::vector<RichTextBox::Block> blocks;
+    blocks.reserve(static_cast<std::size_t>(StmtCount) + 1);
+    ShownBlocks.clear();
+    if (IntroEnd > 0) {
+        AppendIntroduction(text);
+        blocks.push_back({IntroEnd + 4, static_cast<std::uint64_t>(StmtFontSize)});
+        ShownBlocks.push_back(Introduction);
+    }
+    for (int number = 1; number <= StmtCount; ++number) {
+        const Statement& stmt = At(number);
+        if (!stmt.Visible) continue;
+        AppendBlock(text, stmt);
+        blocks.push_back({BlockLength(stmt), BlockKey(stmt)});
+        ShownBlocks.push_back(number);
+    }
+    Proof.RTB.SetBlocks(std::move(text), blocks, BlockRuns);
+    Proof.RTB.SelLength = 0;
+    Proof.StatusLine.SelAlignment = Alignment::Center;
+    if (StoredTextIsDamaged) ReportDamagedStatements();
+}
+
+void CheckStoredText() {
+    StoredTextIsDamaged = false;
+    for (int number = 1; number <= StmtCount && !StoredTextIsDamaged; ++number) {
+        StoredTextIsDamaged = !LexError(number).empty();
+    }
+}
+
+}  // namespace tessaryn
