@@ -1,10 +1,8 @@
 #include "cli/CommandLine.h"
 
-#include <algorithm>
 #include <array>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <optional>
 
 #include "cli/ExpressionTables.h"
@@ -74,14 +72,21 @@ std::optional<RunRequest> ReadRunRequest(const Words& words) {
     return request;
 }
 
+// Nothing if the stream can't be read to its end.
+std::optional<std::string> ReadAll(std::istream& source) {
+    std::string text;
+    char block[65536];
+    while (source.read(block, sizeof block) || source.gcount() > 0) {
+        text.append(block, static_cast<std::size_t>(source.gcount()));
+    }
+    if (!source.eof()) return std::nullopt;
+    return text;
+}
+
 std::optional<std::string> ReadScript(const std::string& file, std::istream& in) {
-    std::ifstream opened;
-    if (file != "-") opened.open(file, std::ios::binary);
-    if (file != "-" && !opened) return std::nullopt;
-    std::istream& source = file == "-" ? in : opened;
-    std::string script(std::istreambuf_iterator<char>(source), {});
-    if (source.bad()) return std::nullopt;
-    return script;
+    if (file == "-") return ReadAll(in);
+    std::ifstream source(file, std::ios::binary);
+    return ReadAll(source);
 }
 
 int RunCommand(const Words& words, const Streams& streams) {

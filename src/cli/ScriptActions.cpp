@@ -27,8 +27,8 @@ bool HasCommand(const Control& control) {
 Control& ChoosableControl(const std::string& name) {
     Control& control = FindControl(name);
     if (!control.Parent.Enabled) throw ActionFailed{control.Parent.Name + " is disabled"};
-    if (!CanReach(control)) throw ActionFailed{name + " is hidden or disabled"};
     if (!HasCommand(control)) throw ActionFailed{"there is no command behind " + name};
+    if (!CanReach(control)) throw ActionFailed{name + " is hidden or disabled"};
     return control;
 }
 
