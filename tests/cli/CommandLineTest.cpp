@@ -1,0 +1,150 @@
+// The commands of tessaryn-cli: exit status, and output byte for byte.
+#include "cli/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "cli/ScriptRunner.h"
+
+namespace tessaryn {
+namespace {
+
+struct Outcome {
+    int status;
+    std::string output;
+    std::string error;
+};
+
+Outcome Call(const std::vector<std::string>& arguments, const std::string& input = "") {
+    std::istringstream in(input);
+    std::ostringstream out;
+    std::ostringstream err;
+    const int status = RunCommandLine(arguments, {in, out, err});
+    return {status, out.str(), err.str()};
+}
+
+TEST(CommandLine, WrongUseShowsTheUsage) {
+    const std::vector<std::vector<std::string>> rows = {
+        {},
+        {""},
+        {"--nonsense"},
+        {"run"},
+        {"run", "a", "b"},
+        {"run", "--fast", "a"},
+        {"run", "--settings"},
+        {"run", "--settings", ""},
+        {"run", ""},
+        {"parse", "x"},
+        {"same", "x"},
+        {"dump"},
+        {"dump", "a", "b"},
+        {"--help", "me"},
+        {"html", "a", "b"},
+    };
+    for (const auto& row : rows) {
+        const Outcome outcome = Call(row);
+        EXPECT_EQ(outcome.status, 2) << (row.empty() ? "" : row[0]);
+        EXPECT_EQ(outcome.output, "");
+        EXPECT_TRUE(outcome.error.starts_with("usage: tessaryn-cli run")) << outcome.error;
+    }
+    EXPECT_EQ(Call({"--version"}).output, "tessaryn-cli 2.0\n");
+    EXPECT_EQ(Call({"--help"}).status, 0);
+}
+
+TEST(CommandLine, RunTakesAFileOrStandardInput) {
+    const Outcome piped = Call({"run", "-"}, "echo \"hello\"\nexpect count 1\n");
+    EXPECT_EQ(piped.status, 1);
+    EXPECT_EQ(piped.output, "hello\n");
+    EXPECT_EQ(piped.error, "-:2: the number of lines is 0, expected 1\n");
+
+    const std::string file = ::testing::TempDir() + "run.script";
+    std::ofstream(file) << "\nclick 7\n";
+    EXPECT_EQ(Call({"run", file}).error, file + ":2: there is no line 7\n");
+    EXPECT_EQ(Call({"run", "--check", "--hidden", file}).status, 1);
+    EXPECT_EQ(Call({"run", "/nowhere/x.script"}).status, 1);
+    EXPECT_EQ(Call({"run", ::testing::TempDir()}).status, 1);
+}
+
+TEST(CommandLine, ParsePrintsTables) {
+    const Outcome outcome = Call({"parse"}, "\"P\"\n\"x@s\"\n\"x@\"");
+    EXPECT_EQ(outcome.status, 0);
+    std::istringstream lines(outcome.output);
+    std::string line;
+    std::getline(lines, line);
+    EXPECT_EQ(line, R"json({"error":"","errorPos":0,)json"
+                    R"json("tokens":[["(",0,3,1,false],["P",1,0,0,false],[")",0,1,1,false]],)json"
+                    R"json("nodes":[[25,"P",0,0]],"canonical":"P","freeVars":""})json");
+    std::getline(lines, line);
+    const auto element = nlohmann::json::parse(line);
+    EXPECT_EQ(element["canonical"], "x @ s");
+    EXPECT_EQ(element["freeVars"], " x s ");
+    EXPECT_EQ(element["nodes"].dump(), R"json([[1,"x",0,0],[1,"s",0,0],[22,"",1,2]])json");
+    std::getline(lines, line);
+    EXPECT_TRUE(line.starts_with(R"json({"error":")json")) << line;
+    EXPECT_EQ(nlohmann::json::parse(line).size(), 2U);
+}
+
+TEST(CommandLine, ParseStopsAtWhatIsNoString) {
+    for (const char* line : {"P", "", "1", "null", "[\"P\"]", "\"P", "\"\xff\"", "\"P\" \"Q\""}) {
+        const Outcome outcome = Call({"parse"}, "\"P\"\n" + std::string(line) + "\n\"Q\"\n");
+        EXPECT_EQ(outcome.status, 1) << line;
+        EXPECT_EQ(outcome.error, "stdin:2: the line is no JSON string\n");
+        EXPECT_EQ(std::count(outcome.output.begin(), outcome.output.end(), '\n'), 1);
+    }
+}
+
+TEST(CommandLine, ParseSurvivesHostileText) {
+    const std::string deep(20000, '(');
+    const std::string nested = "[" + std::string(100000, '[');
+    const Outcome outcome =
+        Call({"parse"}, nlohmann::json(deep + "x" + std::string(20000, ')')).dump() + "\n" +
+                            R"json("")json" + "\n" + R"json("\u0000")json" + "\n" +
+                            R"json("é")json" + "\n");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(std::count(outcome.output.begin(), outcome.output.end(), '\n'), 4);
+    EXPECT_NE(outcome.output.find(R"json({"error":"18. Illegal character é","errorPos":1})json"),
+              std::string::npos);
+    EXPECT_EQ(Call({"parse"}, nested).status, 1);
+}
+
+TEST(CommandLine, SameComparesPairs) {
+    const Outcome outcome = Call({"same"}, R"json(["ALL(x):P(x)","ALL(y):[P(y)]"])json"
+                                           "\n"
+                                           R"json(["P","Q"])json"
+                                           "\n"
+                                           R"json(["P &","P &"])json");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, "true\nfalse\nfalse\n");
+    for (const char* line : {"", "\"P\"", "[\"P\"]", "[\"P\",1]", "[\"P\",\"Q\",\"R\"]"}) {
+        EXPECT_EQ(Call({"same"}, std::string(line) + "\n").error,
+                  "stdin:1: the line is no JSON array of two strings\n");
+    }
+}
+
+TEST(CommandLine, DumpOpensAProof) {
+    const std::string file = ::testing::TempDir() + "dump.proof";
+    const std::string script =
+        "choose optPremise\nset RTB \"x @ s\"\nchoose cmdContinue\nsave \"" + file + "\"\n";
+    ASSERT_EQ(RunScript(script).error, "");
+    const Outcome outcome = Call({"dump", file});
+    EXPECT_EQ(outcome.status, 0);
+    const auto state = nlohmann::ordered_json::parse(outcome.output);
+    EXPECT_EQ(state["fileName"], file);
+    EXPECT_EQ(state["title"], " Tessaryn 2.0  -  " + file);
+    EXPECT_EQ(state["proofText"], "1\tx @ s\r\n\tPremise\r\n\r\n");
+    EXPECT_EQ(state["view"]["text"], "1\tx e s\r\n\tPremise\r\n\r\n");
+    EXPECT_EQ(state["proofChanged"], false);
+
+    std::ofstream(file) << "no proof";
+    const Outcome refused = Call({"dump", file});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.output, "");
+    EXPECT_TRUE(refused.error.starts_with(file + ": Open: Unable to open proof file"));
+    EXPECT_EQ(Call({"dump", "/nowhere/x.proof"}).status, 1);
+}
+
+}  // namespace
+}  // namespace tessaryn

@@ -1,0 +1,178 @@
+// The platform without a display on forms of its own: modal forms in each other, keys and their
+// editing, replacing a box's content.
+#include "cli/HeadlessPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include "cli/FormState.h"
+#include "cli/Keyboard.h"
+
+namespace tessaryn {
+namespace {
+
+struct EntryForm : Form {
+    explicit EntryForm(std::string name = "Entry") : Form(std::move(name)) {
+        Title.Items = {&Item};
+        Item.Click = [this] { ++itemChosen; };
+        Ok.Click = [this] { ++okPressed; };
+        Line.Change = [this] { ++changes; };
+        Line.KeyPress = [this](const KeyEvent&) {
+            ++keys;
+            return false;
+        };
+        Text.KeyDown = [this](const KeyEvent& key) { return TakeAt(key); };
+        Text.Change = [this] { ++changes; };
+        DefaultButton = &Ok;
+    }
+
+    // As the editor of comments does: leaves a blank behind the caret.
+    bool TakeAt(const KeyEvent& key) {
+        ++keys;
+        if (key.text != "@") return false;
+        Text.SelText = std::string("e ");
+        const int behind = Text.SelStart;
+        Text.SelStart = behind - 2;
+        Text.SelLength = 1;
+        Text.SelFontName = std::string("Symbol");
+        Text.SelStart = behind - 1;
+        Text.SelFontName = std::string("Courier New");
+        return true;
+    }
+
+    Label Hint{*this, "Hint", "hint"};
+    TextBox Line{*this, "Line"};
+    RichTextBox Text{*this, "Text"};
+    Button Ok{*this, "Ok"};
+    MenuItem Title{*this, "Title"};
+    MenuItem Item{*this, "Item", "", "Ctrl+B"};
+    int itemChosen = 0;
+    int okPressed = 0;
+    int changes = 0;
+    int keys = 0;
+};
+
+void Press(EntryForm& form, const std::string& name) {
+    KeyEvent key;
+    ASSERT_TRUE(KeyFromName(name, key));
+    PressKey(form, key);
+}
+
+void TypeInto(EntryForm& form, const std::string& text) {
+    for (const KeyEvent& key : KeysOf(text)) PressKey(form, key);
+}
+
+TEST(HeadlessPlatform, NestsModalForms) {
+    Headless = {};
+    EntryForm outer("Outer"), inner("Inner");
+    std::vector<std::string> onTop;
+    int step = 0;
+    Headless.NextStep = [&] {
+        onTop.push_back(TopForm().Name);
+        if (++step == 1) ShowModal(inner);
+        if (step == 2) inner.Hide();
+        if (step == 3) outer.Hide();
+        return true;
+    };
+    ShowModal(outer);
+    EXPECT_EQ(onTop, (std::vector<std::string>{"Outer", "Inner", "Outer"}));
+    EXPECT_FALSE(ModalFormOpen());
+}
+
+TEST(HeadlessPlatform, ProgramEndUnwindsOpenForms) {
+    Headless = {};
+    EntryForm form;
+    Headless.NextStep = [] { return false; };
+    EXPECT_THROW(ShowModal(form), ProgramEnded);
+    EXPECT_FALSE(form.Visible);
+    EXPECT_FALSE(ModalFormOpen());
+    Headless.NextStep = [] {
+        EndProgram();
+        return true;
+    };
+    EXPECT_THROW(ShowModal(form), ProgramEnded);
+}
+
+TEST(HeadlessPlatform, ModelessFormLeavesTheMainWindowOpen) {
+    Headless = {};
+    EntryForm form;
+    ShowModeless(form);
+    ShowModeless(form);
+    EXPECT_EQ(&TopForm(), &form);
+    EXPECT_FALSE(ModalFormOpen());
+    EXPECT_EQ(Headless.Forms.size(), 1U);
+}
+
+TEST(Keyboard, EditsAOneLineBox) {
+    EntryForm form;
+    form.Line.SetFocus();
+    TypeInto(form, "xéy");
+    EXPECT_EQ(form.Line.Text, "xéy");
+    EXPECT_EQ(form.changes, 3);
+    form.Line.SelStart = 1;
+    Press(form, "Del");
+    EXPECT_EQ(form.Line.Text, "xy");
+    Press(form, "Ctrl+A");
+    Press(form, "Ctrl+X");
+    EXPECT_EQ(form.Line.Text, "");
+    Press(form, "Del");
+    EXPECT_EQ(form.changes, 5) << "no change, no event";
+    ClipboardSetText("a\nb");
+    Press(form, "Ctrl+V");
+    Press(form, "Ctrl+V");
+    EXPECT_EQ(form.Line.Text, "abab");
+    form.Line.Text = "a";  // the program shortens it under the caret
+    TypeInto(form, "b");
+    EXPECT_EQ(form.Line.Text, "ab");
+}
+
+TEST(Keyboard, EnterPressesTheDefaultButton) {
+    EntryForm form;
+    form.Line.SetFocus();
+    Press(form, "Enter");
+    EXPECT_EQ(form.okPressed, 1);
+    form.Text.SetFocus();
+    Press(form, "Enter");
+    EXPECT_EQ(form.Text.GetText(), "\r\n");
+    form.Text.MultiLine = false;
+    Press(form, "Enter");
+    EXPECT_EQ(form.okPressed, 2);
+    form.Text.ReadOnly = true;
+    TypeInto(form, "x");
+    EXPECT_EQ(form.Text.GetText(), "\r\n");
+}
+
+TEST(Keyboard, ShortcutsWorkAsLongAsTheItemCanBeReached) {
+    EntryForm form;
+    form.Line.SetFocus();
+    Press(form, "Ctrl+B");
+    EXPECT_EQ(form.itemChosen, 1);
+    EXPECT_EQ(form.keys, 0);
+    form.Title.Visible = false;
+    Press(form, "Ctrl+B");
+    EXPECT_EQ(form.itemChosen, 1);
+}
+
+TEST(Keyboard, ReplacesContentByTyping) {
+    EntryForm form;
+    ReplaceByTyping(form.Text, "old");
+    ReplaceByTyping(form.Text, "a @ b\n@");
+    EXPECT_EQ(BoxText(form.Text), "a @ b\r\n@") << "nothing is left behind the caret";
+    EXPECT_EQ(form.Text.FormatAt(4).Font, "Courier New");
+    EXPECT_EQ(form.Text.GetSelStart(), form.Text.TextLength());
+    EXPECT_EQ(form.ActiveControl, &form.Text);
+
+    form.keys = form.changes = 0;
+    form.Text.SelStart = 0;
+    ReplaceByTyping(form.Text, "a @ b\r\n@");
+    EXPECT_EQ(form.keys, 0) << "the text was there already";
+    EXPECT_EQ(form.Text.GetSelStart(), form.Text.TextLength());
+    ReplaceByTyping(form.Text, "");
+    EXPECT_EQ(form.Text.TextLength(), 0);
+
+    ReplaceByTyping(form.Line, "one\ntwo");
+    EXPECT_EQ(form.Line.Text, "onetwo");
+    EXPECT_EQ(form.Line.SelStart, 6);
+}
+
+}  // namespace
+}  // namespace tessaryn
