@@ -97,8 +97,8 @@ bool ParseRenamed(std::string& text, TokenList& tokens, NodeList& nodes, std::st
     return error.empty();
 }
 
-bool ParseRenamedGlobal(const std::string& text, bool nodesOnly) {
-    NewStmtText = text;
+bool ParseRenamedGlobal(std::string text, bool nodesOnly) {
+    NewStmtText = std::move(text);
     return ParseRenamed(NewStmtText, TokenTable, ParseTable, ParseError, ParseErrorPos, nodesOnly);
 }
 
@@ -118,11 +118,11 @@ std::string FreeVars(const TokenList& tokens, const NodeList& nodes) {
 }  // namespace
 
 bool Same(const std::string& a, const std::string& b) {
-    if (a == b) return ParseRenamedGlobal(std::string(b), false);
-    const std::string second = b;  // b may be NewStmtText itself
+    if (a == b) return ParseRenamedGlobal(b, false);
+    std::string second = b;  // b may be NewStmtText itself
     if (!ParseRenamedGlobal(a, true)) return false;
     const NodeList first = std::move(ParseTable);
-    return ParseRenamedGlobal(second, false) && first == ParseTable;
+    return ParseRenamedGlobal(std::move(second), false) && first == ParseTable;
 }
 
 bool SameExpressions(const std::string& a, const std::string& b) {
