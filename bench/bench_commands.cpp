@@ -1,0 +1,127 @@
+// One command in proofs of 100 to 32,000 statements, from the user's action to the display model.
+#include <benchmark/benchmark.h>
+#include <sys/resource.h>
+
+#include <filesystem>
+
+#include "LargeProofs.h"
+#include "cli/HeadlessPlatform.h"
+#include "document/ProofFile.h"
+#include "document/PutStmt.h"
+#include "document/Statement.h"
+#include "expr/Expression.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "platform/Events.h"
+#include "view/InsertMode.h"
+
+namespace tessaryn {
+namespace {
+
+const Statement& At(int number) {
+    return StmtTable[static_cast<std::size_t>(number)];
+}
+
+// What the desktop takes after each command: the changed range, and the formats of a screenful.
+void LookAtScreen() {
+    benchmark::DoNotOptimize(Proof.RTB.TakeChange());
+    const int caret = Proof.RTB.SelStart;
+    benchmark::DoNotOptimize(Proof.RTB.RunsIn(std::max(0, caret - 4000),
+                                              std::min(Proof.RTB.TextLength(), caret + 1000)));
+}
+
+void ClickLine(int line) {
+    const Statement& stmt = At(line);
+    SendClick(Proof.RTB, stmt.StartStmt - ViewOffset(stmt) - 1);
+}
+
+// The proof is put back, untimed, after each round.
+template <class Command>
+void Measure(benchmark::State& state, Command command) {
+    const int count = static_cast<int>(state.range(0));
+    MakeLargeProof(count);
+    const auto table = StmtTable;
+    const auto text = ProofText;
+    for (auto _ : state) {
+        command(count);
+        LookAtScreen();
+        state.PauseTiming();
+        StmtTable = table;
+        ProofText = text;
+        StmtCount = count;
+        Headless.Beeps.clear();
+        state.ResumeTiming();
+    }
+    state.SetComplexityN(count);
+}
+
+void JoinAtEnd(benchmark::State& state) {
+    Measure(state, [](int count) {
+        StartClickRule(Rule::Join);
+        ClickLine(count - 1);
+        ClickLine(count);
+    });
+}
+
+void InsertPremiseAtLine2(benchmark::State& state) {
+    Measure(state, [](int) {
+        InsertMode = true;
+        InsertLine = 2;
+        RuleMode = Rule::Premise;
+        Arg1Pending = Arg2Pending = 0;
+        NewStmtText = "S(v) & v @ w";
+        WriteStatement();
+        InsertMode = false;
+    });
+}
+
+void UndoOfJoin(benchmark::State& state) {
+    const int count = static_cast<int>(state.range(0));
+    MakeLargeProof(count);
+    StartClickRule(Rule::Join);
+    ClickLine(count - 1);
+    ClickLine(count);
+    for (auto _ : state) {
+        Proof.optUndo.Click();
+        LookAtScreen();
+        state.PauseTiming();
+        Proof.optRedo.Click();
+        state.ResumeTiming();
+    }
+    state.SetComplexityN(count);
+}
+
+std::string ScratchFile() {
+    return (std::filesystem::temp_directory_path() / "tessaryn-bench.proof").string();
+}
+
+void Save(benchmark::State& state) {
+    MakeLargeProof(static_cast<int>(state.range(0)));
+    ProofFileName = ScratchFile();
+    for (auto _ : state) Proof.optSave.Click();
+}
+
+void Open(benchmark::State& state) {
+    MakeLargeProof(static_cast<int>(state.range(0)));
+    ProofFileName = ScratchFile();
+    Proof.optSave.Click();
+    for (auto _ : state) {
+        Headless.Files.push_back(ScratchFile());
+        Proof.optOpen.Click();
+        LookAtScreen();
+    }
+}
+
+void Sizes(benchmark::internal::Benchmark* bench) {
+    bench->Arg(100)->Arg(1000)->Arg(10000)->Arg(32000)->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(JoinAtEnd)->Apply(Sizes);
+BENCHMARK(InsertPremiseAtLine2)->Apply(Sizes);
+BENCHMARK(UndoOfJoin)->Apply(Sizes);
+BENCHMARK(Save)->Apply(Sizes);
+BENCHMARK(Open)->Apply(Sizes);
+
+}  // namespace
+}  // namespace tessaryn

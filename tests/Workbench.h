@@ -1,0 +1,41 @@
+// Builds proofs for tests the way a user does, by actions.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/ScriptRunner.h"
+
+namespace tessaryn {
+
+inline std::string Quoted(const std::string& text) {
+    std::string quoted = "\"";
+    for (const char c : text) {
+        if (c == '\r') {
+            quoted += "\\r";
+        } else if (c == '\n') {
+            quoted += "\\n";
+        } else {
+            if (c == '"' || c == '\\') quoted += '\\';
+            quoted += c;
+        }
+    }
+    return quoted + "\"";
+}
+
+inline std::string EnterPremise(const std::string& text) {
+    return "choose optPremise\nset RTB " + Quoted(text) + "\nchoose cmdContinue\n";
+}
+
+inline std::string EnterAxiom(const std::string& text) {
+    return "choose optAxiom\nset RTB " + Quoted(text) + "\nchoose cmdContinue\n";
+}
+
+// Runs the script and leaves the document that it built in the globals. "" or what went wrong.
+inline std::string Build(const std::string& script) {
+    ScriptOptions options;
+    options.checkDocument = true;
+    return RunScript(script, "script", options).error;
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,307 @@
+// The proof file, byte by byte, and what is refused on reading it.
+#include "document/ProofFile.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+
+#include "Workbench.h"
+#include "cli/HeadlessPlatform.h"
+#include "document/Encoding.h"
+#include "document/Invariants.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "platform/Files.h"
+#include "view/Undo.h"
+
+namespace tessaryn {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A directory of the test's own, gone behind it.
+class ProofFileTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        directory = fs::temp_directory_path() /
+                    ("tessaryn-" + std::to_string(::getpid()) + "-" +
+                     testing::UnitTest::GetInstance()->current_test_info()->name());
+        fs::create_directories(directory);
+        StartHeadless();
+    }
+    void TearDown() override { fs::remove_all(directory); }
+    std::string Path(const std::string& name) const { return (directory / name).string(); }
+    void WriteFile(const std::string& name, const std::string& bytes) const {
+        std::ofstream(Path(name), std::ios::binary) << bytes;
+    }
+    // Opens a file as the user does. True if it replaced the proof.
+    static bool Open(const std::string& path) {
+        OperationCancelled = false;
+        ProofChanged = false;
+        Headless.Files.push_back(path);
+        Proof.optOpen.Click();
+        return !OperationCancelled;
+    }
+    fs::path directory;
+};
+
+const char* const BlockProof = "choose optSplit\nclick 1\nchoose optConclusion\n";
+
+// A closed block, an open one, a folded line.
+std::string BuildVariedProof() {
+    return Build(EnterPremise("P & Q") + BlockProof +
+                 EnterPremise("ALL(a):[Pppppppppp(a) & Qqqqqqqqqqqqq(a)]\r\n=> R(x)") +
+                 "choose optJoin\nclick 4\nclick 5\n");
+}
+
+TEST_F(ProofFileTest, PremiseByteForByte) {
+    ASSERT_EQ(Build(EnterPremise("P")), "");
+    const std::string expected(
+        "Tessaryn 1"
+        "\x01\x00"
+        "\x00\x00"
+        "\x01\x00\x00\x00\x00\x00"
+        "\x00\x00\x00\x00\x00\x00\x00\x00"
+        "\xFF\xFF"
+        "\x01\x00\x00\x00"
+        "\x00\x00\x00\x00"
+        "\x03\x00\x00\x00"
+        "\x03\x00\x00\x00"
+        "\x07\x00\x00\x00"
+        "\x0D\x00\x00\x00"
+        "\x01\x00\x00\x00"
+        "\x00\x00"
+        "\x00\x00"
+        "\xFF\xFF"
+        "\x11\x00"
+        "1\tP\r\n\tPremise\r\n\r\n",
+        83);
+    EXPECT_EQ(WriteProof(), expected);
+}
+
+TEST_F(ProofFileTest, SavedOpenedAndSavedAgainIsTheSame) {
+    ASSERT_EQ(BuildVariedProof(), "");
+    ProofCaption = "Größe";
+    ProofFileName = Path("a.proof");
+    SaveProofFile();
+    EXPECT_FALSE(ProofChanged);
+    const std::string first = *ReadWholeFile(Path("a.proof"));
+    ASSERT_TRUE(Open(Path("a.proof")));
+    EXPECT_EQ(CheckDocument(), "");
+    EXPECT_EQ(Proof.Caption, " Größe  -  " + Path("a.proof"));
+    EXPECT_FALSE(StmtTable[1].Visible) << "a closed block is folded";
+    EXPECT_TRUE(StmtTable[4].Visible);
+    const std::string second = WriteProof();
+    ASSERT_EQ(second.size(), first.size());
+    ASSERT_TRUE(Open(Path("a.proof")));
+    EXPECT_EQ(WriteProof(), second);
+}
+
+TEST_F(ProofFileTest, EmptyProofs) {
+    ProofFileName = Path("empty.proof");
+    SaveProofFile();
+    ASSERT_TRUE(Open(Path("empty.proof")));
+    EXPECT_EQ(IntroEnd, -4);
+    RuleMode = 1;
+    ASSERT_EQ(RunScript("open " + Quoted(Path("empty.proof")) + "\n" + EnterPremise("P")).error,
+              "");
+    EXPECT_EQ(StmtTable[1].StartLine, 1);
+    EXPECT_EQ(StmtTable[1].ViewerStartLine, 1);
+
+    StoredProof intro{"", std::vector<Statement>(1), "Some words.\r\n\r\n"};
+    WriteFile("intro.proof", std::string("Tessaryn 1\0\0\0\0\x0F\0", 16) + intro.text);
+    ASSERT_TRUE(Open(Path("intro.proof")));
+    EXPECT_EQ(IntroEnd, 11);
+    EXPECT_EQ(Proof.RTB.GetText(), intro.text);
+}
+
+TEST_F(ProofFileTest, LongTextGetsALongLength) {
+    ASSERT_EQ(Build(EnterPremise("P")), "");
+    const std::string comment(70000, 'c');
+    ProofText = comment + "\r\n\r\n" + ProofText;
+    ShiftIndexes(StmtTable[1], 70004);
+    StmtTable[1].StartLine = 1;
+    StmtTable[1].EndUserComment = 70000;
+    ASSERT_EQ(CheckDocument(), "");
+    const std::string bytes = WriteProof();
+    const std::string length("\xFF\xFF\x85\x11\x01\x00", 6);  // 70,021
+    EXPECT_NE(bytes.find(length + "ccc"), std::string::npos);
+    const std::optional<StoredProof> read = ReadProof(bytes);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->text, ProofText);
+}
+
+TEST_F(ProofFileTest, OneByteTextIsConvertedWithItsIndexes) {
+    ASSERT_EQ(Build(EnterPremise("P & Q") + BlockProof), "");
+    ProofText.insert(0,
+                     "\xE4\x80"
+                     "b\r\n\r\n");  // "ä€b" in Windows-1252
+    for (Statement& stmt : StmtTable) ShiftIndexes(stmt, 7);
+    StmtTable[1].StartLine = 1;
+    StmtTable[1].EndUserComment = 3;
+    WriteFile("old.proof", WriteProof());
+    ASSERT_TRUE(Open(Path("old.proof")));
+    EXPECT_EQ(CheckDocument(), "");
+    EXPECT_EQ(ProofSlice(StmtTable[1].StartLine, StmtTable[1].EndUserComment), "ä€b");
+    EXPECT_EQ(StmtText(4), "P & Q => Q");
+}
+
+TEST_F(ProofFileTest, EveryCutIsRefusedAndTheProofStays) {
+    ASSERT_EQ(BuildVariedProof(), "");
+    const std::string whole = WriteProof();
+    ASSERT_TRUE(ReadProof(whole));
+    EXPECT_TRUE(ReadProof(whole + "more")) << "bytes behind the text are never read";
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        EXPECT_FALSE(ReadProof(std::string_view(whole).substr(0, length))) << length;
+    }
+    WriteFile("cut.proof", whole.substr(0, whole.size() - 1));
+    ProofFileName = "kept.proof";
+    EXPECT_FALSE(Open(Path("cut.proof")));
+    EXPECT_EQ(Proof.StatusLine.GetText(), "Open: Unable to open proof file");
+    EXPECT_EQ(WriteProof(), whole);
+    EXPECT_EQ(ProofFileName, "kept.proof");
+}
+
+TEST_F(ProofFileTest, DamageIsRefused) {
+    const std::pair<const char*, std::function<void()>> damages[] = {
+        {"magic", nullptr},
+        {"rule 0", [] { StmtTable[2].Rule = 0; }},
+        {"rule 55", [] { StmtTable[2].Rule = 55; }},
+        {"rule -1", [] { StmtTable[2].Rule = -1; }},
+        {"negative reference", [] { StmtTable[2].Arg1 = -1; }},
+        {"reference to itself", [] { StmtTable[2].Arg1 = 2; }},
+        {"second reference forward", [] { StmtTable[2].Arg2 = 3; }},
+        {"premise closed by no Conclusion", [] { StmtTable[1].Arg1 = 3; }},
+        {"premise closed outside the table", [] { StmtTable[1].Arg1 = 99; }},
+        {"premise closed backward", [] { StmtTable[5].Arg1 = 4; }},
+        {"Conclusion without premise", [] { StmtTable[4].Arg1 = 0; }},
+        {"Conclusion of another line", [] { StmtTable[4].Arg1 = 2; }},
+        {"Conclusion of an open premise", [] { StmtTable[1].Arg1 = 0; }},
+        {"first block ahead of the text", [] { StmtTable[1].StartLine = 0; }},
+        {"gap between blocks", [] { StmtTable[2].StartLine += 1; }},
+        {"comment ahead of its block", [] { StmtTable[3].EndUserComment = 1; }},
+        {"comment over the number", [] { StmtTable[3].EndUserComment = StmtTable[3].StartStmt; }},
+        {"text ahead of the number", [] { StmtTable[3].StartStmt = StmtTable[3].StartLine; }},
+        {"empty text", [] { StmtTable[3].EndStmt = StmtTable[3].StartStmt - 1; }},
+        {"annotation ahead of the text", [] { StmtTable[3].StartRule = StmtTable[3].StartStmt; }},
+        {"empty annotation", [] { StmtTable[3].EndRule = StmtTable[3].StartRule - 1; }},
+        {"behind the end", [] { StmtTable[6].EndRule += 1; }},
+        {"huge index", [] { StmtTable[6].EndRule = 0x7FFFFFFF; }},
+        {"indexes that overflow",
+         [] { StmtTable[6].StartRule = -0x7FFFFFFF, StmtTable[6].EndStmt = 0x7FFFFFFF; }},
+    };
+    for (const auto& [what, damage] : damages) {
+        ASSERT_EQ(BuildVariedProof(), "");
+        if (damage) damage();
+        std::string bytes = WriteProof();
+        if (!damage) bytes[9] = '2';
+        EXPECT_FALSE(ReadProof(bytes)) << what;
+    }
+    EXPECT_FALSE(ReadProof(std::string("Tessaryn 1\xFF\xFF\0\0\0\0", 16))) << "negative count";
+}
+
+// No bytes may crash the reader, nor leave a document that later commands can't live with.
+TEST_F(ProofFileTest, MutationsAreRefusedOrHarmless) {
+    ASSERT_EQ(BuildVariedProof(), "");
+    const std::string whole = WriteProof();
+    unsigned seed = 12345;
+    const auto random = [&](std::size_t limit) {
+        seed = seed * 1664525U + 1013904223U;
+        return (seed >> 8) % limit;
+    };
+    int accepted = 0;
+    for (int round = 0; round < 1000; ++round) {
+        std::string bytes = whole;
+        for (std::size_t k = random(3) + 1; k > 0; --k) {
+            bytes[random(bytes.size())] = static_cast<char>(random(256));
+        }
+        WriteFile("mutant.proof", bytes);
+        if (!Open(Path("mutant.proof"))) continue;
+        ++accepted;
+        Proof.RTB.Runs();
+        for (int line = 1; line <= StmtCount; ++line) StmtText(line);
+        RuleMode = 52;
+        Proof.RTB.SelStart = Proof.RTB.TextLength();
+        Proof.RTB.Click();
+    }
+    EXPECT_GT(accepted, 0);
+}
+
+TEST_F(ProofFileTest, UnlexableTextIsShownUnformatted) {
+    ASSERT_EQ(Build(EnterPremise("P & Q") + EnterPremise("R & S")), "");
+    ProofText[static_cast<std::size_t>(StmtTable[1].StartStmt)] = '$';
+    WriteFile("odd.proof", WriteProof());
+    ASSERT_TRUE(Open(Path("odd.proof")));
+    EXPECT_EQ(Proof.StatusLine.GetText(), "PARSER ERROR: 18. Illegal character $");
+    EXPECT_NE(Proof.RTB.GetText().find("R & S"), std::string::npos) << "the rest is drawn";
+    EXPECT_TRUE(Proof.Enabled);
+    EXPECT_FALSE(Headless.Beeps.empty());
+}
+
+TEST_F(ProofFileTest, FailureToSaveLosesNothing) {
+    ASSERT_EQ(Build(EnterPremise("P")), "");
+    const auto savingFails = [&](const std::string& path) {
+        ProofFileName = path;
+        Proof.Caption = "as before";
+        ProofChanged = true;
+        Headless.Messages.clear();
+        Proof.optSave.Click();
+        return Headless.Messages.size() == 1 && Headless.Messages[0].title == "WARNING" &&
+               Headless.Messages[0].text == "Unable to save file" && ProofChanged &&
+               Proof.Caption == "as before" && Proof.MousePointer == Pointer::Default;
+    };
+    EXPECT_TRUE(savingFails(Path("gone/a.proof")));
+    EXPECT_TRUE(savingFails(directory.string())) << "a directory";
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+    EXPECT_TRUE(savingFails(Path("pipe"))) << "no regular file";
+    fs::remove(Path("pipe"));
+    EXPECT_TRUE(savingFails("/proc/a.proof"));
+    // A full disk: files may not grow beyond a few bytes.
+    WriteFile("old.proof", "whole");
+    signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit tiny{10, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tiny);
+    EXPECT_TRUE(savingFails(Path("old.proof")));
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(*ReadWholeFile(Path("old.proof")), "whole");
+    fs::remove(Path("old.proof"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(directory), {}), 0) << "no temporary file stays";
+}
+
+TEST_F(ProofFileTest, SavingKeepsLinksAndPermissions) {
+    WriteFile("real.proof", "old");
+    fs::permissions(Path("real.proof"), fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink(Path("real.proof"), Path("link.proof"));
+    ASSERT_TRUE(ReplaceFile(Path("link.proof"), "new"));
+    EXPECT_TRUE(fs::is_symlink(Path("link.proof")));
+    EXPECT_EQ(*ReadWholeFile(Path("real.proof")), "new");
+    EXPECT_EQ(fs::status(Path("real.proof")).permissions(),
+              fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST(Encoding, ReadsOneByteTextWhereUtf8Fails) {
+    EXPECT_EQ(ToUtf8("a\xC3\xA4"), "aä");
+    EXPECT_EQ(ToUtf8("\xE4"), "ä");
+    EXPECT_EQ(ToUtf8("\x80\x99"), "€™");
+    for (const char* bad : {"\xC0\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xE2\x82", "\x80"}) {
+        EXPECT_FALSE(IsUtf8(bad));
+        EXPECT_TRUE(IsUtf8(ToUtf8(bad)));
+    }
+}
+
+TEST(ProofNames, ExtensionIsForced) {
+    EXPECT_EQ(WithProofExtension("/a/x.txt"), "/a/x.proof");
+    EXPECT_EQ(WithProofExtension("/a.b/x"), "/a.b/x.proof");
+    EXPECT_EQ(WithProofExtension("x.y.z"), "x.y.proof");
+}
+
+}  // namespace
+}  // namespace tessaryn
