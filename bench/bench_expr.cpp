@@ -31,15 +31,14 @@ std::vector<std::string> OrdinaryStatements() {
     return statements;
 }
 
-// A statement whose token table has about that many entries.
+// The longest of these statements whose token table has at most so many entries.
 std::string StatementOfTokens(size_t entries) {
+    const auto fits = [entries](size_t conjuncts) {
+        const Expression parsed = ParseExpression(Statement(1, conjuncts));
+        return parsed.error.empty() && parsed.tokens.size() - 1 <= entries;
+    };
     size_t conjuncts = 1;
-    while (ParseExpression(Statement(1, conjuncts + 1)).tokens.size() - 1 <= entries) {
-        const Expression now = ParseExpression(Statement(1, conjuncts * 2));
-        conjuncts =
-            now.error.empty() && now.tokens.size() - 1 <= entries ? conjuncts * 2 : conjuncts + 1;
-        if (!ParseExpression(Statement(1, conjuncts + 1)).error.empty()) break;
-    }
+    while (fits(conjuncts + 1)) conjuncts++;
     return Statement(1, conjuncts);
 }
 
