@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "expr/Parse.h"
+#include "mainwindow/ActiveStmts.h"
+#include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 
 namespace tessaryn {
@@ -32,9 +34,21 @@ Span SpanOfNode(const TokenList& tokens, int node) {
     return WrittenSpan(tokens, static_cast<int>(bracket - tokens.begin()), bracket->TPtr);
 }
 
+OperandSpans OperandsOf(const TokenList& tokens, int sign) {
+    return {WrittenSpan(tokens, TokenAt(tokens, sign - 1).TPtr, sign - 1),
+            WrittenSpan(tokens, sign + 1, TokenAt(tokens, sign + 1).TPtr)};
+}
+
 std::string Cut(const std::string& text, Span span) {
     return text.substr(static_cast<std::size_t>(span.start - 1),
                        static_cast<std::size_t>(span.end - span.start + 1));
+}
+
+std::string Splice(const std::string& text, Span span, const std::string& piece) {
+    std::string spliced = text;
+    spliced.replace(static_cast<std::size_t>(span.start - 1),
+                    static_cast<std::size_t>(span.end - span.start + 1), piece);
+    return spliced;
 }
 
 std::string JoinWritten(const TokenList& tokens, int first, int last) {
@@ -43,6 +57,29 @@ std::string JoinWritten(const TokenList& tokens, int first, int last) {
         if (TokenAt(tokens, k).Position > 0) text += TokenAt(tokens, k).Token;
     }
     return text;
+}
+
+bool TakeClickedToken(int& line, int& token, const char* needs) {
+    SelectToken(line, token);
+    if (line == 0) {
+        BeepNoActiveStmt();
+        return false;
+    }
+    if (token == 0) {
+        // A text that does not parse has been reported by now.
+        if (ParseError.empty()) {
+            BeepAtLine(line, std::string("was clicked beside its signs: ") + needs + ".");
+        }
+        return false;
+    }
+    StmtText2 = NewStmtText;
+    Arg1Pending = line;
+    Arg2Pending = 0;
+    return true;
+}
+
+void BeepAtToken(int line, int token, const char* needs) {
+    BeepAtLine(line, "was clicked on " + TokenAt(TokenTable, token).Token + ": " + needs + ".");
 }
 
 bool ParseOrReport() {

@@ -1,4 +1,5 @@
-// From a node of a parse to the piece of text that it was written as.
+// From a node of a parse, or a clicked sign, to the pieces of text that it was written as, and back
+// into a statement.
 #pragma once
 
 #include <string>
@@ -21,7 +22,18 @@ Span WrittenSpan(const TokenList& tokens, int first, int last);
 // bracket pair around it.
 Span SpanOfNode(const TokenList& tokens, int node);
 
+// The operands of the sign with two operands at token `sign`, with written brackets around them.
+// The parser has put each into a bracket pair, so that precedence needs no further thought.
+struct OperandSpans {
+    Span left;
+    Span right;
+};
+OperandSpans OperandsOf(const TokenList& tokens, int sign);
+
 std::string Cut(const std::string& text, Span span);
+
+// The text with another piece in the place of `span`.
+std::string Splice(const std::string& text, Span span, const std::string& piece);
 
 // The tokens `first` to `last` as written, without blanks between them.
 std::string JoinWritten(const TokenList& tokens, int first, int last);
@@ -34,6 +46,14 @@ inline int RootIndex(const NodeList& nodes) {
     return static_cast<int>(nodes.size()) - 1;
 }
 const TokenRec& TokenAt(const TokenList& tokens, int k);
+
+// Finds the statement and the token of a click for a rule that rewrites a statement at one token.
+// True: NewStmtText and the tables hold the statement, StmtText2 a copy of the text, Arg1Pending
+// its number, Arg2Pending 0. Otherwise it has beeped; `needs` ends the reason: "Contra needs =>".
+bool TakeClickedToken(int& line, int& token, const char* needs);
+
+// The beep for a token that the rule does not take.
+void BeepAtToken(int line, int token, const char* needs);
 
 // Parses NewStmtText. On an error: beep, "PARSER ERROR: " with the message in StatusLine.
 bool ParseOrReport();

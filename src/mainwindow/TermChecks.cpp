@@ -1,0 +1,75 @@
+#include "mainwindow/TermChecks.h"
+
+#include <algorithm>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+#include "document/Statement.h"
+#include "expr/NameList.h"
+#include "expr/Parse.h"
+#include "mainwindow/ActiveStmts.h"
+
+namespace tessaryn {
+namespace {
+
+bool IsTerm(int rule) {
+    return (rule >= Node::Atom && rule <= Node::Subt) || rule == Node::Func;
+}
+
+bool IsAtomToken(std::size_t k) {
+    const int node = TokenTable[k - 1].DPtr;
+    return TokenTable[k].Position > 0 && node != 0 &&
+           ParseTable[static_cast<std::size_t>(node)].Rule == Node::Atom &&
+           ParseTable[static_cast<std::size_t>(node)].Name == TokenTable[k].Token;
+}
+
+std::string CheckBoundNames(const TokenList& clicked) {
+    std::unordered_set<std::string_view> bound;
+    for (const TokenRec& token : clicked) {
+        if (token.Bound) bound.insert(token.Token);
+    }
+    for (std::size_t k = 2; k < TokenTable.size(); ++k) {
+        const std::string& name = TokenTable[k].Token;
+        if (!IsAtomToken(k) || !bound.contains(name)) continue;
+        return "Error: Bound variable '" + name + "' found in selected statement";
+    }
+    return "";
+}
+
+std::string FindName(EnteredTerm& term, const std::vector<int>& lines) {
+    const auto found = std::find_if(lines.rbegin(), lines.rend(), [&](int line) {
+        return HoldsName(StmtTable[static_cast<std::size_t>(line)].FreeVars, term.text);
+    });
+    if (found == lines.rend()) return "'" + term.text + "' must occur in active statement";
+    term.footing = *found;
+    return "";
+}
+
+// A compound term must stand literally at the left of an element-of statement.
+std::string FindMembership(EnteredTerm& term, const std::vector<int>& lines) {
+    const std::string beginning = term.text + " @";
+    for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
+        const Expression parsed = ParseExpression(StmtText(*line));
+        if (!parsed.error.empty()) return "Free variable expression not found in active statement";
+        if (parsed.nodes.back().Rule == Node::Elt && parsed.text.starts_with(beginning)) {
+            term.footing = *line;
+            return "";
+        }
+    }
+    return "'" + term.text + "' must be an element of a set";
+}
+
+}  // namespace
+
+std::string CheckTerm(const TokenList& clicked, EnteredTerm& term) {
+    const ParseRec& root = ParseTable.back();
+    if (!IsTerm(root.Rule)) return "Expecting free variable expression";
+    if (const std::string fault = CheckBoundNames(clicked); !fault.empty()) return fault;
+    term.isName = root.Rule == Node::Atom;
+    term.text = term.isName ? root.Name : NewStmtText;
+    const std::vector<int> lines = ActiveLines();
+    return term.isName ? FindName(term, lines) : FindMembership(term, lines);
+}
+
+}  // namespace tessaryn
