@@ -1,0 +1,173 @@
+#include "desktop/Bindings.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTimer>
+#include <QToolButton>
+
+#include "desktop/Desktop.h"
+#include "desktop/EditBox.h"
+#include "desktop/PaintedText.h"
+#include "desktop/ProofDisplay.h"
+#include "desktop/SmallBoxes.h"
+
+namespace tessaryn {
+
+namespace {
+
+template <class Widget>
+void SetTextOf(Widget& widget, const std::string& caption) {
+    const QString text = ToQt(caption);
+    if (widget.text() != text) widget.setText(text);
+}
+
+void SyncState(const Control& control, QWidget& widget) {
+    if (widget.isHidden() == control.Visible) widget.setVisible(control.Visible);
+    if (widget.isEnabledTo(widget.parentWidget()) != control.Enabled) {
+        widget.setEnabled(control.Enabled);
+    }
+}
+
+void OnClick(QAbstractButton& widget, Control& control) {
+    QObject::connect(&widget, &QAbstractButton::clicked, &widget,
+                     [&control] { Dispatch([&control] { SendChoose(control); }); });
+}
+
+Binding BindLabel(Label& label, QWidget* parent) {
+    auto* widget = new QLabel(parent);
+    widget->setTextFormat(Qt::PlainText);
+    widget->setWordWrap(true);
+    return {&label, widget, {}, [&label, widget] {
+                SetTextOf(*widget, label.Caption);
+                widget->setAccessibleName(ToQt(label.Caption));
+            }};
+}
+
+Binding BindButton(Button& button, QWidget* parent, WindowKind kind) {
+    QAbstractButton* widget = nullptr;
+    if (kind == WindowKind::Main) {
+        widget = new QToolButton(parent);
+        widget->setFocusPolicy(Qt::TabFocus);
+    } else {
+        widget = new QPushButton(parent);
+    }
+    OnClick(*widget, button);
+    return {&button, widget, {}, [&button, widget] {
+                SetTextOf(*widget, button.Caption);
+                if (widget->toolTip() == ToQt(button.ToolTip)) return;
+                widget->setToolTip(ToQt(button.ToolTip));
+                widget->setAccessibleDescription(ToQt(button.ToolTip));
+            }};
+}
+
+// A check box or one of several options: the control has the value, the widget shows it.
+template <class Widget, class Choice>
+Binding BindChoice(Choice& choice, QWidget* parent) {
+    auto* widget = new Widget(parent);
+    widget->setAutoExclusive(false);
+    OnClick(*widget, choice);
+    return {&choice, widget, {}, [&choice, widget] {
+                SetTextOf(*widget, choice.Caption);
+                if (widget->isChecked() != choice.Value) widget->setChecked(choice.Value);
+            }};
+}
+
+Binding BindTextBox(TextBox& box, QWidget* parent) {
+    auto* widget = new LineBox(box, parent);
+    return {&box, widget, [widget] { widget->Pull(); }, [widget] { widget->Sync(); }};
+}
+
+Binding BindSurface(RichTextBox& box, QWidget* parent, WindowKind kind) {
+    if (kind == WindowKind::Main && box.MultiLine) {
+        auto* widget = new ProofDisplay(box, parent);
+        widget->setAccessibleName(QStringLiteral("Proof"));
+        return {&box, widget, {}, [widget] { widget->Sync(); }};
+    }
+    if (box.ReadOnly && !box.MultiLine) {
+        auto* widget = new StatusView(box, parent);
+        return {&box, widget, {}, [widget] { widget->Sync(); }};
+    }
+    auto* widget = new EditBox(box, parent);
+    widget->setAccessibleName(ToQt(box.ReadOnly ? "Statement" : "Text entry"));
+    return {&box, widget, [widget] { widget->Pull(); }, [widget] { widget->Sync(); }};
+}
+
+Binding BindTimer(Timer& timer, QObject* parent) {
+    auto* ticker = new QTimer(parent);
+    QObject::connect(ticker, &QTimer::timeout, ticker, [&timer] {
+        if (timer.Enabled && timer.Tick) Dispatch(timer.Tick);
+    });
+    return {&timer, nullptr, {}, [&timer, ticker] {
+                if (ticker->interval() != timer.Interval) ticker->setInterval(timer.Interval);
+                if (timer.Enabled == ticker->isActive()) return;
+                if (timer.Enabled) {
+                    ticker->start();
+                } else {
+                    ticker->stop();
+                }
+            }};
+}
+
+Binding BindByKind(Control& control, QWidget* parent, WindowKind kind) {
+    if (auto* label = dynamic_cast<Label*>(&control)) return BindLabel(*label, parent);
+    if (auto* button = dynamic_cast<Button*>(&control)) return BindButton(*button, parent, kind);
+    if (auto* box = dynamic_cast<TextBox*>(&control)) return BindTextBox(*box, parent);
+    if (auto* box = dynamic_cast<RichTextBox*>(&control)) return BindSurface(*box, parent, kind);
+    if (auto* timer = dynamic_cast<Timer*>(&control)) return BindTimer(*timer, parent);
+    if (auto* check = dynamic_cast<CheckBox*>(&control)) {
+        return BindChoice<QCheckBox>(*check, parent);
+    }
+    if (auto* option = dynamic_cast<OptionButton*>(&control)) {
+        return BindChoice<QRadioButton>(*option, parent);
+    }
+    return {&control, nullptr, {}, {}};
+}
+
+// Blanks at the end of a caption set off a last column, which here is the one of the shortcuts.
+QString ItemText(const MenuItem& item) {
+    static const QRegularExpression lastColumn(QStringLiteral("^(.*\\S) {2,}(\\S.*?) *$"));
+    const QString caption = ToQt(item.Caption);
+    if (!item.Shortcut.empty() || !item.Items.empty()) return caption;
+    const auto columns = lastColumn.match(caption);
+    if (!columns.hasMatch()) return caption;
+    return columns.captured(1) + QLatin1Char('\t') + columns.captured(2);
+}
+
+}  // namespace
+
+Binding Bind(Control& control, QWidget* parent, WindowKind kind) {
+    Binding binding = BindByKind(control, parent, kind);
+    if (binding.widget == nullptr) return binding;
+    binding.widget->setObjectName(ToQt(control.Name));
+    binding.sync = [&control, widget = binding.widget, own = binding.sync] {
+        SyncState(control, *widget);
+        own();
+    };
+    return binding;
+}
+
+bool IsSeparator(const MenuItem& item) {
+    return item.Items.empty() && (item.Caption == "-" || item.Caption.empty());
+}
+
+Binding BindItem(MenuItem& item, QAction& action) {
+    action.setSeparator(IsSeparator(item));
+    if (!item.Shortcut.empty()) action.setShortcut(QKeySequence(ToQt(item.Shortcut)));
+    QObject::connect(&action, &QAction::triggered, &action,
+                     [&item] { Dispatch([&item] { SendChoose(item); }); });
+    return {&item, nullptr, {}, [&item, &action] {
+                action.setVisible(item.Visible);
+                action.setEnabled(item.Enabled);
+                if (const QString text = ItemText(item); action.text() != text) {
+                    action.setText(text);
+                }
+                const bool checkable = item.Checkable || item.Checked;
+                if (action.isCheckable() != checkable) action.setCheckable(checkable);
+                if (action.isChecked() != item.Checked) action.setChecked(item.Checked);
+            }};
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,174 @@
+#include "desktop/Desktop.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QMenu>
+#include <QScreen>
+#include <QTimer>
+#include <QWindow>
+#include <exception>
+#include <map>
+#include <string>
+
+#include "desktop/FormWindow.h"
+#include "desktop/InputWatch.h"
+
+namespace tessaryn {
+
+namespace {
+
+struct DesktopState {
+    std::map<const Form*, std::unique_ptr<FormWindow>> windows;
+    FormWindow* main = nullptr;
+    bool ending = false;
+};
+
+DesktopState& State() {
+    static DesktopState state;
+    return state;
+}
+
+// The window that a new one should stand in front of.
+QWidget* TopWindow() {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    return State().main != nullptr ? &State().main->Window() : nullptr;
+}
+
+FormWindow& Present(Form& form, bool modal) {
+    ++FormsShown;
+    form.Visible = true;
+    QWidget* below = TopWindow();
+    SyncWindows();
+    FormWindow& window = WindowOf(form);
+    if (below != nullptr && below != &window.Window()) {
+        window.Window().winId();  // makes the native window
+        window.Window().windowHandle()->setTransientParent(below->windowHandle());
+    }
+    window.Show(modal);
+    return window;
+}
+
+}  // namespace
+
+// --- events
+
+void Dispatch(const EventHandler& event) {
+    if (Ending()) return;
+    try {
+        for (const auto& [form, window] : State().windows) {
+            if (form->Visible) window->Pull();
+        }
+        event();
+    } catch (const ProgramEnded&) {
+        // The event loops are on their way out.
+    } catch (const std::exception& fault) {
+        Beep(std::string("Something went wrong inside the program: ") + fault.what());
+    } catch (...) {
+        Beep("Something went wrong inside the program.");
+    }
+    SyncWindows();
+}
+
+bool DispatchKey(Form& form, Control* focus, const KeyEvent& key) {
+    bool dealtWith = false;
+    Dispatch([&] { dealtWith = SendKey(form, focus, key); });
+    return dealtWith || Ending();
+}
+
+void SyncWindows() {
+    for (const auto& [form, window] : State().windows) {
+        if (form->Visible || window->Window().isVisible()) window->Sync();
+    }
+}
+
+// --- windows
+
+FormWindow& WindowOf(Form& form) {
+    auto& window = State().windows[&form];
+    if (!window) {
+        QWidget* parent = State().main != nullptr ? &State().main->Window() : nullptr;
+        window = std::make_unique<FormWindow>(form, WindowKind::Dialogue, parent);
+    }
+    return *window;
+}
+
+QWidget* WidgetOf(const Control& control) {
+    const auto found = State().windows.find(&control.Parent);
+    return found == State().windows.end() ? nullptr : found->second->WidgetOf(control);
+}
+
+void ShowMainWindow(Form& form) {
+    ForgetWindows();
+    auto window = std::make_unique<FormWindow>(form, WindowKind::Main, nullptr);
+    State().main = window.get();
+    State().windows[&form] = std::move(window);
+    form.Visible = true;
+    QWidget& shown = State().main->Window();
+    // Where no window manager does it, maximising alone would leave the window small.
+    shown.setGeometry(shown.screen()->availableGeometry());
+    shown.setWindowState(Qt::WindowMaximized);
+    State().main->Show(false);
+    QTimer::singleShot(0, &shown, [&form] { Dispatch([&form] { form.Activated(); }); });
+}
+
+void ForgetWindows() {
+    for (auto& [form, window] : State().windows) {
+        if (window.get() != State().main) window.reset();
+    }
+    State() = {};
+}
+
+bool Ending() {
+    return State().ending;
+}
+
+// --- what the logic calls
+
+void ShowModal(Form& form) {
+    // Whatever way it ends, the window does not stay.
+    struct Scope {
+        Form& form;
+        FormWindow& window;
+        ~Scope() {
+            form.Hide();
+            window.Window().hide();
+        }
+    };
+    FormWindow& window = Present(form, true);
+    const Scope scope{form, window};
+    form.Activated();
+    SyncWindows();
+    window.RunUntilHidden();
+    if (Ending()) throw ProgramEnded{};
+}
+
+void ShowModeless(Form& form) {
+    Present(form, false);
+    form.Activated();
+}
+
+void RefreshNow(Form& form) {
+    FormWindow& window = WindowOf(form);
+    window.Sync();
+    for (QWidget* widget : window.Window().findChildren<QWidget*>()) {
+        if (widget->isVisible()) widget->repaint();
+    }
+}
+
+void EndProgram() {
+    State().ending = true;
+    QCoreApplication::exit(0);
+}
+
+bool PointerBeyondRightEdge(const Control& box) {
+    const QWidget* widget = WidgetOf(box);
+    if (widget == nullptr) return false;
+    return QCursor::pos().x() > widget->mapToGlobal(QPoint(widget->width(), 0)).x();
+}
+
+void PopupMenu(MenuItem& menu) {
+    const FormWindow& window = WindowOf(menu.Parent);
+    if (QMenu* shown = window.MenuOf(menu)) shown->popup(PlaceOfInput());
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,256 @@
+#include "desktop/EditBox.h"
+
+#include <QContextMenuEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <algorithm>
+
+#include "desktop/Desktop.h"
+#include "desktop/PaintedText.h"
+
+namespace tessaryn {
+
+namespace {
+
+// What the editor's document comes to as the content of a surface.
+struct EditorContent {
+    std::string text;
+    std::vector<FormatRun> runs;
+    std::vector<int> bytes;  // of the surface at each position of the document
+};
+
+void AppendRun(EditorContent& content, int length, const CharFormat& format) {
+    const int start = static_cast<int>(content.text.size()) - length;
+    auto& runs = content.runs;
+    if (!runs.empty() && runs.back().format == format) {
+        runs.back().length += length;
+    } else if (length > 0) {
+        runs.push_back({start, length, format});
+    }
+}
+
+void AppendText(EditorContent& content, const QString& shown, const CharFormat& format) {
+    const auto before = content.text.size();
+    for (qsizetype unit = 0; unit < shown.size();) {
+        const bool pair = shown[unit].isHighSurrogate() && unit + 1 < shown.size();
+        const qsizetype length = pair ? 2 : 1;
+        const int byte = static_cast<int>(content.text.size());
+        content.bytes.insert(content.bytes.end(), static_cast<std::size_t>(length), byte);
+        if (shown[unit] == QChar::LineSeparator) {
+            content.text += "\r\n";
+        } else {
+            content.text += StoredText(shown.mid(unit, length), format.Font);
+        }
+        unit += length;
+    }
+    AppendRun(content, static_cast<int>(content.text.size() - before), format);
+}
+
+EditorContent ContentOf(const QTextDocument& document) {
+    EditorContent content;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block.position() > 0) {
+            content.bytes.push_back(static_cast<int>(content.text.size()));
+            content.text += "\r\n";
+            const auto& runs = content.runs;
+            AppendRun(content, 2, runs.empty() ? FormatOf(block.charFormat()) : runs.back().format);
+        }
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextFragment fragment = part.fragment();
+            AppendText(content, fragment.text(), FormatOf(fragment.charFormat()));
+        }
+    }
+    content.bytes.push_back(static_cast<int>(content.text.size()));
+    return content;
+}
+
+}  // namespace
+
+EditBox::EditBox(RichTextBox& box, QWidget* parent) : QTextEdit(parent), box_(box) {
+    setAcceptRichText(false);
+    setUndoRedoEnabled(false);
+    setTabChangesFocus(true);
+    setAcceptDrops(false);
+    viewport()->setAcceptDrops(false);
+    setFont(FontOf({}));
+    shown_ = box.ContentRevision() + 1;  // so that the first Sync shows it
+    Sync();
+}
+
+// --- surface and editor
+
+int EditBox::UnitAt(int byte) const {
+    const auto found = std::lower_bound(bytes_.begin(), bytes_.end(), byte);
+    return static_cast<int>(std::min(found, bytes_.end() - 1) - bytes_.begin());
+}
+
+void EditBox::Pull() {
+    if (document()->revision() != revision_) return LoadContent();
+    const QTextCursor cursor = textCursor();
+    const int start = bytes_[static_cast<std::size_t>(cursor.selectionStart())];
+    const int end = bytes_[static_cast<std::size_t>(cursor.selectionEnd())];
+    if (start == box_.GetSelStart() && end - start == box_.GetSelLength()) return;
+    box_.SelStart = start;
+    box_.SelLength = end - start;
+}
+
+void EditBox::LoadContent() {
+    EditorContent content = ContentOf(*document());
+    const QTextCursor cursor = textCursor();
+    bytes_ = std::move(content.bytes);
+    const int start = bytes_[static_cast<std::size_t>(cursor.selectionStart())];
+    const int end = bytes_[static_cast<std::size_t>(cursor.selectionEnd())];
+    box_.LoadFromEditor(std::move(content.text), content.runs, start, end - start);
+    revision_ = document()->revision();
+    shown_ = box_.ContentRevision();
+}
+
+void EditBox::Sync() {
+    if (isReadOnly() != box_.ReadOnly) {
+        setReadOnly(box_.ReadOnly);
+        if (box_.ReadOnly) {
+            setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        }
+    }
+    if (shown_ != box_.ContentRevision()) ShowContent();
+    Select(UnitAt(box_.GetSelStart()), UnitAt(box_.GetSelStart() + box_.GetSelLength()));
+    if (textCursor().hasSelection()) return;
+    const CharFormat typed = box_.InsertionFormat();
+    if (FormatOf(currentCharFormat()) != typed) setCurrentCharFormat(TextFormat(typed));
+}
+
+void EditBox::ShowContent() {
+    const PaintedText painted = PaintText(box_, 0, box_.TextLength());
+    const int scrolled = verticalScrollBar()->value();
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    cursor.select(QTextCursor::Document);
+    cursor.removeSelectedText();
+    cursor.setCharFormat(TextFormat(box_.FormatAt(0)));
+    for (const auto& span : painted.spans) {
+        cursor.insertText(painted.text.mid(span.start, span.length), TextFormat(span.format));
+    }
+    cursor.endEditBlock();
+    bytes_ = painted.bytes;
+    revision_ = document()->revision();
+    shown_ = box_.ContentRevision();
+    verticalScrollBar()->setValue(scrolled);
+}
+
+void EditBox::Select(int startUnit, int endUnit) {
+    QTextCursor cursor = textCursor();
+    if (cursor.selectionStart() == startUnit && cursor.selectionEnd() == endUnit) return;
+    cursor.setPosition(startUnit);
+    cursor.setPosition(endUnit, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    ensureCursorVisible();
+}
+
+// --- keyboard
+
+// Control keys belong to the box, ahead of menu shortcuts.
+bool EditBox::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto modifiers = static_cast<QKeyEvent*>(event)->modifiers();
+        if ((modifiers & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier) {
+            event->accept();
+            return true;
+        }
+    }
+    return QTextEdit::event(event);
+}
+
+void EditBox::keyPressEvent(QKeyEvent* event) {
+    QTextEdit::keyPressEvent(event);
+    SendIfEdited();
+}
+
+// What an input method or a dead key composes is a typed character like any other.
+void EditBox::inputMethodEvent(QInputMethodEvent* event) {
+    if (!event->commitString().isEmpty()) {
+        KeyEvent key;
+        key.text = event->commitString().toStdString();
+        if (DispatchKey(box_.Parent, &box_, key)) event->setCommitString({});
+    }
+    QTextEdit::inputMethodEvent(event);
+    SendIfEdited();
+}
+
+void EditBox::SendIfEdited() {
+    if (document()->revision() == revision_) return;
+    Dispatch([this] {
+        if (box_.Change) box_.Change();
+    });
+}
+
+// --- mouse
+
+// Puts the caret ahead of the character under the pointer, so that a click means that character.
+void EditBox::MoveToCharacterAt(const QPoint& place) {
+    QTextCursor cursor = cursorForPosition(place);
+    if (cursorRect(cursor).left() > place.x() && !cursor.atBlockStart()) {
+        cursor.movePosition(QTextCursor::Left);
+    }
+    setTextCursor(cursor);
+}
+
+void EditBox::mousePressEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    const bool right = event->button() == Qt::RightButton;
+    if (right && !textCursor().hasSelection()) setTextCursor(cursorForPosition(place));
+    QTextEdit::mousePressEvent(event);
+    const bool plain = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
+    if (plain && box_.Click) MoveToCharacterAt(place);
+    if (!box_.MouseDown) return;
+    Dispatch([&] { box_.MouseDown(right ? MouseButton::Right : MouseButton::Left); });
+}
+
+void EditBox::mouseMoveEvent(QMouseEvent* event) {
+    if ((event->buttons() & Qt::LeftButton) == 0) return QTextEdit::mouseMoveEvent(event);
+    // Beyond the right edge the selection grows by itself, and what it has won stays.
+    const QPoint place = event->position().toPoint();
+    const QTextCursor there = cursorForPosition(place);
+    const bool won = place.x() >= viewport()->width() &&
+                     textCursor().position() > there.position() &&
+                     textCursor().block() == there.block();
+    if (!won) QTextEdit::mouseMoveEvent(event);
+    if (box_.MouseMove) Dispatch(box_.MouseMove);
+}
+
+void EditBox::mouseReleaseEvent(QMouseEvent* event) {
+    QTextEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton) {
+        Dispatch([this] { SendRelease(box_); });
+    } else if (event->button() == Qt::RightButton && box_.MouseUp) {
+        Dispatch([this] { box_.MouseUp(MouseButton::Right); });
+    }
+}
+
+void EditBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTextEdit::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && box_.DblClick) Dispatch(box_.DblClick);
+}
+
+// The right button's menu comes with its release; the menu key's comes here.
+void EditBox::contextMenuEvent(QContextMenuEvent* event) {
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Mouse || !box_.MouseUp) return;
+    Dispatch([this] { box_.MouseUp(MouseButton::Right); });
+}
+
+// --- what comes from elsewhere: plain text only
+
+bool EditBox::canInsertFromMimeData(const QMimeData* source) const {
+    return source->hasText();
+}
+
+void EditBox::insertFromMimeData(const QMimeData* source) {
+    if (isReadOnly() || !source->hasText()) return;
+    textCursor().insertText(source->text(), TextFormat(box_.InsertionFormat()));
+    SendIfEdited();
+}
+
+}  // namespace tessaryn

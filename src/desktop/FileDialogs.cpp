@@ -1,0 +1,64 @@
+// The dialogues for opening and saving files.
+#include <QApplication>
+#include <QFileDialog>
+#include <QRegularExpression>
+#include <QStringList>
+
+#include "desktop/Desktop.h"
+#include "desktop/PaintedText.h"
+
+namespace tessaryn {
+
+namespace {
+
+// "Proofs (*.proof)|*.proof|..." as a list of "Proofs (*.proof)".
+QStringList Filters(const std::string& filter) {
+    QStringList filters;
+    const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QString name = parts[i];
+        const auto bracket = name.indexOf(QStringLiteral(" ("));
+        if (bracket >= 0) name.truncate(bracket);
+        const QString patterns = QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' '));
+        filters.append(name + QStringLiteral(" (") + patterns + QLatin1Char(')'));
+    }
+    return filters;
+}
+
+// Of the first pattern, without the dot; "" if it names none.
+QString Suffix(const std::string& filter) {
+    static const QRegularExpression pattern(QStringLiteral("\\|\\*\\.(\\w+)"));
+    return pattern.match(ToQt(filter)).captured(1);
+}
+
+bool Run(QFileDialog& dialogue, CommonDialog& dialog) {
+    SyncWindows();
+    dialogue.setNameFilters(Filters(dialog.Filter));
+    if (!dialog.InitDir.empty()) dialogue.setDirectory(ToQt(dialog.InitDir));
+    if (!dialog.FileName.empty()) dialogue.selectFile(ToQt(dialog.FileName));
+    const bool accepted = dialogue.exec() == QDialog::Accepted;
+    if (Ending()) throw ProgramEnded{};
+    if (!accepted || dialogue.selectedFiles().isEmpty()) return false;
+    dialog.FileName = dialogue.selectedFiles().constFirst().toStdString();
+    return true;
+}
+
+}  // namespace
+
+bool ShowOpen(CommonDialog& dialog) {
+    QFileDialog dialogue(QApplication::activeWindow(), QStringLiteral("Open"));
+    dialogue.setAcceptMode(QFileDialog::AcceptOpen);
+    dialogue.setFileMode(dialog.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    return Run(dialogue, dialog);
+}
+
+bool ShowSave(CommonDialog& dialog) {
+    QFileDialog dialogue(QApplication::activeWindow(), QStringLiteral("Save as"));
+    dialogue.setAcceptMode(QFileDialog::AcceptSave);
+    dialogue.setFileMode(QFileDialog::AnyFile);
+    dialogue.setDefaultSuffix(Suffix(dialog.Filter));
+    dialogue.setOption(QFileDialog::DontConfirmOverwrite, !dialog.OverwritePrompt);
+    return Run(dialogue, dialog);
+}
+
+}  // namespace tessaryn

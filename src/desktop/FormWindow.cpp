@@ -1,0 +1,242 @@
+#include "desktop/FormWindow.h"
+
+#include <QCloseEvent>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+
+#include "desktop/Bindings.h"
+#include "desktop/Desktop.h"
+#include "desktop/Keys.h"
+#include "desktop/Layouts.h"
+#include "desktop/PaintedText.h"
+
+namespace tessaryn {
+
+namespace {
+
+void RequestClose(Form& form) {
+    Dispatch([&form] { form.CloseRequested(); });
+}
+
+// Whether a window closes is for its form to say.
+class FormMainWindow : public QMainWindow {
+  public:
+    explicit FormMainWindow(Form& form) : form_(form) {}
+
+  protected:
+    void closeEvent(QCloseEvent* event) override {
+        event->setAccepted(Ending());
+        if (!Ending()) RequestClose(form_);
+    }
+
+  private:
+    Form& form_;
+};
+
+class FormDialogue : public QDialog {
+  public:
+    FormDialogue(Form& form, QWidget* parent) : QDialog(parent), form_(form) {}
+    void reject() override { RequestClose(form_); }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override {
+        event->setAccepted(Ending());
+        if (!Ending()) RequestClose(form_);
+    }
+
+  private:
+    Form& form_;
+};
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, WindowKind kind, QWidget* parent) : form_(form) {
+    MakeWindow(kind, parent);
+    window_->setObjectName(ToQt(form.Name));
+    window_->installEventFilter(this);
+    BindControls();
+    Sync();
+    SetTabOrder();
+}
+
+FormWindow::~FormWindow() {
+    delete window_;
+}
+
+void FormWindow::MakeWindow(WindowKind kind, QWidget* parent) {
+    QWidget* inside = nullptr;
+    QMenuBar* menus = nullptr;
+    if (kind == WindowKind::Main) {
+        auto* window = new FormMainWindow(form_);
+        inside = new QWidget(window);
+        window->setCentralWidget(inside);
+        menus = window->menuBar();
+        window_ = window;
+    } else {
+        window_ = inside = new FormDialogue(form_, parent);
+        if (!form_.MenuBar.empty()) menus = new QMenuBar(inside);
+    }
+    for (Control* control : form_.Controls) {
+        if (dynamic_cast<MenuItem*>(control) != nullptr) continue;
+        bindings_.push_back(Bind(*control, inside, kind));
+        if (QWidget* widget = bindings_.back().widget) controls_[widget] = control;
+    }
+    LayOut(*this, *inside);
+    if (menus != nullptr) {
+        BuildMenus(menus);
+        if (kind == WindowKind::Dialogue) inside->layout()->setMenuBar(menus);
+    }
+}
+
+void FormWindow::BindControls() {
+    for (const auto& [widget, control] : controls_) widget->installEventFilter(this);
+    auto* standard = form_.DefaultButton;
+    if (standard == nullptr) return;
+    if (auto* button = qobject_cast<QPushButton*>(WidgetOf(*standard))) button->setDefault(true);
+}
+
+// --- menus
+
+void FormWindow::BuildMenus(QMenuBar* bar) {
+    for (MenuItem* title : form_.MenuBar) bar->addMenu(BuildMenu(*title));
+    // A menu that only pops up hangs under no title.
+    for (Control* control : form_.Controls) {
+        auto* item = dynamic_cast<MenuItem*>(control);
+        if (item != nullptr && !item->Items.empty() && MenuOf(*item) == nullptr) BuildMenu(*item);
+    }
+}
+
+QMenu* FormWindow::BuildMenu(MenuItem& title) {
+    auto* menu = new QMenu(window_);
+    menus_[&title] = menu;
+    menu->setToolTipsVisible(true);
+    bindings_.push_back(BindItem(title, *menu->menuAction()));
+    for (MenuItem* item : title.Items) {
+        if (!item->Items.empty()) {
+            menu->addMenu(BuildMenu(*item));
+        } else {
+            auto* action = new QAction(window_);
+            menu->addAction(action);
+            bindings_.push_back(BindItem(*item, *action));
+        }
+    }
+    return menu;
+}
+
+QMenu* FormWindow::MenuOf(const MenuItem& item) const {
+    const auto found = menus_.find(&item);
+    return found == menus_.end() ? nullptr : found->second;
+}
+
+// --- showing
+
+void FormWindow::Show(bool modal) {
+    window_->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+    Sync();
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
+    if (form_.ActiveControl != nullptr) return;
+    for (const Control* control : form_.Controls) {
+        QWidget* widget = WidgetOf(*control);
+        if (widget == nullptr || !control->Visible || !control->Enabled) continue;
+        if (widget->focusPolicy() == Qt::NoFocus) continue;
+        widget->setFocus();
+        return;
+    }
+}
+
+void FormWindow::RunUntilHidden() {
+    QEventLoop loop;
+    loop_ = &loop;
+    if (form_.Visible && !Ending()) loop.exec();
+    loop_ = nullptr;
+    window_->hide();
+}
+
+// --- between controls and widgets
+
+void FormWindow::Pull() {
+    for (const Binding& binding : bindings_) {
+        if (binding.pull) binding.pull();
+    }
+}
+
+void FormWindow::Sync() {
+    if (const QString title = ToQt(form_.Caption); window_->windowTitle() != title) {
+        window_->setWindowTitle(title);
+    }
+    for (const Binding& binding : bindings_) {
+        if (binding.sync) binding.sync();
+    }
+    if (window_->isEnabled() != form_.Enabled) window_->setEnabled(form_.Enabled);
+    const bool busy = form_.MousePointer == Pointer::Hourglass;
+    if (busy && window_->cursor().shape() != Qt::WaitCursor) window_->setCursor(Qt::WaitCursor);
+    if (!busy && window_->testAttribute(Qt::WA_SetCursor)) window_->unsetCursor();
+    SyncFocus();
+    if (loop_ != nullptr && !form_.Visible) loop_->quit();
+    if (loop_ == nullptr && !form_.Visible && window_->isVisible()) window_->hide();
+}
+
+void FormWindow::SyncFocus() {
+    if (form_.ActiveControl == nullptr) return;
+    QWidget* widget = WidgetOf(*form_.ActiveControl);
+    if (widget != nullptr && window_->focusWidget() != widget) widget->setFocus();
+}
+
+QWidget* FormWindow::WidgetOf(const Control& control) const {
+    for (const Binding& binding : bindings_) {
+        if (binding.control == &control) return binding.widget;
+    }
+    return nullptr;
+}
+
+QWidget* FormWindow::WidgetNamed(const char* name) const {
+    const Control* control = form_.Find(name);
+    return control == nullptr ? nullptr : WidgetOf(*control);
+}
+
+void FormWindow::SetTabOrder() {
+    QWidget* last = nullptr;
+    for (const Control* control : form_.Controls) {
+        QWidget* widget = WidgetOf(*control);
+        if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) continue;
+        if (last != nullptr) QWidget::setTabOrder(last, widget);
+        last = widget;
+    }
+}
+
+// --- events of all widgets
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    const auto found = controls_.find(watched);
+    if (event->type() == QEvent::FocusIn && found != controls_.end()) {
+        form_.ActiveControl = found->second;
+    }
+    if (event->type() == QEvent::KeyPress) {
+        return KeyPressed(watched, *static_cast<QKeyEvent*>(event));
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+// A key goes to the form and the control that has the focus before the widget sees it. One that the
+// widget leaves alone comes by a second time, at the window.
+bool FormWindow::KeyPressed(QObject* watched, QKeyEvent& event) {
+    const auto found = controls_.find(watched);
+    if (found == controls_.end() && window_->focusWidget() != nullptr) return false;
+    Control* focus = found == controls_.end() ? nullptr : found->second;
+    const auto key = KeyOf(event);
+    if (key && DispatchKey(form_, focus, *key)) return true;
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    auto* button = qobject_cast<QAbstractButton*>(watched);
+    if (!enter || button == nullptr) return false;
+    button->click();
+    return true;
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,75 @@
+// The window of one form: its controls as widgets, and the two ways between them.
+//
+// There is no logic in the widgets: what the user does goes to the logic through Dispatch, and what
+// the logic has set comes back in Sync, by comparison with what is shown.
+#pragma once
+
+#include <QEventLoop>
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/Form.h"
+
+class QKeyEvent;
+class QMenu;
+class QMenuBar;
+
+namespace tessaryn {
+
+// What stands for a control, and how the two are kept alike.
+struct Binding {
+    Control* control;
+    QWidget* widget = nullptr;   // nullptr for a menu item or a timer
+    std::function<void()> pull;  // from the widget into the control; may be empty
+    std::function<void()> sync;  // from the control into the widget
+};
+
+enum class WindowKind { Main, Dialogue };
+
+class FormWindow : public QObject {
+  public:
+    FormWindow(Form& form, WindowKind kind, QWidget* parent);
+    ~FormWindow() override;
+
+    Form& TheForm() { return form_; }
+    QWidget& Window() { return *window_; }
+
+    // Shows the window with its first focus; modal: blocks all others.
+    void Show(bool modal);
+    // Returns when the form has been hidden or the program ends.
+    void RunUntilHidden();
+
+    void Pull();
+    void Sync();
+
+    QWidget* WidgetOf(const Control& control) const;
+    QMenu* MenuOf(const MenuItem& item) const;
+
+    // For the layouts: the widget of a control by name, nullptr if the form has none.
+    QWidget* WidgetNamed(const char* name) const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void MakeWindow(WindowKind kind, QWidget* parent);
+    void BindControls();
+    void BuildMenus(QMenuBar* bar);
+    QMenu* BuildMenu(MenuItem& title);
+    void SetTabOrder();
+    void SyncFocus();
+    bool KeyPressed(QObject* watched, QKeyEvent& event);
+
+    Form& form_;
+    QPointer<QWidget> window_;
+    std::vector<Binding> bindings_;
+    std::map<QObject*, Control*> controls_;  // by widget
+    std::map<const MenuItem*, QMenu*> menus_;
+    QEventLoop* loop_ = nullptr;  // of RunUntilHidden
+};
+
+}  // namespace tessaryn

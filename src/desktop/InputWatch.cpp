@@ -1,0 +1,49 @@
+#include "desktop/InputWatch.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QEvent>
+#include <QWidget>
+#include <utility>
+
+namespace tessaryn {
+
+namespace {
+
+bool KeyWasLast = false;
+
+class Watch : public QObject {
+  public:
+    explicit Watch(std::function<void()> onInput) : onInput_(std::move(onInput)) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool key = event->type() == QEvent::KeyPress;
+        if (key || event->type() == QEvent::MouseButtonPress) {
+            KeyWasLast = key;
+            onInput_();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+  private:
+    std::function<void()> onInput_;
+};
+
+}  // namespace
+
+void WatchInput(std::function<void()> onInput) {
+    static Watch* watch = nullptr;
+    delete watch;
+    watch = new Watch(std::move(onInput));
+    watch->setParent(qApp);
+    qApp->installEventFilter(watch);
+}
+
+QPoint PlaceOfInput() {
+    const QWidget* focus = QApplication::focusWidget();
+    if (!KeyWasLast || focus == nullptr) return QCursor::pos();
+    const QRect caret = focus->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    return focus->mapToGlobal(caret.isNull() ? focus->rect().bottomLeft() : caret.bottomLeft());
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,161 @@
+#include "desktop/Layouts.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTextEdit>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <functional>
+#include <initializer_list>
+#include <map>
+#include <string>
+
+#include "desktop/FormWindow.h"
+
+namespace tessaryn {
+
+namespace {
+
+// Room for so many lines, so that a message does not push the controls about.
+void ReserveLines(QWidget* label, int lines) {
+    if (label == nullptr) return;
+    label->setMinimumHeight(label->fontMetrics().lineSpacing() * lines + 4);
+    if (auto* text = qobject_cast<QLabel*>(label)) text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+}
+
+void Add(QBoxLayout& layout, QWidget* widget, int stretch = 0) {
+    if (widget != nullptr) layout.addWidget(widget, stretch);
+}
+
+QBoxLayout* Row(const FormWindow& window, std::initializer_list<const char*> names) {
+    auto* row = new QHBoxLayout;
+    for (const char* name : names) Add(*row, window.WidgetNamed(name));
+    return row;
+}
+
+// Buttons that answer a dialogue, at its right edge.
+QBoxLayout* Answers(const FormWindow& window, std::initializer_list<const char*> names) {
+    QBoxLayout* row = Row(window, names);
+    row->insertStretch(0);
+    return row;
+}
+
+int Columns(const QWidget& widget, int count) {
+    return widget.fontMetrics().averageCharWidth() * count;
+}
+
+void LayOutProof(FormWindow& window, QWidget& inside) {
+    auto* main = qobject_cast<QMainWindow*>(&window.Window());
+    auto* bar = new QToolBar(QStringLiteral("Tools"), main);
+    bar->setMovable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    const auto& form = window.TheForm();
+    for (const Control* control : form.Controls) {
+        if (dynamic_cast<const Button*>(control) == nullptr) continue;
+        QWidget* button = window.WidgetOf(*control);
+        button->setMinimumWidth(Columns(*button, 8));
+        bar->addWidget(button);
+        // Groups: files, ways into the proof, undo, rules.
+        for (const char* last : {"cmdSave", "cmdConclusion", "cmdRedo", "cmdEGen", "cmdHelp"}) {
+            if (control->Name == last) bar->addSeparator();
+        }
+    }
+    main->addToolBar(bar);
+    main->setContextMenuPolicy(Qt::NoContextMenu);
+
+    auto* rows = new QVBoxLayout(&inside);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    Add(*rows, window.WidgetNamed("RTB"), 1);
+    auto* status = new QHBoxLayout;
+    status->setContentsMargins(8, 2, 8, 2);
+    Add(*status, window.WidgetNamed("StatusLine"), 1);
+    if (auto* label = qobject_cast<QLabel*>(window.WidgetNamed("InsertLineLabel"))) {
+        label->setWordWrap(false);
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        status->addWidget(label);
+    }
+    rows->addLayout(status);
+}
+
+void LayOutTestParser(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    QBoxLayout* tools = Row(window, {"CmdUndo", "cmdRedo", "cmdCut", "cmdCopy", "cmdPaste",
+                                     "cmdDelete", "cmdClear", "cmdParse"});
+    tools->addStretch();
+    rows->addLayout(tools);
+    Add(*rows, window.WidgetNamed("RTB"), 1);
+    ReserveLines(window.WidgetNamed("StatusLine"), 2);
+    Add(*rows, window.WidgetNamed("StatusLine"));
+    rows->addLayout(Answers(window, {"cmdContinue", "cmdCancel"}));
+    inside.resize(Columns(inside, 100), inside.fontMetrics().lineSpacing() * 20);
+}
+
+void LayOutMyInputBox(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    Add(*rows, window.WidgetNamed("Label1"));
+    Add(*rows, window.WidgetNamed("Text1"));
+    ReserveLines(window.WidgetNamed("Label2"), 2);
+    Add(*rows, window.WidgetNamed("Label2"));
+    rows->addStretch();
+    rows->addLayout(Answers(window, {"Continue", "Cancel"}));
+    inside.resize(Columns(inside, 80), rows->sizeHint().height());
+}
+
+void LayOutSaveChanges(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    Add(*rows, window.WidgetNamed("FileName"));
+    rows->addStretch();
+    rows->addLayout(Answers(window, {"cmdYes", "cmdNo", "cmdCancel"}));
+    inside.resize(Columns(inside, 70), inside.fontMetrics().lineSpacing() * 7);
+}
+
+// Buttons that follow each other share a row; all else has one of its own.
+void LayOutAnyForm(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    QBoxLayout* buttons = nullptr;
+    bool hasText = false;
+    for (const Control* control : window.TheForm().Controls) {
+        QWidget* widget = window.WidgetOf(*control);
+        if (widget == nullptr) continue;
+        if (qobject_cast<QPushButton*>(widget) != nullptr) {
+            if (buttons == nullptr) {
+                buttons = new QHBoxLayout;
+                buttons->addStretch();
+                rows->addLayout(buttons);
+            }
+            buttons->addWidget(widget);
+            continue;
+        }
+        buttons = nullptr;
+        const bool text = qobject_cast<QTextEdit*>(widget) != nullptr;
+        hasText = hasText || text;
+        rows->addWidget(widget, text ? 1 : 0);
+    }
+    if (!hasText) rows->addStretch();
+    inside.resize(Columns(inside, 90),
+                  hasText ? inside.fontMetrics().lineSpacing() * 24 : rows->sizeHint().height());
+}
+
+}  // namespace
+
+void LayOut(FormWindow& window, QWidget& inside) {
+    using Layout = void (*)(FormWindow&, QWidget&);
+    static const std::map<std::string, Layout> layouts = {
+        {"Proof", LayOutProof},
+        {"TestParser", LayOutTestParser},
+        {"MyInputBox", LayOutMyInputBox},
+        {"SaveChanges", LayOutSaveChanges},
+    };
+    const auto found = layouts.find(window.TheForm().Name);
+    (found == layouts.end() ? LayOutAnyForm : *found->second)(window, inside);
+}
+
+}  // namespace tessaryn

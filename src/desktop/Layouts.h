@@ -1,0 +1,14 @@
+// Where the widgets of a form stand.
+#pragma once
+
+class QWidget;
+
+namespace tessaryn {
+
+class FormWindow;
+
+// Gives the inside of a window its layout and size: its own for a form known by name, else one row
+// after the other in the order of the controls.
+void LayOut(FormWindow& window, QWidget& inside);
+
+}  // namespace tessaryn

@@ -1,0 +1,82 @@
+#include "desktop/LineIndex.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace tessaryn {
+
+namespace {
+
+// Places behind each LF of a stretch of text.
+std::vector<int> StartsIn(std::string_view text, int first, int last) {
+    std::vector<int> starts;
+    const auto end = static_cast<std::size_t>(last);
+    auto found = text.find('\n', static_cast<std::size_t>(first));
+    while (found != std::string_view::npos && found < end) {
+        starts.push_back(static_cast<int>(found) + 1);
+        found = text.find('\n', found + 1);
+    }
+    return starts;
+}
+
+int Columns(std::string_view line) {
+    int columns = 0;
+    for (const char c : line) {
+        if (c == '\t') {
+            columns += LineIndex::TabColumns - columns % LineIndex::TabColumns;
+        } else if ((static_cast<unsigned char>(c) & 0xC0) != 0x80) {
+            ++columns;
+        }
+    }
+    return columns;
+}
+
+}  // namespace
+
+void LineIndex::Rebuild(std::string_view text) {
+    const int size = static_cast<int>(text.size());
+    starts_ = StartsIn(text, 0, size);
+    starts_.insert(starts_.begin(), 0);
+    columns_.assign(starts_.size(), 0);
+    Measure(text, 0, Count() - 1);
+}
+
+void LineIndex::Update(std::string_view text, int start, int removed, int inserted) {
+    const auto first = std::upper_bound(starts_.begin(), starts_.end(), start);
+    const auto last = std::upper_bound(first, starts_.end(), start + removed);
+    const int line = static_cast<int>(first - starts_.begin()) - 1;  // the one that start is in
+    const int delta = inserted - removed;
+    if (delta != 0) std::for_each(last, starts_.end(), [&](int& place) { place += delta; });
+
+    const auto added = StartsIn(text, start, start + inserted);
+    const auto gone = last - first;
+    const auto columns = columns_.begin() + line + 1;
+    columns_.insert(columns_.erase(columns, columns + gone), added.size(), 0);
+    starts_.insert(starts_.erase(first, last), added.begin(), added.end());
+    Measure(text, line, line + static_cast<int>(added.size()));
+}
+
+void LineIndex::Measure(std::string_view text, int first, int last) {
+    for (int line = first; line <= last; ++line) {
+        const auto start = static_cast<std::size_t>(Start(line));
+        const auto end = static_cast<std::size_t>(End(text, line));
+        columns_[static_cast<std::size_t>(line)] = Columns(text.substr(start, end - start));
+    }
+    widest_ = *std::max_element(columns_.begin(), columns_.end());
+}
+
+int LineIndex::LineAt(int position) const {
+    const auto behind = std::upper_bound(starts_.begin(), starts_.end(), position);
+    return std::max(0, static_cast<int>(behind - starts_.begin()) - 1);
+}
+
+int LineIndex::End(std::string_view text, int line) const {
+    int end = line + 1 < Count() ? Start(line + 1) - 1 : static_cast<int>(text.size());
+    if (end > Start(line) && line + 1 < Count() &&
+        text[static_cast<std::size_t>(end) - 1] == '\r') {
+        --end;
+    }
+    return end;
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,33 @@
+// Where the lines of a long text begin and how wide they are, kept up to date from what changed
+// alone. Lines end with LF; the index holds no text.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace tessaryn {
+
+class LineIndex {
+  public:
+    static constexpr int TabColumns = 6;  // from one TAB stop to the next: a five-digit line number
+
+    void Rebuild(std::string_view text);
+    // text is the new one, in which `inserted` bytes from start on replace `removed` old ones.
+    void Update(std::string_view text, int start, int removed, int inserted);
+
+    int Count() const { return static_cast<int>(starts_.size()); }  // at least 1
+    int LineAt(int position) const;
+    int Start(int line) const { return starts_[static_cast<std::size_t>(line)]; }
+    // Behind the line's last character, its CR LF left out.
+    int End(std::string_view text, int line) const;
+    int WidestLine() const { return widest_; }  // columns of the widest line, TABs expanded
+
+  private:
+    void Measure(std::string_view text, int first, int last);  // lines first to last
+
+    std::vector<int> starts_{0};
+    std::vector<int> columns_{0};
+    int widest_ = 0;
+};
+
+}  // namespace tessaryn

@@ -1,0 +1,103 @@
+// The proof display: a view over a rich-text surface that can be very long.
+//
+// It keeps no text, only an index of the line starts, and lays out the lines in sight when they are
+// painted. The text can't be edited; caret and selection are the user's own.
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QBasicTimer>
+#include <QTextLayout>
+#include <map>
+#include <memory>
+
+#include "desktop/LineIndex.h"
+#include "desktop/PaintedText.h"
+#include "platform/RichTextBox.h"
+
+namespace tessaryn {
+
+class ProofDisplay : public QAbstractScrollArea {
+  public:
+    explicit ProofDisplay(RichTextBox& box, QWidget* parent = nullptr);
+
+    // Brings over what has changed in the surface.
+    void Sync();
+
+    // The character boundary next to a place of the viewport, and the start of the character there.
+    int BoundaryAt(const QPoint& place);
+    int CharacterAt(const QPoint& place);
+    // Where in the viewport the caret stands at a position of the surface.
+    QRect CaretRect(int position);
+
+    int LinesLaidOut() const { return linesLaidOut_; }  // since the start
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    struct Line {
+        PaintedText painted;
+        std::unique_ptr<QTextLayout> layout;
+    };
+    enum class Unit { Character, Word };
+
+    // ProofDisplay.cpp: content, layout, painting
+    bool TakeContent();
+    void MeasureFont();
+    void UpdateScrollBars();
+    Line& LaidOut(int line);
+    int LineTop(int line) const;  // in the viewport
+    int LineAtY(int y) const;
+    int PositionAt(const QPoint& place, QTextLine::CursorPosition kind);
+    void EnsureVisible(int position);
+    void PaintLine(QPainter& painter, int line);
+    void RestartCaret();
+
+    // ProofDisplayInput.cpp: caret and selection
+    void Select(int anchor, int caret);
+    void MoveCaret(int position, bool extend);
+    void MoveByLines(int lines, bool extend);
+    int Next(int position, Unit unit);
+    int Previous(int position, Unit unit);
+    bool MoveByKey(const QKeyEvent& event);
+    bool MoveSideways(int key, Unit unit, bool extend);
+    void DragTo(const QPoint& place);
+    void DoubleClickAtCaret();
+
+    RichTextBox& box_;
+    LineIndex index_;
+    std::map<int, Line> lines_;  // laid out, by number; dropped at each change
+    int linesLaidOut_ = 0;
+    int fontSize_ = 0;  // points; of the statements
+    int lineHeight_ = 1;
+    int ascent_ = 1;
+    double columnWidth_ = 1;
+
+    int anchor_ = 0;  // bytes of the surface; the selection lies between it and the caret
+    int caret_ = 0;
+    double goalX_ = -1;  // where up and down want to keep the caret; below 0: where it stands
+    bool caretShown_ = false;
+    QBasicTimer blink_;
+    QBasicTimer autoScroll_;  // runs while a drag is above or below the viewport
+
+    bool pressed_ = false;      // the left button is down since a press on the display
+    bool dragging_ = false;     // and the pointer has been moved
+    bool secondPress_ = false;  // that press was the second of a double click
+    QPoint pressPlace_;
+    int pressBoundary_ = 0;
+    int formsAtPress_ = 0;
+};
+
+}  // namespace tessaryn

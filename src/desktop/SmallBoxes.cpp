@@ -1,0 +1,78 @@
+#include "desktop/SmallBoxes.h"
+
+#include <QAccessible>
+
+#include "desktop/Desktop.h"
+#include "desktop/PaintedText.h"
+
+namespace tessaryn {
+
+namespace {
+
+int BytesIn(const QString& text) {
+    return static_cast<int>(text.toUtf8().size());
+}
+
+int UnitsIn(const std::string& text, int bytes) {
+    const auto length = static_cast<std::size_t>(std::max(0, bytes));
+    return static_cast<int>(ToQt(text.substr(0, length)).size());
+}
+
+}  // namespace
+
+StatusView::StatusView(RichTextBox& box, QWidget* parent) : QLabel(parent), box_(box) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setTextInteractionFlags(Qt::NoTextInteraction);
+    setMinimumHeight(fontMetrics().lineSpacing() + 8);
+    Sync();
+}
+
+void StatusView::Sync() {
+    const bool centred = box_.GetSelAlignment() == Alignment::Center;
+    setAlignment(Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft));
+    const QString shown = ToQt(box_.GetText()).trimmed();
+    if (shown == text()) return;
+    setText(shown);
+    setToolTip(shown);
+    QAccessibleEvent told(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&told);
+}
+
+LineBox::LineBox(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
+    connect(this, &QLineEdit::textEdited, this, [this] {
+        Dispatch([this] {
+            if (box_.Change) box_.Change();
+        });
+    });
+    Sync();
+}
+
+void LineBox::Pull() {
+    const QString shown = text();
+    const int start = hasSelectedText() ? selectionStart() : cursorPosition();
+    box_.Text = shown.toStdString();
+    box_.SelStart = BytesIn(shown.left(start));
+    box_.SelLength = BytesIn(selectedText());
+}
+
+void LineBox::Sync() {
+    if (fontSize_ != box_.FontSize) {
+        CharFormat format;
+        format.Size = fontSize_ = box_.FontSize;
+        setFont(FontOf(format));
+    }
+    if (text() != ToQt(box_.Text)) setText(ToQt(box_.Text));
+    const int start = UnitsIn(box_.Text, box_.SelStart);
+    const int length = UnitsIn(box_.Text, box_.SelStart + box_.SelLength) - start;
+    const int shownStart = hasSelectedText() ? selectionStart() : cursorPosition();
+    if (start == shownStart && length == selectedText().size()) return;
+    if (length > 0) {
+        setSelection(start, length);
+    } else {
+        deselect();
+        setCursorPosition(start);
+    }
+}
+
+}  // namespace tessaryn

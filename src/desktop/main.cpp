@@ -1,0 +1,113 @@
+// The desktop editor.
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QSessionManager>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "desktop/Desktop.h"
+#include "desktop/FormWindow.h"
+#include "desktop/InputWatch.h"
+#include "desktop/Messages.h"
+#include "desktop/PaintedText.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+
+namespace {
+
+using namespace tessaryn;
+
+const char* const Usage =
+    "Usage: tessaryn [FILE.proof]\n"
+    "Opens the proof editor, with a proof if one is named.\n"
+    "\n"
+    "  --help      this text\n"
+    "  --version   the version of the program\n";
+
+// Options of the program itself; those of the toolkit have been taken out before.
+int Inform(const QString& option) {
+    if (option == QStringLiteral("--help")) return std::puts(Usage) < 0;
+    if (option == QStringLiteral("--version")) return std::puts("tessaryn " TESSARYN_VERSION) < 0;
+    std::fprintf(stderr, "tessaryn: unknown option %s\n%s", option.toUtf8().constData(), Usage);
+    return 2;
+}
+
+// With TESSARYN_MEASURE_START set, tells how long the window took to appear, and ends.
+class FirstPaint : public QObject {
+  public:
+    FirstPaint() { clock_.start(); }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool paints = event->type() == QEvent::Paint;
+        const bool result = QObject::eventFilter(watched, event);
+        if (paints && !told_) {
+            told_ = true;
+            // Behind the events at hand, the first activation among them.
+            QMetaObject::invokeMethod(
+                this,
+                [this] {
+                    std::fprintf(stderr, "first paint after %d ms\n",
+                                 static_cast<int>(clock_.elapsed()));
+                    EndProgram();
+                },
+                Qt::QueuedConnection);
+        }
+        return result;
+    }
+
+  private:
+    QElapsedTimer clock_;
+    bool told_ = false;
+};
+
+// The desktop session ends: the same question as at any other end.
+void ListenToSession(QApplication& application) {
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &application,
+        [](QSessionManager& session) {
+            if (!session.allowsInteraction()) return;
+            Dispatch([] { Proof.CloseRequested(); });
+            if (OperationCancelled) session.cancel();
+        },
+        Qt::DirectConnection);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    FirstPaint firstPaint;
+    const auto informs = [](const char* argument) {
+        const std::string text = argument;
+        return text == "--help" || text == "--version";
+    };
+    for (int i = 1; i < argc; ++i) {  // these need no display
+        if (informs(argv[i])) return Inform(QString::fromLocal8Bit(argv[i]));
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("tessaryn"));
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setDesktopFileName(QStringLiteral("tessaryn"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    SubstituteFonts();
+    WatchInput(FadeNote);
+
+    const QStringList arguments = QApplication::arguments();
+    std::string commandLine;
+    if (arguments.size() > 1) {
+        if (arguments[1].startsWith(QStringLiteral("--"))) return Inform(arguments[1]);
+        commandLine = '"' + arguments[1].toStdString() + '"';
+    }
+    StartProgram();
+    Proof.Load(commandLine);
+    ListenToSession(application);
+    ShowMainWindow(Proof);
+    if (std::getenv("TESSARYN_MEASURE_START") != nullptr) {
+        WidgetOf(Proof.RTB)
+            ->findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport"))
+            ->installEventFilter(&firstPaint);
+    }
+    if (!Ending()) QApplication::exec();
+    ForgetNote();
+    ForgetWindows();
+    return 0;
+}

@@ -1,0 +1,238 @@
+#include "desktop/FormWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTest>
+#include <QTextEdit>
+#include <QTimer>
+#include <stdexcept>
+
+#include "desktop/Desktop.h"
+#include "desktop/Messages.h"
+#include "desktop/PaintedText.h"
+
+using namespace tessaryn;
+
+namespace {
+
+// A dialogue with one control of each kind, and what happened to it.
+struct EntryForm : Form {
+    EntryForm() : Form("Entry", "An entry") {
+        DefaultButton = &accept;
+        box.KeyDown = [this](const KeyEvent& key) { return InsertElementSign(key); };
+        box.Change = [this] { ++changes; };
+        box.MouseUp = [this](MouseButton button) { rightClicks += button == MouseButton::Right; };
+        accept.Click = [this] { End("accepted " + name.Text); };
+        cancel.Click = [this] { End("cancelled"); };
+        faulty.Click = [] { throw std::runtime_error("out of ink"); };
+        MenuBar = {&menu};
+        menu.Items = {&item, &line};
+        item.Click = [this] { item.Checked = !item.Checked; };
+    }
+    ~EntryForm() override { ForgetWindows(); }
+
+    void Activated() override { box.SetFocus(); }
+    bool KeyPressed(const KeyEvent& key) override {
+        if (key.key != Key::Esc) return false;
+        End("cancelled");
+        return true;
+    }
+
+    void End(const std::string& how) {
+        ended = how;
+        Hide();
+    }
+
+    bool InsertElementSign(const KeyEvent& key) {
+        if (key.text != "@") return false;
+        box.SelFontName = "Symbol";
+        box.SelText = "e";
+        box.SelFontName = "Courier New";
+        return true;
+    }
+
+    // Shows the form modally, acts once it is up, and tells how it ended.
+    template <class Action>
+    std::string Run(Action act) {
+        ended.clear();
+        QTimer::singleShot(0, qApp, [&] { act(WindowOf(*this)); });
+        ShowModal(*this);
+        return ended;
+    }
+
+    RichTextBox box{*this, "box"};
+    TextBox name{*this, "name"};
+    Label message{*this, "message"};
+    CheckBox tick{*this, "tick", "Tick"};
+    Button accept{*this, "accept", "Continue..."};
+    Button cancel{*this, "cancel", "Cancel"};
+    Button hidden{*this, "hidden", "Hidden"};
+    Button faulty{*this, "faulty", "Faulty"};
+    MenuItem menu{*this, "menu", "&Menu"};
+    MenuItem item{*this, "item", "'&&'     (And)", ""};
+    MenuItem line{*this, "line", "-"};
+    std::string ended;
+    int changes = 0;
+    int rightClicks = 0;
+};
+
+// A key of its own for each character, those beyond ASCII included.
+void Type(QWidget& widget, const QString& text) {
+    for (const QChar c : text) {
+        QTest::sendKeyEvent(QTest::Click, &widget, Qt::Key_unknown, QString(c), Qt::NoModifier);
+    }
+}
+
+template <class Widget>
+Widget& Find(FormWindow& window, const char* name) {
+    return *window.Window().findChild<Widget*>(QString::fromLatin1(name));
+}
+
+}  // namespace
+
+TEST(EditBox, TypedAtShowsEpsilonAndReadsBackAsTheSignOfTheSurface) {
+    EntryForm form;
+    form.Run([&](FormWindow& window) {
+        auto& editor = Find<QTextEdit>(window, "box");
+        Type(editor, QStringLiteral("x@S"));
+        QTest::keyClick(&editor, Qt::Key_Return);
+        Type(editor, QStringLiteral("e\u00E9"));
+        QTest::keyClick(&editor, Qt::Key_Backspace);
+        EXPECT_EQ(editor.toPlainText(), QStringLiteral("x\u03B5S\ne"));
+        EXPECT_EQ(form.box.GetText(), "xeS\r\ne");
+        EXPECT_EQ(form.box.FormatAt(1).Font, "Symbol");
+        EXPECT_EQ(form.box.FormatAt(0).Font, "Courier New");
+        EXPECT_EQ(form.box.FormatAt(2).Font, "Courier New");
+        EXPECT_EQ(form.box.FormatAt(5).Font, "Courier New");
+        EXPECT_EQ(form.box.GetSelStart(), 6);
+        EXPECT_EQ(form.changes, 6);  // "@" is the logic's own doing
+        form.Hide();
+        SyncWindows();
+    });
+}
+
+TEST(EditBox, SelectionIsTheSameOnBothSides) {
+    EntryForm form;
+    form.Run([&](FormWindow& window) {
+        auto& editor = Find<QTextEdit>(window, "box");
+        form.box.SetText("\xC3\xA9 a\r\nb");
+        form.box.SelStart = 6;
+        form.box.SelLength = 1;
+        SyncWindows();
+        EXPECT_EQ(editor.textCursor().selectedText(), QStringLiteral("b"));
+        QTest::keyClick(&editor, Qt::Key_Home, Qt::ControlModifier);
+        QTest::keyClick(&editor, Qt::Key_Right, Qt::ShiftModifier);
+        Dispatch([] {});
+        EXPECT_EQ(form.box.GetSelText(), "\xC3\xA9");
+        // A replaced text keeps the format of what stood there, red marks included.
+        CharFormat red;
+        red.Color = Rgb(255, 0, 0);
+        form.box.SetFormat(3, 1, red);
+        SyncWindows();
+        QTest::keyClick(&editor, Qt::Key_End);
+        Type(editor, QStringLiteral("c"));
+        EXPECT_EQ(form.box.FormatAt(3).Color, red.Color);
+        form.Hide();
+        SyncWindows();
+    });
+}
+
+TEST(FormWindow, KeyboardAcceptsAndCancels) {
+    EntryForm form;
+    const auto typeName = [](FormWindow& window) {
+        auto& entry = Find<QLineEdit>(window, "name");
+        entry.setFocus();
+        Type(entry, QStringLiteral("\u00E9x"));
+        QTest::keyClick(&entry, Qt::Key_Return);
+    };
+    EXPECT_EQ(form.Run(typeName), "accepted \xC3\xA9x");
+    EXPECT_EQ(form.Run([](FormWindow& window) {
+        QTest::keyClick(&Find<QTextEdit>(window, "box"), Qt::Key_Escape);
+    }),
+              "cancelled");
+    EXPECT_EQ(form.Run([](FormWindow& window) {
+        QTest::keyClick(&Find<QPushButton>(window, "cancel"), Qt::Key_Return);
+    }),
+              "cancelled");
+    EXPECT_EQ(form.Run([](FormWindow& window) { window.Window().close(); }), "");
+    EXPECT_FALSE(form.Visible);
+}
+
+TEST(FormWindow, ShowsWhatTheLogicHasSet) {
+    EntryForm form;
+    form.hidden.Visible = false;
+    form.Run([&](FormWindow& window) {
+        EXPECT_EQ(window.Window().focusWidget(), &Find<QTextEdit>(window, "box"));
+        EXPECT_TRUE(Find<QPushButton>(window, "hidden").isHidden());
+        Dispatch([&] {
+            form.Caption = "Other";
+            form.message.Caption = "P & Q <b>";
+            form.accept.Enabled = false;
+            form.name.Text = "abc";
+            form.name.SetFocus();
+            form.name.SelStart = 1;
+            form.name.SelLength = 2;
+        });
+        EXPECT_EQ(window.Window().windowTitle(), QStringLiteral("Other"));
+        EXPECT_EQ(Find<QLabel>(window, "message").text(), QStringLiteral("P & Q <b>"));
+        EXPECT_FALSE(Find<QPushButton>(window, "accept").isEnabled());
+        EXPECT_EQ(Find<QLineEdit>(window, "name").selectedText(), QStringLiteral("bc"));
+        EXPECT_EQ(window.Window().focusWidget(), &Find<QLineEdit>(window, "name"));
+
+        auto& tick = Find<QCheckBox>(window, "tick");
+        tick.click();
+        EXPECT_TRUE(form.tick.Value);
+        EXPECT_TRUE(tick.isChecked());
+
+        const auto actions = window.MenuOf(form.menu)->actions();
+        EXPECT_EQ(actions[0]->text(), QStringLiteral("'&&'\t(And)"));
+        EXPECT_TRUE(actions[1]->isSeparator());
+        actions[0]->trigger();
+        EXPECT_TRUE(actions[0]->isChecked());
+        form.Hide();
+        SyncWindows();
+    });
+}
+
+TEST(FormWindow, AFaultInTheLogicIsToldAndLeavesTheWindowUsable) {
+    EntryForm form;
+    form.Run([&](FormWindow& window) {
+        Find<QPushButton>(window, "faulty").click();
+        EXPECT_TRUE(NoteShown().contains(QStringLiteral("out of ink")));
+        EXPECT_EQ(QApplication::activeModalWidget(), &window.Window());
+        Find<QPushButton>(window, "cancel").click();
+    });
+    EXPECT_EQ(form.ended, "cancelled");
+}
+
+TEST(FormWindow, EndOfTheProgramUnwindsThroughAModalForm) {
+    EntryForm form;
+    bool returned = false;
+    QTimer::singleShot(0, qApp, [] { Dispatch([] { EndProgram(); }); });
+    Dispatch([&] {
+        ShowModal(form);
+        returned = true;
+    });
+    EXPECT_FALSE(returned);
+    EXPECT_FALSE(form.Visible);
+}
+
+TEST(Clipboard, HoldsPlainTextAndRtf) {
+    ClipboardSetRtf("{\\rtf1 P}", "P\r\nQ");
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    EXPECT_EQ(content->text(), QStringLiteral("P\nQ"));
+    EXPECT_EQ(content->data(QStringLiteral("application/rtf")), QByteArray("{\\rtf1 P}"));
+    EXPECT_EQ(ClipboardText(), "P\r\nQ");
+    EXPECT_EQ(ClipboardRtf(), "{\\rtf1 P}");
+    ClipboardSetText("plain");
+    EXPECT_EQ(ClipboardRtf(), "");
+}

@@ -1,0 +1,229 @@
+#include "desktop/ProofDisplay.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QTest>
+#include <string>
+#include <vector>
+
+#include "platform/Events.h"
+
+using namespace tessaryn;
+
+namespace {
+
+// A surface in a display of its own, with the events that the logic would get.
+struct Displayed {
+    explicit Displayed(const std::string& text) {
+        box.ReadOnly = true;
+        box.SetText(text);
+        box.Click = [this] { Log("click"); };
+        box.DblClick = [this] { Log("double"); };
+        box.MouseUp = [this](MouseButton button) {
+            events += button == MouseButton::Left ? "up;" : "right up;";
+        };
+        display.resize(600, 300);
+        display.show();
+        display.Sync();
+    }
+
+    void Log(const std::string& event) {
+        events +=
+            event + " " + std::to_string(box.SelStart) + "+" + std::to_string(box.SelLength) + ";";
+    }
+
+    // The middle of a character, `aside` pixels to the right of it.
+    QPoint PlaceOf(int position, int aside = 4) {
+        return display.CaretRect(position).center() + QPoint(aside, 0);
+    }
+
+    void Mouse(void (*act)(QWidget*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int),
+               const QPoint& place, Qt::KeyboardModifiers modifiers = {}) {
+        act(display.viewport(), Qt::LeftButton, modifiers, place, -1);
+    }
+
+    void DragTo(const QPoint& place) {
+        QMouseEvent move(QEvent::MouseMove, place, display.viewport()->mapToGlobal(place),
+                         Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(display.viewport(), &move);
+    }
+
+    Form form{"Any"};
+    RichTextBox box{form, "RTB"};
+    ProofDisplay display{box};
+    std::string events;
+};
+
+int At(const std::string& text, const std::string& part) {
+    return static_cast<int>(text.find(part));
+}
+
+}  // namespace
+
+TEST(ProofDisplay, ClickMeansTheCharacterUnderThePointer) {
+    const std::string text =
+        "1\tP \xE2\x87\x92 Q\tna\xC3\xAFve e\xCC\x81t\xC3\xA9\r\n\r\n22\tx e S\r\n";
+    Displayed shown(text);
+    CharFormat symbol;
+    symbol.Font = "Symbol";
+    const int sign = At(text, " e S") + 1;
+    shown.box.SetFormat(sign, 1, symbol);
+    shown.display.Sync();
+    // Left and right half of: a letter behind a TAB, behind signs of 2 and 3 bytes, behind a
+    // combining mark, behind the element sign.
+    for (const int position :
+         {At(text, "P"), At(text, "Q"), At(text, "ve"), At(text, "t\xC3"), sign, At(text, "S")}) {
+        for (const int aside : {1, 7}) {
+            shown.events.clear();
+            shown.Mouse(QTest::mouseClick, shown.PlaceOf(position, aside));
+            EXPECT_EQ(shown.events, "click " + std::to_string(position) + "+0;up;");
+        }
+    }
+    const int lineEnd = At(text, "\r\n");
+    shown.Mouse(QTest::mouseClick, shown.PlaceOf(lineEnd, 200));
+    EXPECT_EQ(shown.box.GetSelStart(), lineEnd);
+}
+
+TEST(ProofDisplay, DragSelectsAndStillSendsTheClick) {
+    const std::string text = "1\tP & Q\r\n2\tR\r\n";
+    Displayed shown(text);
+    shown.Mouse(QTest::mousePress, shown.PlaceOf(2, 2));
+    shown.DragTo(shown.PlaceOf(6, 2));
+    EXPECT_EQ(shown.events, "");
+    shown.Mouse(QTest::mouseRelease, shown.PlaceOf(6, 2));
+    EXPECT_EQ(shown.events, "click 2+4;up;");
+
+    // Backwards, and on with the shift key from the same anchor.
+    shown.Mouse(QTest::mousePress, shown.PlaceOf(6, 1));
+    shown.DragTo(shown.PlaceOf(4, 1));
+    shown.Mouse(QTest::mouseRelease, shown.PlaceOf(4, 1));
+    EXPECT_EQ(shown.box.GetSelStart(), 4);
+    EXPECT_EQ(shown.box.GetSelLength(), 2);
+    shown.Mouse(QTest::mouseClick, shown.PlaceOf(2, 1), Qt::ShiftModifier);
+    EXPECT_EQ(shown.box.GetSelStart(), 2);
+    EXPECT_EQ(shown.box.GetSelLength(), 4);
+}
+
+TEST(ProofDisplay, DoubleClickAddsOnlyWhatTheFirstClickLeft) {
+    Displayed shown("1\tP & Q\r\n");
+    const QPoint place = shown.PlaceOf(4);
+    shown.Mouse(QTest::mouseClick, place);
+    shown.Mouse(QTest::mouseDClick, place);  // no more than the second press
+    shown.Mouse(QTest::mouseRelease, place);
+    EXPECT_EQ(shown.events, "click 4+0;up;double 4+0;up;");
+
+    // The first click opened a form: the second press is a click of its own.
+    shown.events.clear();
+    shown.box.Click = [&shown] {
+        ++FormsShown;
+        shown.events += "form;";
+    };
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    shown.Mouse(QTest::mouseClick, place);
+    shown.Mouse(QTest::mouseDClick, place);
+    shown.Mouse(QTest::mouseRelease, place);
+    EXPECT_EQ(shown.events.find("double"), std::string::npos);
+}
+
+TEST(ProofDisplay, KeyboardMovesSelectsAndClicks) {
+    const std::string text = "1\tP & Q\r\n\r\n2\tR \xC3\xA9\r\n";
+    Displayed shown(text);
+    shown.display.activateWindow();
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(&shown.display, key, modifiers);
+        return shown.box.GetSelStart();
+    };
+    EXPECT_EQ(press(Qt::Key_End), 7);
+    EXPECT_EQ(press(Qt::Key_Right), 9);  // over CR LF in one step
+    EXPECT_EQ(press(Qt::Key_Down), 11);
+    EXPECT_EQ(press(Qt::Key_End), 17);
+    EXPECT_EQ(press(Qt::Key_Left), 15);  // over both bytes
+    EXPECT_EQ(press(Qt::Key_Home, Qt::ControlModifier), 0);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(shown.box.GetSelLength(), 9);
+    EXPECT_EQ(press(Qt::Key_Right), 9);  // leaves the selection at its end
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(shown.box.GetSelLength(), static_cast<int>(text.size()));
+    press(Qt::Key_X);
+    EXPECT_EQ(shown.box.GetText(), text);
+
+    press(Qt::Key_Home, Qt::ControlModifier);
+    press(Qt::Key_Right);
+    press(Qt::Key_Right);
+    shown.events.clear();
+    press(Qt::Key_Return);
+    EXPECT_EQ(shown.events, "click 2+0;up;");
+}
+
+TEST(ProofDisplay, ScrollsNoFurtherThanNeededToWhatTheLogicShows) {
+    std::string text;
+    for (int line = 1; line <= 200; ++line) text += std::to_string(line) + "\tP\r\n";
+    Displayed shown(text);
+    QScrollBar* bar = shown.display.verticalScrollBar();
+    const int place = At(text, "\n100\t") + 1;
+    shown.box.SelStart = place;
+    shown.display.Sync();
+    EXPECT_NEAR(shown.display.CaretRect(place).bottom(), shown.display.viewport()->height(), 2);
+    // By way of the end, the line comes to stand at the top.
+    shown.box.SelStart = shown.box.TextLength();
+    shown.box.SelStart = place;
+    shown.display.Sync();
+    EXPECT_LT(shown.display.CaretRect(place).top(), 10);
+    const int scrolled = bar->value();
+    shown.box.SelStart = At(text, "\n105\t") + 1;
+    shown.display.Sync();
+    EXPECT_EQ(bar->value(), scrolled);
+}
+
+// A proof of the greatest length: only the lines in sight are laid out and formatted, at first and
+// after a change, and a change far below costs no painting at all.
+TEST(ProofDisplay, CostsOnlyWhatIsInSight) {
+    constexpr int Statements = 32000;
+    std::string text;
+    std::vector<RichTextBox::Block> blocks;
+    for (int n = 1; n <= Statements; ++n) {
+        const std::string block = std::to_string(n) +
+                                  "\tALL(x):[x @ S => EXIST(y):[y @ T & f(x)=y]]\r\n\t\tPremise"
+                                  "\r\n\r\n";
+        text += block;
+        blocks.push_back({static_cast<int>(block.size()), static_cast<std::uint64_t>(n)});
+    }
+    int formatted = 0;
+    const auto formatter = [&](int index) {
+        ++formatted;
+        return std::vector<FormatRun>{{0, blocks[static_cast<std::size_t>(index)].length, {}}};
+    };
+    Displayed shown("");
+    shown.box.SetBlocks(text, blocks, formatter);
+
+    QElapsedTimer clock;
+    clock.start();
+    shown.display.Sync();
+    shown.display.grab();
+    EXPECT_LT(clock.elapsed(), 1000);
+    EXPECT_LT(formatted, 60);
+    EXPECT_LT(shown.display.LinesLaidOut(), 60);
+
+    clock.restart();
+    QScrollBar* bar = shown.display.verticalScrollBar();
+    for (int page = 0; page < 100; ++page) {
+        bar->setValue(bar->maximum() / 100 * page);
+        shown.display.grab();
+    }
+    EXPECT_LT(clock.elapsed(), 100 * 50);  // 20 a second, on any machine
+    EXPECT_LT(formatted, 60 * 101);
+
+    bar->setValue(0);
+    shown.display.grab();
+    const int laidOut = shown.display.LinesLaidOut();
+    blocks.push_back({3, 1});
+    shown.box.SetBlocks(text + "Q\r\n", blocks, formatter);
+    clock.restart();
+    shown.display.Sync();
+    EXPECT_LT(clock.elapsed(), 100);
+    EXPECT_EQ(shown.display.LinesLaidOut(), laidOut);
+}
