@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "expr/Expression.h"
+#include "expr/Lex.h"
 #include "mainwindow/Proof.h"
 #include "platform/Platform.h"
 #include "view/Display.h"
@@ -263,10 +263,14 @@ void ExpressionEditor::ClearMarks() {
 
 void ExpressionEditor::MarkParseError() {
     if (ParseErrorPos <= 0) return;
+    TokenList tokens;
+    std::string lexError;
+    int lexErrorPos = 0;
+    Lex(NewStmtText, tokens, lexError, lexErrorPos);
     const auto token =
-        std::find_if(TokenTable.begin() + 1, TokenTable.end(),
+        std::find_if(tokens.begin() + 1, tokens.end(),
                      [](const TokenRec& rec) { return rec.Position == ParseErrorPos; });
-    if (token != TokenTable.end()) {
+    if (token != tokens.end()) {
         box_.SelStart = ParseErrorPos - 1;
         box_.SelLength = static_cast<int>(token->Token.size());
         box_.SelColor = ErrorRed;

@@ -61,7 +61,7 @@ class ExpressionEditor {
 
     // Takes the red mark of an earlier failure away.
     void ClearMarks();
-    // Marks the token of TokenTable at ParseErrorPos red and puts the caret there.
+    // Marks the token of NewStmtText at ParseErrorPos red and puts the caret there.
     void MarkParseError();
 
     void DisableUndo();

@@ -1,8 +1,8 @@
 // The controls of a form as the logic sees them: small records that a front end binds to.
 //
-// Logic reads and writes the fields; after each event the front end brings over what changed. What the
-// user does reaches the logic through the std::function members; an empty one means that nothing
-// listens. All texts are UTF-8, all positions 0-based bytes.
+// Logic reads and writes the fields; after each event the front end brings over what changed. What
+// the user does reaches the logic through the std::function members; an empty one means that
+// nothing listens. All texts are UTF-8, all positions 0-based bytes.
 #pragma once
 
 #include <functional>
@@ -13,11 +13,25 @@ namespace tessaryn {
 
 struct Form;
 
-enum class Key { Char, Enter, Esc, Del, Backspace, Tab, Left, Right, Up, Down, Home, End, Function };
+enum class Key {
+    Char,
+    Enter,
+    Esc,
+    Del,
+    Backspace,
+    Tab,
+    Left,
+    Right,
+    Up,
+    Down,
+    Home,
+    End,
+    Function
+};
 
 struct KeyEvent {
     Key key = Key::Char;
-    std::string text;   // the character of Key::Char; the letter as a capital where ctrl is set
+    std::string text;  // the character of Key::Char; the letter as a capital where ctrl is set
     bool ctrl = false;
     bool shift = false;
     int number = 0;  // of Key::Function: 2 for F2

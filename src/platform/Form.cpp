@@ -18,6 +18,8 @@ Control::Control(Form& parent, std::string name) : Parent(parent), Name(std::mov
     parent.Controls.push_back(this);
 }
 
-void Control::SetFocus() { Parent.ActiveControl = this; }
+void Control::SetFocus() {
+    Parent.ActiveControl = this;
+}
 
 }  // namespace tessaryn

@@ -1,7 +1,8 @@
 // A form: a window or dialogue with its controls as named members.
 //
-// A form derives from Form, lists its controls as members (their order is the tab order) and overrides
-// the events that it handles. Forms live as long as the program and are hidden, not destroyed.
+// A form derives from Form, lists its controls as members (their order is the tab order) and
+// overrides the events that it handles. Forms live as long as the program and are hidden, not
+// destroyed.
 #pragma once
 
 #include <string>

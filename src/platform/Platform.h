@@ -15,6 +15,9 @@ void ShowModal(Form& form);
 // Shows a form beside the one that opened it, and returns at once.
 void ShowModeless(Form& form);
 
+// Brings what the logic has set in a form to the screen at once, ahead of a longer piece of work.
+void RefreshNow(Form& form);
+
 // Ends the program once the present event is over. Returns.
 void EndProgram();
 
@@ -24,8 +27,8 @@ struct ProgramEnded {};
 
 // --- messages
 
-// The system's beep for a refusal. reason: one sentence that tells a person what was clicked and what
-// the command needs instead.
+// The system's beep for a refusal. reason: one sentence that tells a person what was clicked and
+// what the command needs instead.
 void Beep(const std::string& reason);
 
 enum class Answer { OK, Yes, No, Cancel };
