@@ -31,6 +31,9 @@ void ResetFonts();
 // reported by this and by each ResetFonts from then on until a sound document replaces it.
 void CheckStoredText();
 
+// Gives a surface text and formats at once. The runs cover the text.
+void SetContent(RichTextBox& surface, std::string text, std::vector<FormatRun> runs);
+
 // Turns each "@" into the element sign, over 1-based positions start to start + length - 1.
 void ConvertAmpersand(RichTextBox& surface, int start, int length);
 

@@ -8,7 +8,13 @@
 namespace tessaryn {
 namespace {
 
-// Gives a surface text and formats at once.
+// The runs with one byte's font changed.
+void PushRun(std::vector<FormatRun>& runs, int start, int end, const CharFormat& format) {
+    if (end > start) runs.push_back({start, end - start, format});
+}
+
+}  // namespace
+
 void SetContent(RichTextBox& surface, std::string text, std::vector<FormatRun> runs) {
     const int length = static_cast<int>(text.size());
     std::vector<RichTextBox::Block> blocks;
@@ -17,13 +23,6 @@ void SetContent(RichTextBox& surface, std::string text, std::vector<FormatRun> r
     surface.SetBlocks(std::move(text), blocks, [runs = std::move(runs)](int) { return runs; });
     surface.Runs();
 }
-
-// The runs with one byte's font changed.
-void PushRun(std::vector<FormatRun>& runs, int start, int end, const CharFormat& format) {
-    if (end > start) runs.push_back({start, end - start, format});
-}
-
-}  // namespace
 
 void ConvertAmpersand(RichTextBox& surface, int start, int length) {
     std::string text = surface.GetText();
