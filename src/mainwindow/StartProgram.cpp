@@ -6,6 +6,8 @@
 #include "mainwindow/Proof.h"
 #include "mainwindow/TestParser.h"
 #include "output/SaveChanges.h"
+#include "rules/Generalize.h"
+#include "rules/Substitution.h"
 #include "rules/modConclusion.h"
 #include "view/Display.h"
 #include "view/InsertMode.h"
@@ -34,9 +36,17 @@ void StartProgram() {
     CheckStoredText();
     ResetUndo();
     ResetConclusion();
+    GenExpression.clear();
+    GenParseTable.assign(1, {});
+    SubstEquation.clear();
+    SubstSource.clear();
+    SubstTarget.clear();
+    SubstTargetTable.assign(1, {});
     Restart(Proof);
     Restart(TestParser);
     Restart(MyInputBox);
+    Restart(Generalize);
+    Restart(Substitution);
     Restart(SaveChanges);
     Restart(WorkArea);
 }

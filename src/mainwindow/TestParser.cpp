@@ -5,6 +5,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
+#include "rules/Rules.h"
 #include "view/InsertMode.h"
 
 namespace tessaryn {
@@ -32,6 +33,7 @@ struct EntryMode {
 const EntryMode EntryModes[] = {
     {Rule::Premise, CheckPremise},
     {Rule::Axiom, CheckAxiom},
+    {Rule::Reflex, AcceptReflexTerm},
 };
 
 bool KeepsHint(int ruleMode) {

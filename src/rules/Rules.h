@@ -2,6 +2,8 @@
 // which tells its inference and its clicks.
 #pragma once
 
+#include <string>
+
 namespace tessaryn {
 
 inline constexpr const char* JoinPrompt = "Join:  Click any active statement (1st of 2)...";
@@ -10,14 +12,22 @@ inline constexpr const char* JoinPrompt = "Join:  Click any active statement (1s
 void Premise();
 void Axiom();
 void Conclusion();
+void Reflexivity();
 
 // Click rules. firstClick: the first of two clicks is awaited; the rule changes it.
 void Join(bool& firstClick);
 void Split();
 void Detach(bool& firstClick);
+void ExistGenSelect();
+void Subsitute(bool& firstClick);
+void Symmetry();
 
 // What `Continue` of MyInputBox does for the Conclusion Rule: checks the new names of the bound
 // variables and puts the renamed statement into NewStmtText. Hides the box when all is well.
 void ContinueConclusion();
+
+// What `Continue` of TestParser does for Reflex with an entry that parses: checks the term and
+// writes the statement. Gives "" or the message of the refusal.
+std::string AcceptReflexTerm();
 
 }  // namespace tessaryn
