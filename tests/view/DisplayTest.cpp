@@ -1,0 +1,149 @@
+// What the display shows: places, fonts and colours of a block's fields.
+#include "view/Display.h"
+
+#include <gtest/gtest.h>
+
+#include "Workbench.h"
+#include "cli/HeadlessPlatform.h"
+#include "document/Statement.h"
+#include "mainwindow/ExpressionEditor.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/TestParser.h"
+
+namespace tessaryn {
+namespace {
+
+// Runs of the display as one line each: text, font (C, S, W), size, colour, b if bold.
+std::string Look() {
+    std::string look;
+    for (const FormatRun& run : Proof.RTB.Runs()) {
+        std::string text = Proof.RTB.GetText().substr(static_cast<std::size_t>(run.start),
+                                                      static_cast<std::size_t>(run.length));
+        for (char& c : text) {
+            if (c == '\r' || c == '\n' || c == '\t') c = '.';
+        }
+        char format[32];
+        std::snprintf(format, sizeof format, "|%c%d %06X%s\n", run.format.Font[0], run.format.Size,
+                      run.format.Color, run.format.Bold ? " b" : "");
+        look += text + format;
+    }
+    return look;
+}
+
+TEST(Display, StatementFields) {
+    ASSERT_EQ(Build(EnterAxiom("x @ s & ALL(a):P(a)") + EnterPremise("y=x")), "");
+    EXPECT_EQ(Look(),
+              "1|C12 000000 b\n"
+              ".|C12 000000\n"
+              "x|C12 C80000\n"
+              " e |S12 000000\n"
+              "s|C12 C80000\n"
+              " & ALL(a):P(a)...|C12 000000\n"
+              "Axiom|C10 808080\n"
+              "....|C12 000000\n"
+              "2|C12 000000 b\n"
+              ".|C12 000000\n"
+              "y|C12 00AF00\n"
+              "=|C12 000000\n"
+              "x|C12 C80000\n"
+              "...|C12 000000\n"
+              "Premise|C10 808080\n"
+              "....|C12 000000\n");
+}
+
+TEST(Display, ClosedBlockAndTriangle) {
+    ASSERT_EQ(Build(EnterPremise("P & Q") + "choose optSplit\nclick 1\nchoose optConclusion\n"),
+              "");
+    const std::string open = Look();
+    EXPECT_NE(open.find("1|C12 808080 b\n"), std::string::npos) << "grey inside the block";
+    EXPECT_NE(open.find("\n4|W10 000000\n |C12 000000\nConclusion, 1|C10 808080\n"),
+              std::string::npos)
+        << open;
+    for (int line = 1; line <= 3; ++line) StmtTable[static_cast<std::size_t>(line)].Visible = false;
+    RelayoutViewer();
+    ResetFonts();
+    EXPECT_NE(Look().find("\n5|W10 000000\n |C12 000000\nConclusion, 1|C10 808080\n"),
+              std::string::npos);
+    EXPECT_NE(ProofText.find("\t4 Conclusion, 1"), std::string::npos) << "the text keeps its 4";
+}
+
+TEST(Display, CommentsAndIntroductionAreBlueWithElementSigns) {
+    ASSERT_EQ(Build(EnterPremise("P")), "");
+    ProofText = "In @ s\r\n\r\n@ é\r\n\r\n" + ProofText;
+    IntroEnd = 6;
+    ShiftIndexes(StmtTable[1], 18);
+    StmtTable[1].StartLine = 11;
+    StmtTable[1].EndUserComment = 14;
+    RelayoutViewer();
+    ResetFonts();
+    EXPECT_EQ(Look().substr(0, 86),
+              "In |C12 000096\n"
+              "e|S12 000096\n"
+              " s|C12 000096\n"
+              "....|C12 000000\n"
+              "e|S12 000096\n"
+              " é|C12 000096\n");
+}
+
+// Only what changed is handed on: all else keeps its formats and its place.
+TEST(Display, HandsOnTheChangedRange) {
+    ASSERT_EQ(Build(EnterPremise("P & Q") + EnterPremise("R") + EnterPremise("S")), "");
+    Proof.RTB.TakeChange();
+    StmtTable[2].Highlight = false;
+    ResetFonts();
+    const SurfaceChange change = Proof.RTB.TakeChange();
+    EXPECT_TRUE(change.any);
+    EXPECT_GE(change.start, StmtTable[2].ViewerStartLine - 1);
+    EXPECT_LE(change.start + change.inserted, StmtTable[3].ViewerStartLine - 1);
+    ResetFonts();
+    EXPECT_FALSE(Proof.RTB.TakeChange().any);
+}
+
+TEST(Display, NamesInUseOutsideTheInnermostPremiseAreFixed) {
+    ASSERT_EQ(Build(EnterPremise("P(x)") + EnterPremise("Q(y)") + "choose optConclusion\n" +
+                    "choose Continue\n" + EnterPremise("R(x,y,z)")),
+              "");
+    EXPECT_EQ(StmtTable[4].FreeVars, " x y z ");
+    EXPECT_EQ(StmtTable[4].FixedVars, " x ") << "y occurs only inside a closed block";
+    bool isFixed = false;
+    FreeVarColourFont("x", 4, isFixed);
+    EXPECT_TRUE(isFixed);
+    StmtTable[1].Flagged = true;
+    FreeVarColourFont("x", 4, isFixed);
+    EXPECT_FALSE(isFixed) << "a statement about to go does not count";
+}
+
+TEST(SurfaceText, ElementSignsGoToAndFro) {
+    StartHeadless();
+    RichTextBox& surface = WorkArea.RTB;
+    surface.SetText("the @ e\t@");
+    ConvertAmpersand(surface, 1, surface.TextLength());
+    EXPECT_EQ(surface.GetText(), "the e e\te");
+    EXPECT_EQ(ConvertEpsilon(surface), "the @ e\t@") << "a letter e stays one";
+    ReformatWA(Black);
+    EXPECT_EQ(surface.GetText(), "the e ee");
+    EXPECT_EQ(ConvertEpsilon(surface), "the @ e@");
+}
+
+TEST(SurfaceText, CopyAndPasteKeepElementSigns) {
+    StartHeadless();
+    TestParser.Editor.Start();
+    RichTextBox& box = TestParser.RTB;
+    for (const bool rich : {true, false}) {
+        Proof.optRichTextMode.Checked = rich;
+        box.SetText("x@s & e");
+        ConvertAmpersand(box, 1, box.TextLength());
+        box.SelStart = 0;
+        box.SelLength = 3;
+        Copy(box);
+        EXPECT_EQ(Headless.ClipText, "x@s");
+        EXPECT_EQ(Headless.ClipRtf.empty(), !rich);
+        box.SelStart = box.TextLength();
+        Paste(box);
+        EXPECT_EQ(ConvertEpsilon(box), "x@s & ex@s");
+        EXPECT_EQ(box.GetSelStart(), 10);
+    }
+}
+
+}  // namespace
+}  // namespace tessaryn
