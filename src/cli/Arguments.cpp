@@ -32,7 +32,7 @@ std::string_view Arguments::NextWord() const {
 std::string Arguments::Word() {
     if (Empty()) throw ActionFailed{"a word is missing at the end of the line"};
     if (TextFollows()) throw ActionFailed{"expected a word, not a string"};
-    const std::string word(NextWord());
+    std::string word(NextWord());
     rest_.remove_prefix(word.size());
     SkipBlanks();
     return word;

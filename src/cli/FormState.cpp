@@ -1,5 +1,7 @@
 #include "cli/FormState.h"
 
+#include <algorithm>
+
 namespace tessaryn {
 
 namespace {
@@ -8,6 +10,17 @@ const char* Sign(char character, const std::string& font, const SignTexts& signs
     if (font == "Symbol" && character == 'e') return signs.element;
     if (font == "Webdings" && character == '4') return signs.rightTriangle;
     if (font == "Webdings" && character == '5') return signs.upTriangle;
+    return nullptr;
+}
+
+const MenuItem* ParentOf(const MenuItem& item) {
+    for (const Control* control : item.Parent.Controls) {
+        const auto* title = dynamic_cast<const MenuItem*>(control);
+        if (title == nullptr) continue;
+        if (std::find(title->Items.begin(), title->Items.end(), &item) != title->Items.end()) {
+            return title;
+        }
+    }
     return nullptr;
 }
 
@@ -41,6 +54,13 @@ std::string ControlText(Control& control) {
         return option->Value ? "true" : "false";
     }
     return "";
+}
+
+bool CanReach(const Control& control) {
+    if (!control.Visible || !control.Enabled) return false;
+    const auto* item = dynamic_cast<const MenuItem*>(&control);
+    const MenuItem* title = item == nullptr ? nullptr : ParentOf(*item);
+    return title == nullptr || CanReach(*title);
 }
 
 }  // namespace tessaryn

@@ -1,4 +1,4 @@
-// What a form and its controls show, as text.
+// What a form and its controls show, as text, and which of them a user can reach.
 #pragma once
 
 #include <string>
@@ -24,5 +24,8 @@ std::string BoxText(RichTextBox& box);
 // A box's content, the caption of a label, button or menu item; "true" or "false" for a check box
 // or an option.
 std::string ControlText(Control& control);
+
+// Visible and enabled; of a menu item, every title above it as well.
+bool CanReach(const Control& control);
 
 }  // namespace tessaryn

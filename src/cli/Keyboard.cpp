@@ -26,17 +26,6 @@ bool TakesFocus(const Control& control) {
            dynamic_cast<const OptionButton*>(&control) != nullptr;
 }
 
-const MenuItem* ParentOf(const MenuItem& item) {
-    for (const Control* control : item.Parent.Controls) {
-        const auto* title = dynamic_cast<const MenuItem*>(control);
-        if (title == nullptr) continue;
-        if (std::find(title->Items.begin(), title->Items.end(), &item) != title->Items.end()) {
-            return title;
-        }
-    }
-    return nullptr;
-}
-
 std::string ShortcutName(const KeyEvent& key) {
     if (key.key == Key::Function) return "F" + std::to_string(key.number);
     if (key.key == Key::Char && key.ctrl) return "Ctrl+" + key.text;
@@ -188,13 +177,6 @@ Control* FocusOf(const Form& form) {
     auto first = std::find_if(form.Controls.begin(), form.Controls.end(),
                               [](const Control* control) { return TakesFocus(*control); });
     return first == form.Controls.end() ? nullptr : *first;
-}
-
-bool CanReach(const Control& control) {
-    if (!control.Visible || !control.Enabled) return false;
-    const auto* item = dynamic_cast<const MenuItem*>(&control);
-    const MenuItem* title = item == nullptr ? nullptr : ParentOf(*item);
-    return title == nullptr || CanReach(*title);
 }
 
 std::vector<KeyEvent> KeysOf(const std::string& text) {

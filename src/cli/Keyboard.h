@@ -21,9 +21,6 @@ bool KeyFromName(const std::string& name, KeyEvent& key);
 // One key pressed in a form.
 void PressKey(Form& form, const KeyEvent& key);
 
-// The item whose title, or the title above that, is hidden or disabled can't be chosen either.
-bool CanReach(const Control& control);
-
 // Replaces the content of a box as selecting all and typing would. The caret ends behind the text;
 // no event is sent if the text is there already. A one-line box leaves line feeds out.
 void ReplaceByTyping(Control& box, const std::string& text);

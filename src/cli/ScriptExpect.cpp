@@ -34,7 +34,7 @@ int TakeLine(Arguments& arguments) {
 }
 
 std::string TakeText(Arguments& arguments) {
-    const std::string text = arguments.Text();
+    std::string text = arguments.Text();
     arguments.End();
     return text;
 }

@@ -7,6 +7,7 @@
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
 #include "cli/Script.h"
+#include "document/Encoding.h"
 #include "document/Invariants.h"
 
 namespace tessaryn {
@@ -90,6 +91,15 @@ void RunToEnd(ScriptRun& run, const ScriptOptions& options) {
     Headless.NextStep = nullptr;
 }
 
+// A reason may hold words of a script that is no text at all.
+std::string OnOneLine(std::string text) {
+    text = ToUtf8(std::move(text));
+    for (char& character : text) {
+        if (static_cast<unsigned char>(character) < ' ' || character == '\x7f') character = ' ';
+    }
+    return text;
+}
+
 std::string LastBeep() {
     if (Headless.Beeps.empty() || Headless.Beeps.back().empty()) return "";
     return " (last beep: " + Headless.Beeps.back() + ")";
@@ -104,7 +114,7 @@ int RunScript(const std::string& script, const std::string& name, const ScriptOp
     run.checkDocument = options.checkDocument;
     RunToEnd(run, options);
     if (run.failure.empty()) return 0;
-    err << name << ':' << run.line << ": " << run.failure << LastBeep() << '\n';
+    err << name << ':' << run.line << ": " << OnOneLine(run.failure + LastBeep()) << '\n';
     return 1;
 }
 

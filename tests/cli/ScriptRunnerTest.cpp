@@ -46,6 +46,7 @@ TEST(ScriptRunner, ReadsLines) {
 }
 
 TEST(ScriptRunner, RefusesWhatItCannotRead) {
+    EXPECT_EQ(RunScript("\xff\x1b[2J").error, "script:1: there is no action ÿ [2J\n");
     ExpectFailures("", {
                            {"dance", "there is no action dance"},
                            {"echo", "expected a string in double quotes"},
