@@ -4,6 +4,7 @@
 
 #include "document/PutStmt.h"
 #include "document/Statement.h"
+#include "expr/Blanks.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
 #include "expr/Same.h"
@@ -25,15 +26,9 @@ int Length(const std::string& text) {
     return static_cast<int>(text.size());
 }
 
-void TrimBlanks(std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    const std::size_t last = text.find_last_not_of(' ');
-    text = first == std::string::npos ? "" : text.substr(first, last - first + 1);
-}
-
 // Brings NewStmtText into canonical form, with its tables. False if it does not parse.
 bool MakeCanonical() {
-    TrimBlanks(NewStmtText);
+    NewStmtText = Trim(NewStmtText);
     Parse();
     if (!ParseError.empty()) return false;
     NewStmtText = PrintExpression();
@@ -151,19 +146,8 @@ void InsertBlock(int line, const std::string& block) {
     ShowInsertLine();
 }
 
-}  // namespace
-
-bool StatementsFit(int count) {
-    if (count <= MaxStatements - StmtCount) return true;
-    ParseError = "Unable to process request";
-    SetPrompt(ParseError);
-    Beep("A proof holds at most " + std::to_string(MaxStatements) + " statements.");
-    return false;
-}
-
-void PutStmt() {
-    if (!StatementsFit(1)) return;
-    if (!MakeCanonical()) return ReportParseError();
+// Enters the canonical statement in NewStmtText and the tables.
+void PutCanonical() {
     const int line = InsertMode ? InsertLine : StmtCount + 1;
     StmtTable.insert(StmtTable.begin() + line, Statement());
     ++StmtCount;
@@ -179,11 +163,31 @@ void PutStmt() {
     Proof.RTB.SelStart = ViewerEndRule(At(line));
 }
 
+}  // namespace
+
+bool StatementsFit(int count) {
+    if (count <= MaxStatements - StmtCount) return true;
+    ParseError = "Unable to process request";
+    SetPrompt(ParseError);
+    Beep("A proof holds at most " + std::to_string(MaxStatements) + " statements.");
+    return false;
+}
+
+void PutStmt() {
+    if (!StatementsFit(1)) return;
+    if (!MakeCanonical()) return ReportParseError();
+    PutCanonical();
+}
+
 bool WriteStatement() {
     if (!StatementsFit(1)) return false;
+    if (!MakeCanonical()) {
+        ReportParseError();
+        return false;
+    }
     BackUpUndo();
-    PutStmt();
-    return ParseError.empty();
+    PutCanonical();
+    return true;
 }
 
 }  // namespace tessaryn
