@@ -14,41 +14,39 @@ namespace {
 constexpr Colour ErrorRed = Rgb(255, 0, 0);
 
 struct PaletteRow {
-    MenuItem EditorMenus::*item;
-    const char* name;
+    PaletteEntry entry;
     const char* caption;
-    const char* text;
-    int caretMove;  // from the front of the inserted text
 };
 
 using M = EditorMenus;
 
-// The element sign and the complement, which insert no plain text, follow in the constructor.
-const PaletteRow Palette[] = {
-    {&M::optAnd, "optAnd", "And                               &&", "&", 1},
-    {&M::optOr, "optOr", "Or                                  |", "|", 1},
-    {&M::optNot, "optNot", "Not                                ~", "~", 1},
-    {&M::optImplies, "optImplies", "Implies                           =>", "=>", 2},
-    {&M::optIff, "optIff", "If and only if                   <=>", "<=>", 3},
-    {&M::optALL, "optALL", "Universal Quantifier       ALL([var]):           Ctrl+A", "ALL():", 4},
-    {&M::optExist, "optExist", "Existential Quantifier     EXIST([var]):       Ctrl+E",
-     "EXIST():", 6},
-    {&M::optUnion, "optUnion", "Union                             ||", "||", 2},
-    {&M::optIntersection, "optIntersection", "Intersection                    &&&&", "&&", 2},
-    {&M::optEqual, "optEqual", "Equal                             =", "=", 1},
-    {&M::optLessThan, "optLessThan", "Less than                       <", "<", 1},
-    {&M::optGreaterThan, "optGreaterThan", "Greater than                  >", ">", 1},
-    {&M::optLessThanOrEqual, "optLessThanOrEqual", "Less than or equal         <=", "<=", 2},
-    {&M::optGreaterThanOrEqual, "optGreaterThanOrEqual", "Greater than or equal    >=", ">=", 2},
-    {&M::optAdd, "optAdd", "Add                                +", "+", 1},
-    {&M::optSubtract, "optSubtract", "Subtract                         -", "-", 1},
-    {&M::optMultiply, "optMultiply", "Multiply                          *", "*", 1},
-    {&M::optDivide, "optDivide", "Divide                            /", "/", 1},
-    {&M::optExponent, "optExponent", "Exponent                       ^", "^", 1},
-    {&M::optNegative, "optNegative", "Negative                        _", "_", 1},
-    {&M::optSum, "optSum", "Summation  SUM([var],[start],[end]):         Ctrl+S", "SUM(,,):", 4},
-    {&M::optProd, "optProd", "Product       PROD([var],[start],[end]):       Ctrl+P",
-     "PROD(,,):", 5},
+const PaletteRow StandardPalette[] = {
+    {{&M::optAnd, "optAnd", "&"}, "And                               &&"},
+    {{&M::optOr, "optOr", "|"}, "Or                                  |"},
+    {{&M::optNot, "optNot", "~"}, "Not                                ~"},
+    {{&M::optImplies, "optImplies", "=>"}, "Implies                           =>"},
+    {{&M::optIff, "optIff", "<=>"}, "If and only if                   <=>"},
+    {{&M::optALL, "optALL", "ALL():"}, "Universal Quantifier       ALL([var]):           Ctrl+A"},
+    {{&M::optExist, "optExist", "EXIST():"},
+     "Existential Quantifier     EXIST([var]):       Ctrl+E"},
+    {{&M::optUnion, "optUnion", "||"}, "Union                             ||"},
+    {{&M::optIntersection, "optIntersection", "&&"}, "Intersection                    &&&&"},
+    {{&M::optEqual, "optEqual", "="}, "Equal                             ="},
+    {{&M::optLessThan, "optLessThan", "<"}, "Less than                       <"},
+    {{&M::optGreaterThan, "optGreaterThan", ">"}, "Greater than                  >"},
+    {{&M::optLessThanOrEqual, "optLessThanOrEqual", "<="}, "Less than or equal         <="},
+    {{&M::optGreaterThanOrEqual, "optGreaterThanOrEqual", ">="}, "Greater than or equal    >="},
+    {{&M::optAdd, "optAdd", "+"}, "Add                                +"},
+    {{&M::optSubtract, "optSubtract", "-"}, "Subtract                         -"},
+    {{&M::optMultiply, "optMultiply", "*"}, "Multiply                          *"},
+    {{&M::optDivide, "optDivide", "/"}, "Divide                            /"},
+    {{&M::optExponent, "optExponent", "^"}, "Exponent                       ^"},
+    {{&M::optNegative, "optNegative", "_"}, "Negative                        _"},
+    {{&M::optSum, "optSum", "SUM(,,):"}, "Summation  SUM([var],[start],[end]):         Ctrl+S"},
+    {{&M::optProd, "optProd", "PROD(,,):"},
+     "Product       PROD([var],[start],[end]):       Ctrl+P"},
+    {{&M::optelement, "optelement", "@"}, "Element of                      @"},
+    {{&M::optComplement, "optComplement", ""}, "Set Complement              ` (left quote)"},
 };
 
 struct EditRow {
@@ -71,6 +69,13 @@ void Name(MenuItem& item, MenuItem& title, const char* name, const char* caption
     item.Name = name;
     item.Caption = caption;
     title.Items.push_back(&item);
+}
+
+const PaletteEntry& EntryFor(const PaletteEntry& standard, std::span<const PaletteEntry> changes) {
+    const auto change =
+        std::find_if(changes.begin(), changes.end(),
+                     [&](const PaletteEntry& entry) { return entry.item == standard.item; });
+    return change == changes.end() ? standard : *change;
 }
 
 }  // namespace
@@ -141,7 +146,7 @@ void SelectionExtension::ButtonUp(Timer& timer) {
 
 // --- menus
 
-EditorMenus::EditorMenus(Form& form)
+EditorMenus::EditorMenus(Form& form, std::span<const PaletteEntry> changes)
     : mnuEdit(form, "mnuEdit", "&Edit"),
       optUndo(form, ""),
       optRedo(form, ""),
@@ -176,11 +181,11 @@ EditorMenus::EditorMenus(Form& form)
       optelement(form, ""),
       optComplement(form, "") {
     for (const EditRow& row : EditItems) Name(this->*row.item, mnuEdit, row.name, row.caption);
-    for (const PaletteRow& row : Palette) {
-        Name(this->*row.item, mnuNotation, row.name, row.caption);
+    for (const PaletteRow& row : StandardPalette) {
+        const PaletteEntry& entry = EntryFor(row.entry, changes);
+        Name(this->*entry.item, mnuNotation, entry.name, row.caption);
+        Palette.push_back({&(this->*entry.item), entry.text});
     }
-    Name(optelement, mnuNotation, "optelement", "Element of                      @");
-    Name(optComplement, mnuNotation, "optComplement", "Set Complement              ` (left quote)");
     form.MenuBar = {&mnuEdit, &mnuNotation};
 }
 
@@ -188,17 +193,12 @@ EditorMenus::EditorMenus(Form& form)
 
 ExpressionEditor::ExpressionEditor(RichTextBox& box, EditorMenus& menus, Timer& timer)
     : box_(box), menus_(menus), timer_(timer) {
-    for (const PaletteRow& row : Palette) {
-        (menus.*row.item).Click = [this, &row] {
-            RunHandler([&] { Insert(row.text, row.caretMove); });
-        };
+    for (const auto& [item, text] : menus.Palette) {
+        item->Click = [this, text = std::string(text)] { RunHandler([&] { Insert(text); }); };
     }
     const auto bind = [this](MenuItem& item, void (ExpressionEditor::*command)()) {
         item.Click = [this, command] { RunHandler([&] { (this->*command)(); }); };
     };
-    bind(menus.optelement, &ExpressionEditor::InsertElementSign);
-    // The character itself is typed: the item only shows it.
-    bind(menus.optComplement, &ExpressionEditor::DisableUndo);
     bind(menus.optUndo, &ExpressionEditor::Undo);
     bind(menus.optRedo, &ExpressionEditor::Redo);
     bind(menus.optCut, &ExpressionEditor::Cut);
@@ -238,17 +238,26 @@ void ExpressionEditor::DisableUndo() {
 }
 
 void ExpressionEditor::Start() {
+    Empty();
+    box_.SetFocus();
+    DisableUndo();
+}
+
+// What is typed next must not take the look of what was there.
+void ExpressionEditor::Empty() {
     box_.TextRTF = "";
     box_.SelFontName = StatementFont;
     box_.SelColor = Black;
     box_.SelBold = false;
     box_.SelFontSize = StmtFontSize;
-    box_.SetFocus();
-    DisableUndo();
+}
+
+std::string ExpressionEditor::WholeExpression() {
+    return ConvertEpsilon(box_);
 }
 
 std::string ExpressionEditor::Expression() {
-    std::string text = ConvertEpsilon(box_);
+    std::string text = WholeExpression();
     while (text.starts_with("\r\n")) text.erase(0, 2);
     while (text.ends_with("\r\n")) text.erase(text.size() - 2);
     return text;
@@ -267,23 +276,36 @@ void ExpressionEditor::MarkParseError() {
     std::string lexError;
     int lexErrorPos = 0;
     Lex(NewStmtText, tokens, lexError, lexErrorPos);
-    const auto token =
-        std::find_if(tokens.begin() + 1, tokens.end(),
-                     [](const TokenRec& rec) { return rec.Position == ParseErrorPos; });
-    if (token != tokens.end()) {
-        box_.SelStart = ParseErrorPos - 1;
-        box_.SelLength = static_cast<int>(token->Token.size());
-        box_.SelColor = ErrorRed;
-    }
+    const auto token = std::find_if(tokens.begin() + 1, tokens.end(), [](const TokenRec& rec) {
+        return rec.Position == ParseErrorPos;
+    });
+    if (token != tokens.end()) MarkRed(*token);
     box_.SelStart = ParseErrorPos - 1;
 }
 
-void ExpressionEditor::Insert(const std::string& text, int caretMove) {
+void ExpressionEditor::MarkName(const std::string& name) {
+    const auto token = std::find_if(TokenTable.begin() + 1, TokenTable.end(),
+                                    [&](const TokenRec& rec) { return rec.Token == name; });
+    if (token != TokenTable.end()) MarkRed(*token);
+}
+
+void ExpressionEditor::MarkRed(const TokenRec& token) {
+    box_.SelStart = token.Position - 1;
+    box_.SelLength = static_cast<int>(token.Token.size());
+    box_.SelColor = ErrorRed;
+    box_.SelStart = token.Position - 1;
+}
+
+void ExpressionEditor::Insert(const std::string& text) {
+    if (text.empty()) return DisableUndo();
+    if (text == "@") return InsertElementSign();
     box_.SelText = "";
     const int caret = box_.SelStart;
+    const std::size_t bracket = text.find('(');
+    const std::size_t caretMove = bracket == std::string::npos ? text.size() : bracket + 1;
     box_.SelFontName = StatementFont;
     box_.SelText = text;
-    box_.SelStart = caret + caretMove;
+    box_.SelStart = caret + static_cast<int>(caretMove);
     box_.SetFocus();
     DisableUndo();
 }
@@ -331,7 +353,7 @@ void ExpressionEditor::Delete() {
 
 void ExpressionEditor::Clear() {
     SaveForUndo();
-    box_.TextRTF = "";
+    Empty();
     box_.SetFocus();
 }
 

@@ -5,8 +5,11 @@
 // names of those differ from form to form.
 #pragma once
 
+#include <span>
 #include <string>
+#include <vector>
 
+#include "expr/Expression.h"
 #include "platform/Controls.h"
 #include "platform/RichTextBox.h"
 
@@ -33,15 +36,33 @@ struct SelectionExtension {
     bool done = false;  // has reached a line end; stays until the button comes up
 };
 
+struct PaletteEntry;
+
 // The two menus of an editing dialogue: editing commands and palette.
 struct EditorMenus {
-    explicit EditorMenus(Form& form);
+    // changes: where the palette of this form differs.
+    explicit EditorMenus(Form& form, std::span<const PaletteEntry> changes = {});
 
     MenuItem mnuEdit, optUndo, optRedo, optCut, optCopy, optPaste, optDelete, optClear;
     MenuItem mnuNotation, optAnd, optOr, optNot, optImplies, optIff, optUnion, optIntersection,
         optEqual, optLessThan, optGreaterThan, optLessThanOrEqual, optGreaterThanOrEqual, optAdd,
         optSubtract, optMultiply, optDivide, optExponent, optNegative, optALL, optExist, optSum,
         optProd, optelement, optComplement;
+
+    struct Insertion {
+        MenuItem* item;
+        const char* text;
+    };
+    std::vector<Insertion> Palette;  // what each item of mnuNotation inserts
+};
+
+// An item of the palette under the name that it has in a form, and what it inserts at the caret:
+// "@" stands for the element sign, "" for nothing. The caret goes behind the text, or behind its
+// first "(".
+struct PaletteEntry {
+    MenuItem EditorMenus::*item;
+    const char* name;
+    const char* text;
 };
 
 class ExpressionEditor {
@@ -58,23 +79,31 @@ class ExpressionEditor {
 
     // The content as an expression, "@" for the element sign, without line breaks at its ends.
     std::string Expression();
+    // The same with all its line breaks, so that places in it are places in the box.
+    std::string WholeExpression();
 
     // Takes the red mark of an earlier failure away.
     void ClearMarks();
     // Marks the token of NewStmtText at ParseErrorPos red and puts the caret there.
     void MarkParseError();
+    // Marks the first token of that text of the expression in the tables in the same way.
+    void MarkName(const std::string& name);
+
+    // Empties the box, so that Undo brings the content back.
+    void Clear();
 
     void DisableUndo();
 
   private:
-    void Insert(const std::string& text, int caretMove);
+    void Insert(const std::string& text);
     void InsertElementSign();
     void SaveForUndo();
     void Undo();
     void Redo();
     void Cut();
     void Delete();
-    void Clear();
+    void Empty();
+    void MarkRed(const TokenRec& token);
     bool KeyDown(const KeyEvent& key);
     bool ControlKey(const std::string& letter);
     void SetUndoEnabled(bool undo, bool redo);
