@@ -6,6 +6,7 @@
 #include "expr/Expression.h"
 #include "expr/NameList.h"
 #include "expr/Same.h"
+#include "mainwindow/ActiveStmts.h"
 #include "mainwindow/RuleModes.h"
 #include "view/InsertMode.h"
 
@@ -98,10 +99,26 @@ bool IsGreen(const std::string& name, int stmt) {
     return HoldsName(At(stmt).FreeVars, name) && !HoldsName(At(stmt).FixedVars, name);
 }
 
+bool IsIntroducedOn(const std::string& name, int stmt) {
+    return IsGreen(name, stmt) || IsIntroducedByESpec(name, stmt);
+}
+
+std::string FirstUnknownName(const std::vector<std::string>& own) {
+    const std::vector<int> lines = ActiveLines();
+    for (const std::string& name : FreeNames()) {
+        const bool known = std::find(own.begin(), own.end(), name) != own.end() ||
+                           std::any_of(lines.begin(), lines.end(), [&](int line) {
+                               return HoldsName(At(line).FreeVars, name);
+                           });
+        if (!known) return name;
+    }
+    return "";
+}
+
 std::string CheckAxiomNames() {
     for (const std::string& name : FreeNames()) {
         for (int j = 1; j <= StmtCount; ++j) {
-            if (!IsGreen(name, j) && !IsIntroducedByESpec(name, j)) continue;
+            if (!IsIntroducedOn(name, j)) continue;
             return "Variable '" + name + "' was previously introduced on line " + Line(j);
         }
     }

@@ -20,6 +20,13 @@ std::vector<std::string> FreeNames();
 // Is a name in FreeVars and not in FixedVars of a statement, so introduced by its premise block?
 bool IsGreen(const std::string& name, int stmt);
 
+// The same, or is it the name that the statement, an E Spec, brings in?
+bool IsIntroducedOn(const std::string& name, int stmt);
+
+// The first free name of the expression in the tables that is neither in `own` nor free in an
+// active line; "" if there is none.
+std::string FirstUnknownName(const std::vector<std::string>& own);
+
 // Each of these gives "" or the message of the first failure.
 
 // Axiom: no free name may have been introduced in the proof already.
