@@ -1,0 +1,99 @@
+// E Gen and Substitute by Select All in a statement with 50 to 1,000 occurrences of a term, from
+// the click to the display model with the new statement.
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "cli/HeadlessPlatform.h"
+#include "document/PutStmt.h"
+#include "document/Statement.h"
+#include "expr/Expression.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "platform/Events.h"
+#include "rules/Generalize.h"
+#include "rules/Substitution.h"
+
+namespace tessaryn {
+namespace {
+
+void Write(const std::string& text) {
+    RuleMode = Rule::Axiom;
+    Arg1Pending = Arg2Pending = 0;
+    NewStmtText = text;
+    PutStmt();
+}
+
+// A conjunction of equations: many nodes of few types, each occurrence in one of them.
+std::string Equations(int count) {
+    std::string text = "f(x)=g(x)";
+    for (int i = 1; i < count; ++i) text += " & f(x)=g(x)";
+    return text;
+}
+
+// Line 1 is the equation, line 2 the statement.
+void Start(int count) {
+    StartHeadless();
+    Write("t=f(x)");
+    Write(Equations(count));
+}
+
+void ClickStatement(int line, int length = 0) {
+    const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+    SendClick(Proof.RTB, stmt.StartStmt - ViewOffset(stmt) - 1, length);
+}
+
+template <class Rule>
+void Measure(benchmark::State& state, Rule rule) {
+    Start(static_cast<int>(state.range(0)));
+    const auto table = StmtTable;
+    const std::string text = ProofText;
+    for (auto _ : state) {
+        rule();
+        benchmark::DoNotOptimize(Proof.RTB.TakeChange());
+        if (StmtCount != 3) state.SkipWithError("no statement was written");
+        state.PauseTiming();
+        StmtTable = table;
+        ProofText = text;
+        StmtCount = 2;
+        state.ResumeTiming();
+    }
+    state.SetComplexityN(state.range(0));
+}
+
+void GeneralizeAll(benchmark::State& state) {
+    Measure(state, [] {
+        Headless.NextStep = [] {
+            Generalize.BoundVarTextBox.Text = "v";
+            Generalize.BoundVarTextBox.Change();
+            SendChoose(Generalize.cmdSelectAll);
+            return SendChoose(Generalize.cmdContinue);
+        };
+        SendChoose(Proof.optEGen);
+        ClickStatement(2, 4);
+    });
+}
+
+void SubstituteAll(benchmark::State& state) {
+    Measure(state, [] {
+        Headless.NextStep = [] {
+            SendChoose(Substitution.cmdSelectAll);
+            return SendChoose(Substitution.cmdContinue);
+        };
+        SendChoose(Proof.optSubstitution);
+        ClickStatement(1);
+        ClickStatement(2);
+    });
+}
+
+void Sizes(benchmark::internal::Benchmark* bench) {
+    for (const int count : {50, 100, 200, 500, 1000}) bench->Arg(count);
+    bench->Unit(benchmark::kMillisecond)->Complexity(benchmark::oN);
+}
+
+BENCHMARK(GeneralizeAll)->Apply(Sizes);
+BENCHMARK(SubstituteAll)->Apply(Sizes);
+
+}  // namespace
+}  // namespace tessaryn
