@@ -23,6 +23,7 @@
 #include "mainwindow/RuleModes.h"
 #include "rules/Operands.h"
 #include "rules/Rules.h"
+#include "rules/VariableNames.h"
 #include "view/InsertMode.h"
 #include "view/Undo.h"
 
@@ -176,43 +177,13 @@ std::vector<std::string> BoundNames() {
 bool AskForNames() {
     const std::vector<std::string> names = BoundNames();
     if (names.empty()) return true;
-    std::string list = names.front();
-    for (std::size_t i = 1; i < names.size(); ++i) list += ", " + names[i];
     KeepAsSecond();
-    MyInputBox.Caption = "Conclusion Rule: Generalizing on " + list;
-    MyInputBox.Label1.Caption = names.size() == 1
-                                    ? "Enter name of bound variable"
-                                    : "Enter names of " + std::to_string(names.size()) +
-                                          " bound variables, separated by commas";
-    MyInputBox.Text1.Text = list;
+    MyInputBox.Caption = "Conclusion Rule: Generalizing on " + CommaList(names);
+    MyInputBox.Label1.Caption = AskForNamesText(names.size());
+    MyInputBox.Text1.Text = CommaList(names);
     MyInputBox.Label2.Caption.clear();
     ShowModal(MyInputBox);
     return RuleMode != 0;
-}
-
-// The entered names, from the parse in the tables; nothing if it is no list of `count` names.
-std::vector<std::string> EnteredNames(std::size_t count) {
-    std::vector<std::string> names;
-    const bool isList =
-        ParseTable.size() == 2 * count && (count == 1 || Root(ParseTable).Rule == Node::Ntuple);
-    for (std::size_t i = 1; isList && i <= count; ++i) {
-        if (ParseTable[i].Rule != Node::Atom) return {};
-        names.push_back(ParseTable[i].Name);
-    }
-    return names;
-}
-
-// StmtText2 with each old name replaced by the new one in its place.
-std::string Renamed(const std::vector<std::string>& oldNames,
-                    const std::vector<std::string>& newNames) {
-    std::string text = StmtText2;
-    for (auto token = TokenTable2.rbegin(); token != TokenTable2.rend(); ++token) {
-        const auto found = std::find(oldNames.begin(), oldNames.end(), token->Token);
-        if (found == oldNames.end()) continue;
-        text.replace(static_cast<std::size_t>(token->Position - 1), token->Token.size(),
-                     newNames[static_cast<std::size_t>(found - oldNames.begin())]);
-    }
-    return text;
 }
 
 // --- the steps
@@ -257,14 +228,13 @@ void ResetConclusion() {
 
 void ContinueConclusion() {
     const std::vector<std::string> oldNames = BoundNames();
-    const char* invalid =
-        oldNames.size() == 1 ? "Invalid bound variable" : "Invalid list of bound variables";
+    const char* invalid = InvalidNamesText(oldNames.size());
     NewStmtText = MyInputBox.Text1.Text;
     Parse();
     if (!ParseError.empty()) return RefuseEntry(invalid);
     const std::vector<std::string> newNames = EnteredNames(oldNames.size());
     if (newNames.empty()) return RefuseEntry(invalid);
-    const std::string text = Renamed(oldNames, newNames);
+    const std::string text = ReplaceNames(StmtText2, TokenTable2, oldNames, newNames);
     if (!Same(StmtText2, text)) {
         return RefuseEntry("New bound variable already used in premise or last statement");
     }
