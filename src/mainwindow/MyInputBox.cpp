@@ -20,6 +20,9 @@ struct InputMode {
 
 const InputMode InputModes[] = {
     {Rule::Conclusion, ContinueConclusion, true},
+    {Rule::ESpec, ContinueESpec},
+    {Rule::Rename, ContinueRename, true},
+    {Rule::Reorder, ContinueReorder, true},
 };
 
 const InputMode* FindMode(int ruleMode) {

@@ -8,6 +8,7 @@
 #include "output/SaveChanges.h"
 #include "rules/Generalize.h"
 #include "rules/Substitution.h"
+#include "rules/modCases.h"
 #include "rules/modConclusion.h"
 #include "view/Display.h"
 #include "view/InsertMode.h"
@@ -36,6 +37,7 @@ void StartProgram() {
     CheckStoredText();
     ResetUndo();
     ResetConclusion();
+    CasesOr = {};
     GenExpression.clear();
     GenParseTable.assign(1, {});
     SubstEquation.clear();

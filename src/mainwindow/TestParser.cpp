@@ -31,9 +31,9 @@ struct EntryMode {
 };
 
 const EntryMode EntryModes[] = {
-    {Rule::Premise, CheckPremise},
-    {Rule::Axiom, CheckAxiom},
-    {Rule::Reflex, AcceptReflexTerm},
+    {Rule::Premise, CheckPremise}, {Rule::Axiom, CheckAxiom},        {Rule::USpec, AcceptUSpec},
+    {Rule::ArbOr, AcceptArbOr},    {Rule::ArbAnte, AcceptArbAnte},   {Rule::ArbCons, AcceptArbCons},
+    {Rule::OrNot, AcceptOrNot},    {Rule::Reflex, AcceptReflexTerm},
 };
 
 bool KeepsHint(int ruleMode) {

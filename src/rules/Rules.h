@@ -12,12 +12,31 @@ inline constexpr const char* JoinPrompt = "Join:  Click any active statement (1s
 void Premise();
 void Axiom();
 void Conclusion();
+void OrNot();
+
+// Make Arb Or pending for one side.
+void ArbOrLeftCommand();
+void ArbOrRightCommand();
 void Reflexivity();
 
 // Click rules. firstClick: the first of two clicks is awaited; the rule changes it.
 void Join(bool& firstClick);
 void Split();
 void Detach(bool& firstClick);
+void Cases(bool& firstClick);
+void Spec();
+void ImpliesAnd();
+void ImpliesOr();
+void Contrapostive();
+void DeMorgan();
+void IffSplit();
+void RemDNeg();
+void Quant();
+void ArbOr();
+void ArbPrecedent();   // Arb Ante
+void ArbAntecedent();  // Arb Cons
+void Rename();
+void Reorder();
 void ExistGenSelect();
 void Subsitute(bool& firstClick);
 void Symmetry();
@@ -26,8 +45,20 @@ void Symmetry();
 // variables and puts the renamed statement into NewStmtText. Hides the box when all is well.
 void ContinueConclusion();
 
+// The same for E Spec, Rename and Reorder: check the entry, write the statement, hide the box.
+void ContinueESpec();
+void ContinueRename();
+void ContinueReorder();
+
 // What `Continue` of TestParser does for Reflex with an entry that parses: checks the term and
 // writes the statement. Gives "" or the message of the refusal.
 std::string AcceptReflexTerm();
+
+// The same for U Spec and the rules with an operand of the user's own choice.
+std::string AcceptUSpec();
+std::string AcceptArbOr();
+std::string AcceptArbAnte();
+std::string AcceptArbCons();
+std::string AcceptOrNot();
 
 }  // namespace tessaryn

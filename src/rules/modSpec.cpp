@@ -1,0 +1,154 @@
+// Specification: takes the leading quantifier of a statement away.
+//
+//   E Spec: from EXIST(x):P, writes P with a name for x that is not in use yet
+//   U Spec: from ALL(x):P, writes P with a term for x whose names are all in use
+//
+// One click, on any active statement that begins with a quantifier. Then the name is asked for in
+// MyInputBox, the term in TestParser.
+#include <string>
+#include <vector>
+
+#include "document/PutStmt.h"
+#include "document/Statement.h"
+#include "expr/NameList.h"
+#include "expr/Parse.h"
+#include "expr/Same.h"
+#include "mainwindow/ActiveStmts.h"
+#include "mainwindow/EntryChecks.h"
+#include "mainwindow/MyInputBox.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "mainwindow/TermChecks.h"
+#include "mainwindow/TestParser.h"
+#include "rules/Operands.h"
+#include "rules/Rules.h"
+#include "rules/VariableNames.h"
+#include "view/InsertMode.h"
+
+namespace tessaryn {
+namespace {
+
+void AskForName(int line) {
+    MyInputBox.Caption = " E Spec Rule: Line " + std::to_string(line);
+    MyInputBox.Label1.Caption = "Enter the name of a new free variable:";
+    MyInputBox.Label2.Caption = "Suggestion: Use letters k-z for free variables";
+    ShowModal(MyInputBox);
+}
+
+void AskForTerm(int line) {
+    TestParser.Caption = "U Spec Rule, Line " + std::to_string(line) +
+                         ": Enter a free variable expression in active statement";
+    TestParser.StatusLine.Caption =
+        "Use only expressions with previously introduced free variables or constants";
+    ShowModal(TestParser);
+}
+
+// The clicked statement without its quantifier.
+Expression Body() {
+    return ParseExpression(Cut(StmtText2, SpanOfNode(TokenTable2, Root(ParseTable2).Ptr2)));
+}
+
+// Puts the term for the variable. No inner quantifier binds the same name, so that every occurrence
+// is meant.
+std::string Specified(const Expression& body, const std::string& term) {
+    return ReplaceNames(body.text, body.tokens, {BoundVarName}, {term});
+}
+
+// --- E Spec
+
+// The line that a name is in use on, 0 if none: the highest active one, or the first one behind the
+// insertion point, where a closed block counts as well.
+int LineThatUses(const std::string& name) {
+    const auto uses = [&](int line) {
+        return HoldsName(StmtTable[static_cast<std::size_t>(line)].FreeVars, name);
+    };
+    const std::vector<int> lines = ActiveLines();
+    for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
+        if (uses(*line)) return *line;
+    }
+    for (int line = InsertMode ? InsertLine : StmtCount + 1; line <= StmtCount; ++line) {
+        if (uses(line)) return line;
+    }
+    return 0;
+}
+
+// Does a quantifier inside the clicked statement bind the name?
+bool IsBoundInside(const std::string& name) {
+    for (int n = RootIndex(ParseTable2) - 1; n >= 1; --n) {
+        const ParseRec& node = NodeAt(ParseTable2, n);
+        if (node.Rule != Node::ALL && node.Rule != Node::EXIST) continue;
+        if (NodeAt(ParseTable2, node.Ptr1).Name == name) return true;
+    }
+    return false;
+}
+
+// The message of a name that can't be taken; "" if it can.
+std::string CheckNewName(const std::string& name) {
+    if (IsBoundInside(name)) return "Inconsistent usage of free variable in this statement";
+    const int line = LineThatUses(name);
+    return line == 0 ? "" : "Free variable already used in statement " + std::to_string(line);
+}
+
+}  // namespace
+
+void Spec() {
+    int line = 0;
+    GetActiveStmt(line, NewStmtText);
+    if (line == 0) return BeepNoActiveStmt();
+    Arg1Pending = line;
+    Arg2Pending = 0;
+    Parse();
+    if (!ParseError.empty()) return SetPrompt("PARSER ERROR: " + ParseError);
+    const ParseRec& root = Root(ParseTable);
+    if (root.Rule != Node::ALL && root.Rule != Node::EXIST) {
+        return BeepAtLine(line,
+                          "does not begin with a quantifier over the whole of it: Specify "
+                          "needs ALL or EXIST as its outermost sign.");
+    }
+    RuleMode = root.Rule == Node::EXIST ? Rule::ESpec : Rule::USpec;
+    SetPrompt("");
+    BoundVarName = NodeAt(ParseTable, root.Ptr1).Name;
+    KeepAsSecond();
+    if (RuleMode == Rule::ESpec) {
+        AskForName(line);
+    } else {
+        AskForTerm(line);
+    }
+    RuleMode = 0;
+}
+
+void ContinueESpec() {
+    NewStmtText = MyInputBox.Text1.Text;
+    Parse();
+    if (!ParseError.empty() || ParseTable.size() != 2 || Root(ParseTable).Rule != Node::Atom) {
+        return RefuseEntry("Invalid variable name");
+    }
+    const std::string name = Root(ParseTable).Name;
+    if (const std::string fault = CheckNewName(name); !fault.empty()) return RefuseEntry(fault);
+    SpecName = name;
+    NewStmtText = Specified(Body(), name);
+    Parse();
+    if (!ParseError.empty()) return RefuseEntry("PARSER ERROR: " + ParseError);
+    if (!WriteStatement()) return RefuseEntry(ParseError);
+    RuleMode = 0;
+    MyInputBox.Hide();
+}
+
+std::string AcceptUSpec() {
+    EnteredTerm term;
+    if (const std::string fault = CheckTerm(TokenTable2, term); !fault.empty()) return fault;
+    const Expression body = Body();
+    NewStmtText = Specified(body, term.isName ? term.text : "(" + term.text + ")");
+    const bool restsOnFooting = !term.isName && HoldsName(FreeVarsOf(body), BoundVarName);
+    Arg2Pending = restsOnFooting ? term.footing : 0;
+    Parse();
+    if (!ParseError.empty()) {
+        return "Invalid substitution for function name '" + BoundVarName + "'";
+    }
+    if (!WriteStatement()) return ParseError;
+    RuleMode = 0;
+    return "";
+}
+
+}  // namespace tessaryn
