@@ -130,7 +130,7 @@ Binding BindByKind(Control& control, QWidget* parent, WindowKind kind) {
 QString ItemText(const MenuItem& item) {
     static const QRegularExpression lastColumn(QStringLiteral("^(.*\\S) {2,}(\\S.*?) *$"));
     const QString caption = ToQt(item.Caption);
-    if (!item.Shortcut.empty() || !item.Items.empty()) return caption;
+    if (!item.Shortcut.empty()) return caption;
     const auto columns = lastColumn.match(caption);
     if (!columns.hasMatch()) return caption;
     return columns.captured(1) + QLatin1Char('\t') + columns.captured(2);
