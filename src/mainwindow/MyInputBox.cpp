@@ -1,5 +1,6 @@
 #include "mainwindow/MyInputBox.h"
 
+#include "axioms/Axioms.h"
 #include "expr/Expression.h"
 #include "mainwindow/EntryChecks.h"
 #include "mainwindow/ProgramState.h"
@@ -19,6 +20,13 @@ struct InputMode {
 };
 
 const InputMode InputModes[] = {
+    {Rule::CartProd, ContinueAxiomScheme},
+    {Rule::PowerSet, ContinueAxiomScheme},
+    {Rule::SetEquality, ContinueAxiomScheme},
+    {Rule::NtupleEquality, ContinueAxiomScheme},
+    {Rule::Function, ContinueAxiomScheme},
+    {Rule::FnSpace, ContinueAxiomScheme},
+    {Rule::FnEquality, ContinueAxiomScheme},
     {Rule::Conclusion, ContinueConclusion, true},
     {Rule::ESpec, ContinueESpec},
     {Rule::Rename, ContinueRename, true},

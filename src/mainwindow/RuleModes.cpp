@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "axioms/Axioms.h"
 #include "document/PutStmt.h"
 #include "document/Statement.h"
 #include "expr/Parse.h"
@@ -53,7 +54,7 @@ const std::array<RuleRow, RuleCount + 1> RuleTable = {{
      [] { Detach(FirstClick); }},
     {17, "Iff-And", "Iff - And:  Click on any <=> or equivalent & in any active statement", false,
      IffSplit},
-    {18, "Subset", "Subset:  Click any active SET-statement"},
+    {18, "Subset", "Subset:  Click any active SET-statement", false, Subset},
     {19, "Imply-And", "Implies - And:  Click on => or & in any active statement", false,
      ImpliesAnd},
     {20, "Contra", "Contra:  Click on => in any active statement", false, Contrapostive},

@@ -1,3 +1,5 @@
+#include "axioms/InductionForm.h"
+#include "axioms/SubsetFrm.h"
 #include "document/Statement.h"
 #include "expr/Expression.h"
 #include "mainwindow/ExpressionEditor.h"
@@ -40,6 +42,8 @@ void StartProgram() {
     CasesOr = {};
     GenExpression.clear();
     GenParseTable.assign(1, {});
+    SubsetPrimes = 0;
+    SubsetParent.clear();
     SubstEquation.clear();
     SubstSource.clear();
     SubstTarget.clear();
@@ -49,6 +53,8 @@ void StartProgram() {
     Restart(MyInputBox);
     Restart(Generalize);
     Restart(Substitution);
+    Restart(SubsetFrm);
+    Restart(InductionForm);
     Restart(SaveChanges);
     Restart(WorkArea);
 }

@@ -1,0 +1,168 @@
+#include "axioms/InductionForm.h"
+
+#include <algorithm>
+
+#include "document/PutStmt.h"
+#include "expr/Blanks.h"
+#include "expr/Parse.h"
+#include "mainwindow/EntryChecks.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "rules/Operands.h"
+#include "rules/VariableNames.h"
+#include "view/Display.h"
+
+namespace tessaryn {
+namespace {
+
+const char* const InvalidVariable = "Invalid bound variable";
+
+using M = EditorMenus;
+
+const PaletteEntry InductionPalette[] = {
+    {&M::optALL, "optUniversal", "ALL():"},
+    {&M::optExist, "optExistential", "EXIST():"},
+    {&M::optSum, "optSum", "SUM( , , ):"},
+    {&M::optProd, "optProd", "PROD( , , ):"},
+    {&M::optLessThanOrEqual, "optLessThanOrEqaul", "<="},
+    {&M::optComplement, "optComplement", "`"},
+};
+
+// The property in NewStmtText and the tables, for a term in the place of the variable.
+std::string PropertyOf(const std::string& var, const std::string& term) {
+    const std::string text = ReplaceNames(NewStmtText, TokenTable, {var}, {term});
+    const int root = Root(ParseTable).Rule;
+    return root >= Node::LAnd && root <= Node::Iff ? "[" + text + "]" : text;
+}
+
+// P(1) & ALL(k):[k @ n & P(k) => P(k+1)] => ALL(k):[k @ n => P(k)]
+std::string InductionText(const std::string& var) {
+    const std::string property = PropertyOf(var, var);
+    const std::string head = "ALL(" + var + "):[" + var + "@n";
+    return PropertyOf(var, "1") + "\r\n& " + head + "&" + property + "=>" +
+           PropertyOf(var, "(" + var + "+1)") + "]\r\n=> " + head + "=>" + property + "]";
+}
+
+bool BindsOne() {
+    return std::any_of(TokenTable.begin(), TokenTable.end(),
+                       [](const TokenRec& token) { return token.Bound && token.Token == "1"; });
+}
+
+}  // namespace
+
+InductionDialogue::InductionDialogue()
+    : Form("InductionForm", " Induction Shortcut"), Menus(*this, InductionPalette) {
+    const auto on = [this](EventHandler& event, void (InductionDialogue::*handler)()) {
+        event = [this, handler] { RunHandler([&] { (this->*handler)(); }); };
+    };
+    on(Menus.optClear.Click, &InductionDialogue::Reset);
+    on(cmdReset.Click, &InductionDialogue::Reset);
+    on(cmdContinue.Click, &InductionDialogue::Continue);
+    on(cmdCancel.Click, &InductionDialogue::Cancel);
+    SaveRTB.Visible = false;
+}
+
+// Undo brings back what was entered at the last use.
+void InductionDialogue::Activated() {
+    SetPrompt("");
+    BoundVarTextBox.FontSize = StmtFontSize;
+    Reset();
+}
+
+bool InductionDialogue::KeyPressed(const KeyEvent& key) {
+    if (key.key != Key::Esc) return false;
+    Cancel();
+    return true;
+}
+
+void InductionDialogue::CloseRequested() {
+    Cancel();
+}
+
+void InductionDialogue::Cancel() {
+    RuleMode = 0;
+    Hide();
+}
+
+void InductionDialogue::Reset() {
+    SaveRTB.TextRTF = RTB.TextRTF;
+    Editor.Clear();
+    BoundVarTextBox.Text.clear();
+    BoundVarTextBox.SelStart = BoundVarTextBox.SelLength = 0;
+    StatusLine.Caption.clear();
+    BoundVarTextBox.SetFocus();
+}
+
+// --- the entries, each with its checks; false after a refusal
+
+bool InductionDialogue::RefuseVar(const std::string& message) {
+    StatusLine.Caption = message;
+    Beep(message);
+    BoundVarTextBox.SetFocus();
+    return false;
+}
+
+bool InductionDialogue::RefuseProperty(const std::string& message) {
+    StatusLine.Caption = message;
+    Beep(message);
+    RTB.SetFocus();
+    return false;
+}
+
+bool InductionDialogue::TakeBoundVar() {
+    BoundVarTextBox.Text = Trim(BoundVarTextBox.Text);
+    if (const std::string fault = ForbiddenCharacter(BoundVarTextBox.Text); !fault.empty()) {
+        return RefuseVar(fault);
+    }
+    const Expression entry = ParseExpression(BoundVarTextBox.Text);
+    if (!entry.error.empty() || entry.nodes.size() != 2 || Root(entry.nodes).Rule != Node::Atom) {
+        return RefuseVar(InvalidVariable);
+    }
+    var_ = Root(entry.nodes).Name;
+    return var_ != "1" && var_ != "n" ? true : RefuseVar(InvalidVariable);
+}
+
+bool InductionDialogue::TakeProperty() {
+    Editor.ClearMarks();
+    RTB.SelStart = 0;
+    NewStmtText = Editor.WholeExpression();
+    if (const std::string fault = ForbiddenCharacter(NewStmtText); !fault.empty()) {
+        return RefuseProperty(fault);
+    }
+    Parse();
+    if (!ParseError.empty()) {
+        Editor.MarkParseError();
+        return RefuseProperty(ParseError);
+    }
+    if (const std::string fault = ForbiddenName(); !fault.empty()) return RefuseProperty(fault);
+    if (!RootIsLogical()) return RefuseProperty("Expecting a logical expression");
+    return CheckPropertyNames();
+}
+
+bool InductionDialogue::CheckPropertyNames() {
+    const std::string name = FirstUnknownName({var_});
+    if (!name.empty()) {
+        return RefuseProperty("Variable '" + name + "' not found in an axiom or active premise");
+    }
+    // Put in for the variable, the number 1 would be caught.
+    if (!BindsOne()) return true;
+    Editor.MarkName("1");
+    return RefuseProperty(InvalidVariable);
+}
+
+void InductionDialogue::Continue() {
+    StatusLine.Caption.clear();
+    if (!TakeBoundVar() || !TakeProperty()) return;
+    NewStmtText = InductionText(var_);
+    Parse();
+    if (!ParseError.empty()) {
+        RefuseVar(InvalidVariable);
+    } else if (!WriteStatement()) {
+        RefuseProperty(ParseError);
+    } else {
+        Cancel();
+    }
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,38 @@
+#include "axioms/NamesInUse.h"
+
+#include <algorithm>
+
+#include "document/Statement.h"
+#include "expr/NameList.h"
+#include "mainwindow/ActiveStmts.h"
+#include "mainwindow/RuleModes.h"
+
+namespace tessaryn {
+namespace {
+
+template <class Counts>
+bool EachIsFree(const std::vector<std::string_view>& names, Counts counts) {
+    std::vector<const Statement*> stmts;
+    for (const int line : ActiveLines()) {
+        const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+        if (counts(stmt)) stmts.push_back(&stmt);
+    }
+    return std::all_of(names.begin(), names.end(), [&](std::string_view name) {
+        return std::any_of(stmts.begin(), stmts.end(),
+                           [&](const Statement* stmt) { return HoldsName(stmt->FreeVars, name); });
+    });
+}
+
+}  // namespace
+
+bool PremisesHold(const std::vector<std::string_view>& names) {
+    return EachIsFree(names, IsOpenPremise);
+}
+
+bool AxiomsOrPremisesHold(const std::vector<std::string_view>& names) {
+    return EachIsFree(names, [](const Statement& stmt) {
+        return stmt.Rule == Rule::Axiom || IsOpenPremise(stmt);
+    });
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,12 @@
+// The axiom of a scheme for one number.
+#pragma once
+
+#include <string>
+
+#include "axioms/AxiomTexts.h"
+
+namespace tessaryn {
+
+std::string SchemeText(const AxiomScheme& scheme, int n);
+
+}  // namespace tessaryn

@@ -1,0 +1,229 @@
+#include "axioms/SubsetFrm.h"
+
+#include <algorithm>
+
+#include "document/PutStmt.h"
+#include "expr/Parse.h"
+#include "mainwindow/EntryChecks.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "rules/Operands.h"
+#include "view/Display.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr std::size_t LineLength = 51;  // from this length on the text is folded ahead of "<=>"
+
+using M = EditorMenus;
+
+const PaletteEntry SubsetPalette[] = {
+    {&M::optALL, "optUniversal", "ALL():"},    {&M::optExist, "optExistential", "EXIST():"},
+    {&M::optSum, "optSum", "SUM( , , )"},      {&M::optProd, "optProduct", "PROD( , , ):"},
+    {&M::optGreaterThan, "optGreatThan", ">"}, {&M::optelement, "optElementOf", "@"},
+    {&M::optComplement, "optComplement", "`"},
+};
+
+bool Contains(const std::vector<std::string>& names, const std::string& name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+// The names of variables and functions in a parse, bound ones too.
+std::vector<std::string> Atoms(const NodeList& nodes) {
+    std::vector<std::string> names;
+    for (const ParseRec& node : nodes) {
+        if (node.Rule == Node::Atom) names.push_back(node.Name);
+    }
+    return names;
+}
+
+// A single name, or a flat list of that many different ones: the names come first in the table,
+// then one n-tuple for each comma.
+bool IsListOfNames(const NodeList& nodes, std::size_t count) {
+    if (nodes.size() != 2 * count) return false;
+    for (std::size_t i = 1; i < nodes.size(); ++i) {
+        if (nodes[i].Rule != (i <= count ? Node::Atom : Node::Ntuple)) return false;
+    }
+    return true;
+}
+
+struct SubsetEntries {
+    const std::string& subset;
+    const std::vector<std::string>& vars;
+    const std::string& criterion;
+};
+
+// EXIST(y):[Set(y) & ALL(a):[a @ y <=> [a @ x & [P(a)]]]]
+std::string SubsetText(const SubsetEntries& entries) {
+    const std::string primes(static_cast<std::size_t>(SubsetPrimes), '\'');
+    std::string text =
+        "EXIST(" + entries.subset + "):[Set" + primes + "(" + entries.subset + ") & ";
+    std::string element;
+    for (const std::string& var : entries.vars) {
+        text += "ALL(" + var + "):";
+        element += (element.empty() ? "" : ",") + var;
+    }
+    if (SubsetPrimes > 0) element = "(" + element + ")";
+    text += "[" + element + "@" + entries.subset;
+    text += SubsetPrimes > 0 && text.size() >= LineLength ? "\r\n" : " ";
+    return text + "<=> [" + element + "@" + SubsetParent + " & [" + entries.criterion + "]]]]";
+}
+
+}  // namespace
+
+SubsetDialogue::SubsetDialogue()
+    : Form("SubsetFrm", " Subset Axiom - Enter Selection Criteria"), Menus(*this, SubsetPalette) {
+    const auto on = [this](EventHandler& event, void (SubsetDialogue::*handler)()) {
+        event = [this, handler] { RunHandler([&] { (this->*handler)(); }); };
+    };
+    on(Menus.optClear.Click, &SubsetDialogue::Clear);
+    on(cmdContinue.Click, &SubsetDialogue::Continue);
+    on(cmdCancel.Click, &SubsetDialogue::Cancel);
+    SubsetName.Change = BoundVars.Change = [this] { StatusLine.Caption.clear(); };
+    BindEditButtons();
+}
+
+void SubsetDialogue::BindEditButtons() {
+    Editor.BindButton(cmdUndo, Menus.optUndo);
+    Editor.BindButton(cmdRedo, Menus.optRedo);
+    Editor.BindButton(cmdCut, Menus.optCut);
+    Editor.BindButton(cmdCopy, Menus.optCopy);
+    Editor.BindButton(cmdPaste, Menus.optPaste);
+    Editor.BindButton(cmdDelete, Menus.optDelete);
+    Editor.BindButton(cmdClear, Menus.optClear);
+}
+
+void SubsetDialogue::Activated() {
+    Editor.Start();
+    EmptyEntries();
+    SubsetName.FontSize = BoundVars.FontSize = StmtFontSize;
+}
+
+bool SubsetDialogue::KeyPressed(const KeyEvent& key) {
+    if (key.key != Key::Esc) return false;
+    Cancel();
+    return true;
+}
+
+void SubsetDialogue::CloseRequested() {
+    Cancel();
+}
+
+void SubsetDialogue::Cancel() {
+    FinishRule(true);
+    Hide();
+}
+
+void SubsetDialogue::EmptyEntries() {
+    for (TextBox* box : {&SubsetName, &BoundVars}) {
+        box->Text.clear();
+        box->SelStart = box->SelLength = 0;
+    }
+    StatusLine.Caption.clear();
+    SubsetName.SetFocus();
+}
+
+void SubsetDialogue::Clear() {
+    Editor.Clear();
+    EmptyEntries();
+}
+
+// --- the entries, each with its checks; false after a refusal
+
+bool SubsetDialogue::Refuse(const std::string& message, Control& focus) {
+    StatusLine.Caption = message;
+    Beep(message);
+    focus.SetFocus();
+    return false;
+}
+
+bool SubsetDialogue::RefuseAtName(const std::string& message, const std::string& name) {
+    Editor.MarkName(name);
+    return Refuse(message, SelectExpression);
+}
+
+bool SubsetDialogue::TakeSubsetName() {
+    if (const std::string fault = ForbiddenCharacter(SubsetName.Text); !fault.empty()) {
+        return Refuse(fault, SubsetName);
+    }
+    const Expression entry = ParseExpression(SubsetName.Text);
+    if (!entry.error.empty() || !IsListOfNames(entry.nodes, 1)) {
+        return Refuse("Invalid subset name", SubsetName);
+    }
+    subset_ = Root(entry.nodes).Name;
+    if (Contains(Atoms(ParseExpression(SubsetParent).nodes), subset_)) {
+        return Refuse("Name of subset cannot be " + subset_, SubsetName);
+    }
+    return true;
+}
+
+bool SubsetDialogue::TakeBoundVars() {
+    if (const std::string fault = ForbiddenCharacter(BoundVars.Text); !fault.empty()) {
+        return Refuse(fault, BoundVars);
+    }
+    const Expression entry = ParseExpression(BoundVars.Text);
+    if (!entry.error.empty() ||
+        !IsListOfNames(entry.nodes, static_cast<std::size_t>(SubsetPrimes) + 1)) {
+        return Refuse("Invalid list of bound variables", BoundVars);
+    }
+    vars_ = Atoms(entry.nodes);
+    ParseTable2 = entry.nodes;
+    for (const std::string& name : Atoms(ParseExpression(SubsetParent).nodes)) {
+        if (!Contains(vars_, name)) continue;
+        return Refuse(name + " cannot be in list bound variables", BoundVars);
+    }
+    if (!Contains(vars_, subset_)) return true;
+    return Refuse("Name of subset '" + subset_ + "'in list bound variables", BoundVars);
+}
+
+bool SubsetDialogue::TakeCriterion() {
+    Editor.ClearMarks();
+    SelectExpression.SelLength = 0;
+    NewStmtText = Editor.WholeExpression();
+    if (const std::string fault = ForbiddenCharacter(NewStmtText); !fault.empty()) {
+        return Refuse(fault, SelectExpression);
+    }
+    Parse();
+    if (!ParseError.empty()) {
+        Editor.MarkParseError();
+        return Refuse(ParseError, SelectExpression);
+    }
+    if (const std::string fault = ForbiddenName(); !fault.empty()) {
+        return Refuse(fault, SelectExpression);
+    }
+    if (!RootIsLogical()) return Refuse("Expecting a logical expression", SelectExpression);
+    if (!CheckCriterionNames()) return false;
+    const int root = Root(ParseTable).Rule;
+    const bool brackets = root == Node::LAnd || root == Node::LOr;
+    criterion_ = brackets ? "[" + NewStmtText + "]" : NewStmtText;
+    return true;
+}
+
+bool SubsetDialogue::CheckCriterionNames() {
+    // The subset's own name, which no line need know, has a message of its own.
+    std::vector<std::string> own = vars_;
+    own.push_back(subset_);
+    if (const std::string name = FirstUnknownName(own); !name.empty()) {
+        return RefuseAtName("Variable " + name + " not found in any previous active statement",
+                            name);
+    }
+    if (!Contains(Atoms(ParseTable), subset_)) return true;
+    return RefuseAtName("Invalid reference to name of subset '" + subset_ + "'", subset_);
+}
+
+void SubsetDialogue::Continue() {
+    StatusLine.Caption.clear();
+    if (!TakeSubsetName() || !TakeBoundVars() || !TakeCriterion()) return;
+    NewStmtText = SubsetText({subset_, vars_, criterion_});
+    Parse();
+    if (!ParseError.empty()) {
+        Refuse("Inconsistent usage of bound variables", SelectExpression);
+    } else if (!WriteStatement()) {
+        Refuse(ParseError, SelectExpression);
+    } else {
+        Cancel();
+    }
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,69 @@
+// The dialogue of Subset: a name for the new subset, bound variables for its elements, and the
+// criterion that they must satisfy.
+//
+// The rule sets the values below, Arg1Pending, Arg2Pending and the caption, and shows the form
+// modally. When it returns, the statement has been written or the user has cancelled; RuleMode is
+// 0.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "mainwindow/ExpressionEditor.h"
+#include "platform/Form.h"
+
+namespace tessaryn {
+
+inline int SubsetPrimes = 0;      // primes behind the clicked Set; the tuples have one place more
+inline std::string SubsetParent;  // what the clicked statement says to be a set
+
+struct SubsetDialogue : Form {
+    SubsetDialogue();
+
+    void Activated() override;
+    bool KeyPressed(const KeyEvent& key) override;
+    void CloseRequested() override;
+
+    Label SubsetNameLabel{*this, "SubsetNameLabel", "Enter bound variable for name of subset:"};
+    TextBox SubsetName{*this, "SubsetName"};
+    Label Label1{*this, "Label1"};
+    TextBox BoundVars{*this, "BoundVars"};
+    Label SelectExpressionLabel{
+        *this, "SelectExpressionLabel",
+        "Enter selection criteria (may not refer to name of subset, above):"};
+    RichTextBox SelectExpression{*this, "SelectExpression"};
+    Label StatusLine{*this, "StatusLine"};
+    Button cmdUndo{*this, "cmdUndo", "Undo"};
+    Button cmdRedo{*this, "cmdRedo", "Redo"};
+    Button cmdCut{*this, "cmdCut", "Cut"};
+    Button cmdCopy{*this, "cmdCopy", "Copy"};
+    Button cmdPaste{*this, "cmdPaste", "Paste"};
+    Button cmdDelete{*this, "cmdDelete", "Delete"};
+    Button cmdClear{*this, "cmdClear", "Clear"};
+    Button cmdContinue{*this, "cmdContinue", "Continue..."};
+    Button cmdCancel{*this, "cmdCancel", "Cancel"};
+    Timer Timer1{*this, "Timer1"};
+    EditorMenus Menus;
+    ExpressionEditor Editor{SelectExpression, Menus, Timer1};
+
+  private:
+    void BindEditButtons();
+    void EmptyEntries();
+    void Clear();
+    void Cancel();
+    void Continue();
+    bool TakeSubsetName();
+    bool TakeBoundVars();
+    bool TakeCriterion();
+    bool CheckCriterionNames();
+    bool Refuse(const std::string& message, Control& focus);
+    bool RefuseAtName(const std::string& message, const std::string& name);
+
+    std::string subset_;             // the accepted entries
+    std::vector<std::string> vars_;  //
+    std::string criterion_;          //
+};
+
+inline SubsetDialogue SubsetFrm;
+
+}  // namespace tessaryn

@@ -1,0 +1,95 @@
+// The axioms about the numbers, groups and rings, and the definitions of the operators on the
+// numbers. Their names n, 1, g, r and 0 are free variables of the proof.
+//
+//   group       writes its axioms one behind the other, ahead of any premise
+//   definition  writes one statement, behind an axiom or open premise with n
+//
+// No click.
+#include <algorithm>
+#include <string>
+
+#include "axioms/Axioms.h"
+#include "axioms/NamesInUse.h"
+#include "document/PutStmt.h"
+#include "document/Statement.h"
+#include "expr/Expression.h"
+#include "mainwindow/ActiveStmts.h"
+#include "mainwindow/EntryChecks.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "rules/Operands.h"
+#include "view/Undo.h"
+
+namespace tessaryn {
+namespace {
+
+bool Refuse(const std::string& message) {
+    Beep(message);
+    SetPrompt(message);
+    RuleMode = 0;
+    return false;
+}
+
+bool PremiseAhead() {
+    const auto first = StmtTable.begin() + 1;
+    return std::any_of(first, first + (InsertionLimit() - 1),
+                       [](const Statement& stmt) { return stmt.Rule == Rule::Premise; });
+}
+
+bool NamesAreFree(const AxiomGroup& group) {
+    for (int line = 1; line <= StmtCount; ++line) {
+        for (const ReservedName& reserved : group.names) {
+            if (!IsIntroducedOn(reserved.name, line)) continue;
+            return Refuse(reserved.message + std::to_string(line));
+        }
+    }
+    return true;
+}
+
+bool HasWhatItNeeds(Needs needs) {
+    switch (needs) {
+        case Needs::N:
+            return AxiomsOrPremisesHold({"n"});
+        case Needs::NAndOne:
+            return AxiomsOrPremisesHold({"n", "1"});
+        case Needs::NAndOneInPremises:
+            return PremisesHold({"n", "1"});
+    }
+    return false;
+}
+
+}  // namespace
+
+void WriteAxiomGroup(const AxiomGroup& group) {
+    if (PremiseAhead()) {
+        Refuse(group.premiseMessage);
+        return;
+    }
+    if (!NamesAreFree(group)) return;
+    if (!StatementsFit(static_cast<int>(group.texts.size()))) return FinishRule(false);
+    Proof.RTB.SetFocus();
+    RuleMode = Rule::Axiom;
+    Arg1Pending = Arg2Pending = 0;
+    BackUpUndo();
+    for (const char* text : group.texts) {
+        NewStmtText = text;
+        if (!ParseOrReport()) return FinishRule(false);
+        PutStmt();
+    }
+    FinishRule(true);
+}
+
+void WriteDefinition(const OperatorDefinition& definition) {
+    RuleMode = Rule::Definition;
+    SetPrompt("");
+    if (!HasWhatItNeeds(definition.needs)) {
+        Refuse(definition.refusal);
+        return;
+    }
+    Arg1Pending = Arg2Pending = 0;
+    NewStmtText = definition.text;
+    FinishRule(WriteStatement());
+}
+
+}  // namespace tessaryn
