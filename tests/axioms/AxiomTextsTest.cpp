@@ -1,0 +1,89 @@
+// The numbers that the user enters, the texts of the schemes, and that the program accepts every
+// text it writes by itself.
+#include "axioms/AxiomTexts.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "axioms/EnteredNumber.h"
+#include "axioms/SchemeText.h"
+#include "expr/Blanks.h"
+#include "expr/Parse.h"
+#include "expr/PrintExpression.h"
+#include "expr/Same.h"
+
+namespace tessaryn {
+namespace {
+
+TEST(EnteredNumber, TakesTheLongestNumberAtTheHead) {
+    const std::vector<std::pair<const char*, int>> rows = {
+        {"", 0},          {"two", 0},         {"inf", 0},         {"-", 0},
+        {".", 0},         {"3", 3},           {"  3x", 3},        {"3 4", 3},
+        {"007", 7},       {"+4", 4},          {"-5", -5},         {"- 5", 0},
+        {"1e1", 10},      {"1e", 1},          {"0x10", 0},        {"2.4", 2},
+        {"2.5", 2},       {"2.6", 3},         {"3.5", 4},         {".5", 0},
+        {"0.51", 1},      {"1.5", 2},         {"-2.5", -2},       {"5.", 5},
+        {"32767", 32767}, {"32767.4", 32767}, {"-32768", -32768},
+    };
+    for (const auto& [text, number] : rows) EXPECT_EQ(EnteredNumber(text), number) << text;
+    for (const char* text : {"32768", "32767.5", "-32769", "99999999999999999999", "1e999"}) {
+        EXPECT_THROW(EnteredNumber(text), std::out_of_range) << text;
+    }
+}
+
+TEST(Trim, TakesBlanksOffBothEnds) {
+    EXPECT_EQ(Trim("  a b "), "a b");
+    EXPECT_EQ(Trim("   "), "");
+    EXPECT_EQ(Trim("\ta\r\n"), "\ta\r\n");
+}
+
+std::string TextOf(int rule, int n) {
+    for (const AxiomScheme& scheme : AxiomSchemes) {
+        if (scheme.rule == rule) return SchemeText(scheme, n);
+    }
+    return "";
+}
+
+TEST(SchemeText, RepeatsForEachFurtherNumber) {
+    EXPECT_EQ(TextOf(Rule::CartProd, 2),
+              "ALL(a1):ALL(a2):[Set(a1)& Set(a2)=>\r\n"
+              "EXIST(b):[Set'(b)&ALL(c1):ALL(c2):[(c1,c2)@b<=>c1@a1&c2@a2]]]");
+    EXPECT_EQ(TextOf(Rule::CartProd, 3),
+              "ALL(a1):ALL(a2):ALL(a3):[Set(a1)& Set(a2)& Set(a3)=>\r\n"
+              "EXIST(b):[Set''(b)&ALL(c1):ALL(c2):ALL(c3):[(c1,c2,c3)@b<=>c1@a1&c2@a2&c3@a3]]]");
+    EXPECT_EQ(TextOf(Rule::NtupleEquality, 2),
+              "ALL(a1):ALL(a2):ALL(b1):ALL(b2):[(a1,a2)=(b1,b2)\r\n<=>a1=b1&a2=b2]");
+    EXPECT_EQ(TextOf(Rule::Function, 2),
+              "ALL(dom):ALL(cod):ALL(gra):[Set'(dom) & Set(cod) & Set''(gra)\r\n"
+              "=>[ALL(a1):ALL(a2):ALL(b):[(a1,a2,b) @ gra => (a1,a2)@dom & b@cod]\r\n"
+              "& ALL(a1):ALL(a2):[(a1,a2)@dom => EXIST(b):[b @ cod & (a1 ,a2,b) @ gra]]\r\n"
+              "&ALL(a1):ALL(a2):ALL(b1):ALL(b2):[(a1,a2)@dom & b1@cod & b2@cod\r\n"
+              "=>[(a1,a2,b1)@gra & (a1,a2,b2)@gra => b1=b2]]\r\n"
+              "=> EXIST(fun):[Function(fun,dom,cod) &ALL(a1):ALL(a2):ALL(b): [(a1,a2)@dom & b@cod"
+              "\r\n=> [fun(a1,a2)=b <=> (a1,a2,b)@gra]]]]]");
+}
+
+// A text that does not parse, or with a name left free, would be no axiom of its kind.
+void ExpectAxiom(const std::string& text) {
+    const Expression parsed = ParseExpression(text);
+    ASSERT_EQ(parsed.error, "") << text;
+    EXPECT_EQ(FreeVarsOf(parsed), "") << text;
+    EXPECT_EQ(ParseExpression(PrintExpression(parsed)).error, "") << text;
+}
+
+TEST(AxiomTexts, OfSetTheoryAreClosedFormulasUpToTheLargestNumber) {
+    for (const AxiomScheme& scheme : AxiomSchemes) {
+        if (scheme.rule == Rule::NtupleEquality) continue;  // no equation between n-tuples yet
+        for (const int n : {scheme.least, 2, 3, 10, MaxAxiomOrder}) {
+            ExpectAxiom(SchemeText(scheme, n));
+        }
+    }
+    for (const FixedAxiom& axiom : {PairwiseUnion, ArbitraryUnion, AxiomOfChoice}) {
+        ExpectAxiom(axiom.text);
+    }
+}
+
+}  // namespace
+}  // namespace tessaryn
