@@ -52,7 +52,9 @@ Binding BindButton(Button& button, QWidget* parent, WindowKind kind) {
         widget = new QToolButton(parent);
         widget->setFocusPolicy(Qt::TabFocus);
     } else {
-        widget = new QPushButton(parent);
+        auto* push = new QPushButton(parent);
+        push->setAutoDefault(false);  // Enter presses the form's own default button, no other one
+        widget = push;
     }
     OnClick(*widget, button);
     return {&button, widget, {}, [&button, widget] {

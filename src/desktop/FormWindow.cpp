@@ -171,9 +171,14 @@ void FormWindow::Sync() {
     if (const QString title = ToQt(form_.Caption); window_->windowTitle() != title) {
         window_->setWindowTitle(title);
     }
+    // What is hidden or disabled here passes the focus on, which is nobody's wish if the logic has
+    // given it to another control.
+    Control* focus = form_.ActiveControl;
     for (const Binding& binding : bindings_) {
         if (binding.sync) binding.sync();
     }
+    const QWidget* widget = focus == nullptr ? nullptr : WidgetOf(*focus);
+    if (widget != nullptr && focus->Visible && focus->Enabled) form_.ActiveControl = focus;
     if (window_->isEnabled() != form_.Enabled) window_->setEnabled(form_.Enabled);
     const bool busy = form_.MousePointer == Pointer::Hourglass;
     if (busy && window_->cursor().shape() != Qt::WaitCursor) window_->setCursor(Qt::WaitCursor);
