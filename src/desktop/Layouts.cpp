@@ -117,6 +117,37 @@ void LayOutSaveChanges(FormWindow& window, QWidget& inside) {
     inside.resize(Columns(inside, 70), inside.fontMetrics().lineSpacing() * 7);
 }
 
+// What comes and goes keeps its room, so that the statement under the pointer stays where it is.
+void KeepRoom(QWidget* widget) {
+    if (widget == nullptr) return;
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+}
+
+// Generalize and Substitution: a statement with occurrences to pick, in the first with a name to
+// enter ahead.
+void LayOutOccurrences(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    if (QWidget* name = window.WidgetNamed("BoundVarTextBox"); name != nullptr) {
+        name->setMaximumWidth(Columns(inside, 24));
+        for (const char* part : {"BoundVarLabel", "BoundVarTextBox", "StatementTextLabel"}) {
+            KeepRoom(window.WidgetNamed(part));
+        }
+        QBoxLayout* row = Row(window, {"BoundVarLabel", "BoundVarTextBox"});
+        row->addStretch();
+        rows->addLayout(row);
+    }
+    Add(*rows, window.WidgetNamed("StatementTextLabel"));
+    Add(*rows, window.WidgetNamed("RTB"), 1);
+    ReserveLines(window.WidgetNamed("StatusLine"), 2);
+    Add(*rows, window.WidgetNamed("StatusLine"));
+    QBoxLayout* buttons = Row(window, {"cmdSelectAll", "cmdReset", "cmdContinue", "cmdCancel"});
+    buttons->insertStretch(2);
+    rows->addLayout(buttons);
+    inside.resize(Columns(inside, 90), inside.fontMetrics().lineSpacing() * 18);
+}
+
 // Buttons that follow each other share a row; all else has one of its own.
 void LayOutAnyForm(FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
@@ -153,6 +184,8 @@ void LayOut(FormWindow& window, QWidget& inside) {
         {"TestParser", LayOutTestParser},
         {"MyInputBox", LayOutMyInputBox},
         {"SaveChanges", LayOutSaveChanges},
+        {"Generalize", LayOutOccurrences},
+        {"Substitution", LayOutOccurrences},
     };
     const auto found = layouts.find(window.TheForm().Name);
     (found == layouts.end() ? LayOutAnyForm : *found->second)(window, inside);
