@@ -1,8 +1,10 @@
 #include "desktop/Desktop.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCursor>
 #include <QMenu>
+#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -129,13 +131,17 @@ void ShowModal(Form& form) {
     struct Scope {
         Form& form;
         FormWindow& window;
+        QPointer<QWidget> below;
         ~Scope() {
             form.Hide();
             window.Window().hide();
+            // Where no window manager does it, the keyboard would be nobody's.
+            if (below && !Ending()) below->activateWindow();
         }
     };
+    const QPointer<QWidget> below = TopWindow();
     FormWindow& window = Present(form, true);
-    const Scope scope{form, window};
+    const Scope scope{form, window, below};
     form.Activated();
     SyncWindows();
     window.RunUntilHidden();
@@ -163,7 +169,9 @@ void EndProgram() {
 bool PointerBeyondRightEdge(const Control& box) {
     const QWidget* widget = WidgetOf(box);
     if (widget == nullptr) return false;
-    return QCursor::pos().x() > widget->mapToGlobal(QPoint(widget->width(), 0)).x();
+    if (auto* area = qobject_cast<const QAbstractScrollArea*>(widget)) widget = area->viewport();
+    // The last column of pixels counts: at the screen's edge there is nothing beyond it.
+    return QCursor::pos().x() >= widget->mapToGlobal(QPoint(widget->width() - 1, 0)).x();
 }
 
 void PopupMenu(MenuItem& menu) {

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTextBrowser>
@@ -30,7 +31,8 @@ QString ManualDir() {
             }
         }
     } while (dir.cdUp());
-    return {};
+    const QString sources = QStringLiteral(TESSARYN_MANUAL_DIR);
+    return QDir(sources).exists() ? sources : QString();
 }
 
 // The first heading of a page; its file name if it has none.
@@ -43,6 +45,16 @@ QString TitleOf(const QString& path) {
         }
     }
     return QFileInfo(path).completeBaseName();
+}
+
+QStringList LinkedPages(const QString& path) {
+    static const QRegularExpression link(QStringLiteral("\\]\\(([\\w-]+\\.md)"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) return {};
+    QStringList names;
+    auto links = link.globalMatch(QString::fromUtf8(file.readAll()));
+    while (links.hasNext()) names.append(links.next().captured(1));
+    return names;
 }
 
 class HelpWindow : public QWidget {
@@ -73,12 +85,14 @@ class HelpWindow : public QWidget {
     }
 
   private:
-    // index.md first.
+    // In the order in which index.md links to them, itself first.
     void FillPages() {
         const QDir dir(directory_);
-        QStringList names = dir.entryList({QStringLiteral("*.md")}, QDir::Files, QDir::Name);
-        const auto index = names.indexOf(QStringLiteral("index.md"));
-        if (index > 0) names.move(index, 0);
+        QStringList names{QStringLiteral("index.md")};
+        names += LinkedPages(dir.filePath(names[0]));
+        names += dir.entryList({QStringLiteral("*.md")}, QDir::Files, QDir::Name);
+        names.removeDuplicates();
+        names.removeIf([&](const QString& name) { return !dir.exists(name); });
         for (const QString& name : names) {
             const QString path = dir.filePath(name);
             auto* item = new QListWidgetItem(TitleOf(path), &pages_);

@@ -50,7 +50,11 @@ void ProofDisplay::Sync() {
         goalX_ = -1;
     }
     for (const int place : box_.TakePlacesToShow()) EnsureVisible(place);
-    if (moved && dragging_) EnsureVisible(caret_);
+    if (moved && dragging_) {
+        // A selection that has come to take in a line's end still shows that line.
+        const int line = index_.LineAt(std::max(0, caret_ - 1));
+        EnsureVisible(std::min(caret_, index_.End(box_.GetText(), line)));
+    }
     if (changed || moved) {
         RestartCaret();
         viewport()->update();

@@ -178,7 +178,7 @@ void ProofDisplay::DragTo(const QPoint& place) {
     const int right = viewport()->width() - 1;
     const int position = BoundaryAt({std::min(place.x(), right), place.y()});
     const bool sameLine = index_.LineAt(position) == index_.LineAt(caret_);
-    if (place.x() > right && sameLine && caret_ > position) return;
+    if (place.x() >= right && sameLine && caret_ > position) return;
     goalX_ = -1;
     Select(pressBoundary_, position);
 }

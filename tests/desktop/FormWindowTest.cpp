@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -10,7 +11,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
@@ -224,6 +227,38 @@ TEST(FormWindow, EndOfTheProgramUnwindsThroughAModalForm) {
     });
     EXPECT_FALSE(returned);
     EXPECT_FALSE(form.Visible);
+}
+
+// The selection grows at each tick while the pointer is held at the right edge, and the display
+// follows it.
+TEST(ProofWindow, DragPastTheRightEdgeGoesOnToTheEndOfTheLine) {
+    struct : Form {
+        using Form::Form;
+        RichTextBox display{*this, "RTB"};
+        RichTextBox status{*this, "StatusLine"};
+        Timer timer{*this, "Timer1"};
+    } form("Proof");
+    form.display.SetText(std::string(200, 'x') + "\r\nnext");
+    form.display.MouseMove = [&] { form.timer.Enabled = PointerBeyondRightEdge(form.display); };
+    form.timer.Interval = 1;
+    form.timer.Tick = [&] {
+        form.display.SelLength = form.display.SelLength + 1;
+        form.timer.Enabled = form.display.GetSelText().back() != '\n';
+    };
+    ShowMainWindow(form);
+    auto* area = static_cast<QAbstractScrollArea*>(WidgetOf(form.display));
+    QWidget* viewport = area->viewport();
+    const QPoint start(20, 15);
+    const QPoint edge(viewport->width() - 1, 15);
+    QTest::mousePress(viewport, Qt::LeftButton, {}, start);
+    QCursor::setPos(viewport->mapToGlobal(edge));
+    QMouseEvent move(QEvent::MouseMove, edge, viewport->mapToGlobal(edge), Qt::LeftButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &move);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form.display.GetSelText().back() == '\n'; }, 5000));
+    EXPECT_GT(area->horizontalScrollBar()->value(), 300);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, edge);
+    ForgetWindows();
 }
 
 TEST(Clipboard, HoldsPlainTextAndRtf) {
