@@ -58,6 +58,10 @@ void TakeOver(StoredProof proof) {
 }  // namespace
 
 std::string ProofTitle() {
+    if (ProofFileName.empty()) {
+        if (ProofCaption.empty()) return " Tessaryn 2.0  -  (Untitled)";
+        return " " + ProofCaption + " - (Untitled)";
+    }
     if (ProofCaption.empty()) return " Tessaryn 2.0  -  " + ProofFileName;
     return " " + ProofCaption + "  -  " + ProofFileName;
 }
@@ -76,10 +80,11 @@ bool SaveProof() {
     return false;
 }
 
-void SaveProofFile() {
-    if (!SaveProof()) return;
+bool SaveProofFile() {
+    if (!SaveProof()) return false;
     ProofChanged = false;
     Proof.Caption = ProofTitle();
+    return true;
 }
 
 void ReadProofFile(const std::string& previousName) {
@@ -136,8 +141,8 @@ void SaveAsCommand() {
     if (!ShowSave(choice)) return;
     RefreshNow(Proof);
     dialog.FileName = choice.FileName;
-    ProofFileName = choice.FileName;
-    SaveProofFile();
+    const std::string previousName = std::exchange(ProofFileName, choice.FileName);
+    if (!SaveProofFile()) ProofFileName = previousName;
 }
 
 void SaveCommand() {

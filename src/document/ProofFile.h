@@ -38,8 +38,9 @@ std::optional<StoredProof> ReadProof(std::string_view bytes);
 // OperationCancelled is set, and a message box has said so.
 bool SaveProof();
 
-// SaveProof, and then the document counts as saved: title, ProofChanged.
-void SaveProofFile();
+// SaveProof, and then the document counts as saved: title, ProofChanged. False, with all that as it
+// was, if it could not be saved.
+bool SaveProofFile();
 
 // Replaces the document by the content of ProofFileName and rebuilds the display. On failure the
 // document stays, OperationCancelled is set, and StatusLine says so. ProofFileName is then the name

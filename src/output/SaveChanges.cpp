@@ -41,6 +41,7 @@ void SaveChangesForm::No() {
 }
 
 void SaveChangesForm::Yes() {
+    const std::string previousName = ProofFileName;
     bool save = true;
     if (!ProofFileName.empty()) {
         ProofFileName = WithProofExtension(ProofFileName);
@@ -51,8 +52,11 @@ void SaveChangesForm::Yes() {
     }
     if (save) {
         RefreshNow(Proof);
-        SaveProofFile();
-        if (OperationCancelled) return Hide();  // not saved: nothing that would lose it goes on
+        if (!SaveProofFile()) {
+            // Nothing that would lose the proof goes on.
+            ProofFileName = previousName;
+            return Hide();
+        }
     }
     if (OpenFollows) OpenProofFile();
     Hide();

@@ -9,7 +9,8 @@ inline bool ProofChanged = false;  // the document differs from its file
 // without statements is not copied, so that its first statement can't be undone.
 void BackUpUndo();
 
-// Commands. Each can only be reached while its controls are enabled.
+// Commands. Each can only be reached while its controls are enabled; each marks the document as
+// changed.
 void Undo();
 void Redo();
 

@@ -60,6 +60,7 @@ void PlaceCaret() {
 void Begin(bool canUndo) {
     Proof.RTB.SetFocus();
     RuleMode = 0;
+    ProofChanged = true;  // a saved document need not be the one that comes back
     SetUndoRedo(canUndo, !canUndo);
     SetPrompt("");
 }
