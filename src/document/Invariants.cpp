@@ -35,7 +35,9 @@ bool Slice(int first, const std::string& expected) {
 // ends ahead of it.
 int ExpectedStart() {
     if (IntroEnd > 0) return IntroEnd + 5;
-    return ProofText.rfind("\r\n\r\n", 0) == 0 ? 5 : 1;
+    // A comment of statement 1 may begin with line ends as well.
+    const bool startsBehind = StmtCount > 0 && StmtTable[1].StartLine == 5;
+    return startsBehind && ProofText.starts_with("\r\n\r\n") ? 5 : 1;
 }
 
 void CheckIndexes(Complaint& complaint, int line, const Statement& stmt, int expectedStart) {

@@ -63,6 +63,9 @@ int NumberStart(const Statement& stmt);
 int ViewerEndRule(const Statement& stmt);
 // Where the first visible block begins in the display, 1-based.
 int FirstViewerStartLine();
+// The visible statement whose block holds a place of the display, 1-based; 0 if none does. The line
+// ends behind the annotation belong to no block.
+int ShownStmtAt(int place);
 // Adds to the six indexes into ProofText (to EndUserComment only if there is a comment).
 void ShiftIndexes(Statement& stmt, int shift);
 

@@ -50,7 +50,7 @@ const PaletteRow StandardPalette[] = {
 };
 
 struct EditRow {
-    MenuItem EditorMenus::*item;
+    MenuItem EditMenu::*item;
     const char* name;
     const char* caption;
 };
@@ -116,6 +116,13 @@ void Paste(RichTextBox& box) {
     box.SetFocus();
 }
 
+void InsertElementSign(RichTextBox& box) {
+    box.SelText = "";
+    box.SelFontName = SymbolFont;
+    box.SelText = "e";
+    box.SelFontName = StatementFont;
+}
+
 // --- selection extension
 
 void SelectionExtension::MouseMoved(RichTextBox& box, Timer& timer) {
@@ -146,7 +153,7 @@ void SelectionExtension::ButtonUp(Timer& timer) {
 
 // --- menus
 
-EditorMenus::EditorMenus(Form& form, std::span<const PaletteEntry> changes)
+EditMenu::EditMenu(Form& form)
     : mnuEdit(form, "mnuEdit", "&Edit"),
       optUndo(form, ""),
       optRedo(form, ""),
@@ -155,6 +162,13 @@ EditorMenus::EditorMenus(Form& form, std::span<const PaletteEntry> changes)
       optPaste(form, ""),
       optDelete(form, ""),
       optClear(form, ""),
+      ControlKeys{{"X", &optCut}, {"C", &optCopy}, {"V", &optPaste}, {"Z", &optUndo}} {
+    for (const EditRow& row : EditItems) Name(this->*row.item, mnuEdit, row.name, row.caption);
+    form.MenuBar = {&mnuEdit};
+}
+
+EditorMenus::EditorMenus(Form& form, std::span<const PaletteEntry> changes)
+    : EditMenu(form),
       mnuNotation(form, "mnuNotation", "&Notation"),
       optAnd(form, ""),
       optOr(form, ""),
@@ -180,19 +194,21 @@ EditorMenus::EditorMenus(Form& form, std::span<const PaletteEntry> changes)
       optProd(form, ""),
       optelement(form, ""),
       optComplement(form, "") {
-    for (const EditRow& row : EditItems) Name(this->*row.item, mnuEdit, row.name, row.caption);
     for (const PaletteRow& row : StandardPalette) {
         const PaletteEntry& entry = EntryFor(row.entry, changes);
         Name(this->*entry.item, mnuNotation, entry.name, row.caption);
         Palette.push_back({&(this->*entry.item), entry.text});
     }
-    form.MenuBar = {&mnuEdit, &mnuNotation};
+    ControlKeys.insert(ControlKeys.end(),
+                       {{"A", &optALL}, {"E", &optExist}, {"S", &optSum}, {"P", &optProd}});
+    form.MenuBar.push_back(&mnuNotation);
 }
 
 // --- the editor
 
-ExpressionEditor::ExpressionEditor(RichTextBox& box, EditorMenus& menus, Timer& timer)
-    : box_(box), menus_(menus), timer_(timer) {
+ExpressionEditor::ExpressionEditor(RichTextBox& box, EditMenu& menus, Timer& timer,
+                                   EditorStyle style)
+    : box_(box), menus_(menus), timer_(timer), style_(style) {
     for (const auto& [item, text] : menus.Palette) {
         item->Click = [this, text = std::string(text)] { RunHandler([&] { Insert(text); }); };
     }
@@ -226,6 +242,10 @@ void ExpressionEditor::BindButton(Button& button, MenuItem& twin) {
     if (&twin == &menus_.optRedo) redoButtons_.push_back(&button);
 }
 
+void ExpressionEditor::BindInsertion(Button& button, const std::string& text) {
+    button.Click = [this, text] { RunHandler([&] { Insert(text); }); };
+}
+
 void ExpressionEditor::SetUndoEnabled(bool undo, bool redo) {
     menus_.optUndo.Enabled = undo;
     menus_.optRedo.Enabled = redo;
@@ -247,7 +267,7 @@ void ExpressionEditor::Start() {
 void ExpressionEditor::Empty() {
     box_.TextRTF = "";
     box_.SelFontName = StatementFont;
-    box_.SelColor = Black;
+    box_.SelColor = style_.colour;
     box_.SelBold = false;
     box_.SelFontSize = StmtFontSize;
 }
@@ -266,7 +286,7 @@ std::string ExpressionEditor::Expression() {
 void ExpressionEditor::ClearMarks() {
     box_.SelStart = 0;
     box_.SelLength = box_.TextLength();
-    box_.SelColor = Black;
+    box_.SelColor = style_.colour;
     box_.SelBold = false;
 }
 
@@ -296,27 +316,25 @@ void ExpressionEditor::MarkRed(const TokenRec& token) {
     box_.SelStart = token.Position - 1;
 }
 
+void ExpressionEditor::SetTypingFormat() {
+    box_.SelFontName = StatementFont;
+    if (!style_.typesInColour) return;
+    box_.SelColor = style_.colour;
+    box_.SelBold = false;
+}
+
 void ExpressionEditor::Insert(const std::string& text) {
-    if (text.empty()) return DisableUndo();
-    if (text == "@") return InsertElementSign();
+    style_.undoesInsertions ? SaveForUndo() : DisableUndo();
+    if (text.empty()) return;
+    box_.SetFocus();
+    if (text == "@") return InsertElementSign(box_);
     box_.SelText = "";
     const int caret = box_.SelStart;
     const std::size_t bracket = text.find('(');
     const std::size_t caretMove = bracket == std::string::npos ? text.size() : bracket + 1;
-    box_.SelFontName = StatementFont;
+    SetTypingFormat();
     box_.SelText = text;
     box_.SelStart = caret + static_cast<int>(caretMove);
-    box_.SetFocus();
-    DisableUndo();
-}
-
-void ExpressionEditor::InsertElementSign() {
-    box_.SelText = "";
-    box_.SelFontName = SymbolFont;
-    box_.SelText = "e";
-    box_.SelFontName = StatementFont;
-    box_.SetFocus();
-    DisableUndo();
 }
 
 void ExpressionEditor::SaveForUndo() {
@@ -358,14 +376,23 @@ void ExpressionEditor::Clear() {
 }
 
 bool ExpressionEditor::ControlKey(const std::string& letter) {
-    const std::pair<const char*, MenuItem*> keys[] = {
-        {"A", &menus_.optALL},  {"E", &menus_.optExist}, {"X", &menus_.optCut},
-        {"C", &menus_.optCopy}, {"V", &menus_.optPaste}, {"Z", &menus_.optUndo},
-        {"S", &menus_.optSum},  {"P", &menus_.optProd}};
-    for (const auto& [key, item] : keys) {
+    for (const auto& [key, item] : menus_.ControlKeys) {
         if (letter == key && item->Enabled) item->Click();
     }
     return true;  // any other one is swallowed
+}
+
+void ExpressionEditor::TypeElementSign() {
+    DisableUndo();
+    box_.SetFocus();
+    box_.SelText = "";
+    SetTypingFormat();
+    InsertElementSign(box_);
+    const int caret = box_.SelStart;
+    box_.SelText = style_.behindElementSign;
+    if (caret == box_.SelStart) return;
+    box_.SelStart = caret;
+    SetTypingFormat();
 }
 
 bool ExpressionEditor::KeyDown(const KeyEvent& key) {
@@ -373,7 +400,7 @@ bool ExpressionEditor::KeyDown(const KeyEvent& key) {
         case Key::Char:
             if (key.ctrl) return ControlKey(key.text);
             if (key.text == "@") {
-                InsertElementSign();
+                TypeElementSign();
                 return true;
             }
             break;
@@ -390,7 +417,7 @@ bool ExpressionEditor::KeyDown(const KeyEvent& key) {
     // What is typed beside an element sign must not take its font.
     if (key.key != Key::Backspace) {
         if (box_.SelLength > 0) box_.SelText = "";
-        box_.SelFontName = StatementFont;
+        SetTypingFormat();
     }
     return false;
 }

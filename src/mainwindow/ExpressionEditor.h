@@ -7,6 +7,7 @@
 
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "expr/Expression.h"
@@ -27,6 +28,10 @@ void Copy(RichTextBox& box);
 // Replaces the selection by the clipboard's content, normalised to black Courier New.
 void Paste(RichTextBox& box);
 
+// Puts the element sign in the place of the selection; what is typed next has the font of
+// statements again.
+void InsertElementSign(RichTextBox& box);
+
 // Moves the end of the selection on to the end of the line while the mouse is dragged past the
 // right edge of a box, one character a tick.
 struct SelectionExtension {
@@ -38,22 +43,29 @@ struct SelectionExtension {
 
 struct PaletteEntry;
 
-// The two menus of an editing dialogue: editing commands and palette.
-struct EditorMenus {
-    // changes: where the palette of this form differs.
-    explicit EditorMenus(Form& form, std::span<const PaletteEntry> changes = {});
+// The menu of editing commands, and what else a form's menus hold for the editor.
+struct EditMenu {
+    explicit EditMenu(Form& form);
 
     MenuItem mnuEdit, optUndo, optRedo, optCut, optCopy, optPaste, optDelete, optClear;
-    MenuItem mnuNotation, optAnd, optOr, optNot, optImplies, optIff, optUnion, optIntersection,
-        optEqual, optLessThan, optGreaterThan, optLessThanOrEqual, optGreaterThanOrEqual, optAdd,
-        optSubtract, optMultiply, optDivide, optExponent, optNegative, optALL, optExist, optSum,
-        optProd, optelement, optComplement;
 
     struct Insertion {
         MenuItem* item;
         const char* text;
     };
     std::vector<Insertion> Palette;  // what each item of mnuNotation inserts
+    std::vector<std::pair<const char*, MenuItem*>> ControlKeys;  // the letters that work with Ctrl
+};
+
+// The two menus of a dialogue for expressions: editing commands and palette.
+struct EditorMenus : EditMenu {
+    // changes: where the palette of this form differs.
+    explicit EditorMenus(Form& form, std::span<const PaletteEntry> changes = {});
+
+    MenuItem mnuNotation, optAnd, optOr, optNot, optImplies, optIff, optUnion, optIntersection,
+        optEqual, optLessThan, optGreaterThan, optLessThanOrEqual, optGreaterThanOrEqual, optAdd,
+        optSubtract, optMultiply, optDivide, optExponent, optNegative, optALL, optExist, optSum,
+        optProd, optelement, optComplement;
 };
 
 // An item of the palette under the name that it has in a form, and what it inserts at the caret:
@@ -65,16 +77,27 @@ struct PaletteEntry {
     const char* text;
 };
 
+// How the box of a form differs from one for expressions.
+struct EditorStyle {
+    Colour colour = 0;                   // of its text
+    bool typesInColour = false;          // what is typed has it too, whatever it is typed beside
+    const char* behindElementSign = "";  // what comes with a typed "@", behind the caret
+    bool undoesInsertions = false;       // Undo takes back what was inserted by menu or button
+};
+
 class ExpressionEditor {
   public:
-    ExpressionEditor(RichTextBox& box, EditorMenus& menus, Timer& timer);
+    ExpressionEditor(RichTextBox& box, EditMenu& menus, Timer& timer, EditorStyle style = {});
 
     // Gives a tool button the action of its twin in the menu; Undo and Redo follow its enabled
     // state.
     void BindButton(Button& button, MenuItem& twin);
 
-    // What each activation of the dialogue does: empties the box, black, not bold, in the size of
-    // statements, nothing to undo.
+    // Makes a tool button insert a text, as a palette item does.
+    void BindInsertion(Button& button, const std::string& text);
+
+    // What each activation of the dialogue does: empties the box, in its colour, not bold, in the
+    // size of statements, nothing to undo.
     void Start();
 
     // The content as an expression, "@" for the element sign, without line breaks at its ends.
@@ -96,7 +119,8 @@ class ExpressionEditor {
 
   private:
     void Insert(const std::string& text);
-    void InsertElementSign();
+    void SetTypingFormat();
+    void TypeElementSign();
     void SaveForUndo();
     void Undo();
     void Redo();
@@ -109,8 +133,9 @@ class ExpressionEditor {
     void SetUndoEnabled(bool undo, bool redo);
 
     RichTextBox& box_;
-    EditorMenus& menus_;
+    EditMenu& menus_;
     Timer& timer_;
+    EditorStyle style_;
     std::vector<Button*> undoButtons_, redoButtons_;
     std::string boxRedoText_;
     SelectionExtension extension_;

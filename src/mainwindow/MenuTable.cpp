@@ -6,10 +6,15 @@
 #include "axioms/Axioms.h"
 #include "document/ProofFile.h"
 #include "mainwindow/Commands.h"
+#include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "rules/Rules.h"
+#include "view/Comment.h"
+#include "view/EditCaption.h"
+#include "view/Find.h"
 #include "view/InsertMode.h"
+#include "view/ShowHide.h"
 #include "view/Undo.h"
 
 namespace tessaryn {
@@ -34,6 +39,9 @@ template <int ruleMode>
 void Click() {
     StartClickRule(ruleMode);
 }
+
+// The caption itself tells what to click.
+void Instruction() {}
 
 using P = ProofForm;
 
@@ -60,27 +68,31 @@ const MenuRow MenuRows[] = {
     {1, &P::optRedo, "optRedo", "&Redo", "Ctrl+Y", Redo, Disabled, "Unable to complete Redo"},
     {1, &P::optInsert, "optInsert", "&Insert Mode ", "F2", ToggleInsertMode, Checkable},
     {1, &P::optCopy, "optCopy", "&Copy", "Ctrl+C", CopySelection},
-    {1, &P::DeleteAllRef, "DeleteAllRef", "Delete &ALL References", "F3"},
-    {1, &P::DelAllSubsequent, "DelAllSubsequent", "Delete &Subsequent Lines", "F4"},
-    {1, &P::optFind, "optFind", "&Find", "Ctrl+F"},
-    {1, &P::optRepeatFind, "optRepeatFind", "R&epeat Find", "F9"},
-    {1, &P::optCaption, "optCaption", "C&aption"},
-    {1, &P::optIntro, "optIntro", "I&ntroduction"},
-    {1, &P::optComment, "optComment", "Comment            (Click Stmt Text)"},
-    {1, &P::optToggleHighlight, "optToggleHighlight", "Toggle Highlight  (Click Stmt No.)"},
+    {1, &P::DeleteAllRef, "DeleteAllRef", "Delete &ALL References", "F3", Click<DeleteAllRefMode>},
+    {1, &P::DelAllSubsequent, "DelAllSubsequent", "Delete &Subsequent Lines", "F4",
+     Click<Rule::DeleteAtSub>},
+    {1, &P::optFind, "optFind", "&Find", "Ctrl+F", ShowFind},
+    {1, &P::optRepeatFind, "optRepeatFind", "R&epeat Find", "F9", RepeatFind},
+    {1, &P::optCaption, "optCaption", "C&aption", "", EditProofCaption},
+    {1, &P::optIntro, "optIntro", "I&ntroduction", "", EditIntroduction},
+    {1, &P::optComment, "optComment", "Comment            (Click Stmt Text)", "", Instruction},
+    {1, &P::optToggleHighlight, "optToggleHighlight", "Toggle Highlight  (Click Stmt No.)", "",
+     Click<ToggleHighlightMode>},
     {1, &P::optRichTextMode, "optRichTextMode", "Rich Text Mode", "", ToggleRichTextMode,
      Checkable | Checked},
 
     {0, &P::mnuView, "mnuView", "&View"},
-    {1, &P::optHideDetails, "optHideDetails", "Hide All Details", "F5"},
-    {1, &P::optShowDetails, "optShowDetails", "Show All Active Stmts", "F6"},
-    {1, &P::optShowLastDetails, "optShowLastDetails", "Show Last Active Stmts", "F7"},
+    {1, &P::optHideDetails, "optHideDetails", "Hide All Details", "F5", HideAllDetails},
+    {1, &P::optShowDetails, "optShowDetails", "Show All Active Stmts", "F6", ShowAllActive},
+    {1, &P::optShowLastDetails, "optShowLastDetails", "Show Last Active Stmts", "F7",
+     ShowLastActive},
     {1, &P::optDetails, "optDetails",
-     "Show / Hide Detail Block     (Dbl Click Highlighted Stmt No.)"},
-    {1, &P::optPremiseBlock, "optPremiseBlock",
-     "Show / Hide Premise Block  (Click \"Conclusion\")"},
-    {1, &P::optShowAllStmts, "optShowAllStmts", "Show All Stmts", "F11"},
-    {1, &P::optShowHighlights, "optShowHighlights", "Show Only Highlights and Conclusions", "F12"},
+     "Show / Hide Detail Block     (Dbl Click Highlighted Stmt No.)", "", Instruction},
+    {1, &P::optPremiseBlock, "optPremiseBlock", "Show / Hide Premise Block  (Click \"Conclusion\")",
+     "", Instruction},
+    {1, &P::optShowAllStmts, "optShowAllStmts", "Show All Stmts", "F11", ShowAllStmts},
+    {1, &P::optShowHighlights, "optShowHighlights", "Show Only Highlights and Conclusions", "F12",
+     ShowHighlights},
     {1, &P::optTextSize, "optTextSize", "Text Size"},
     {2, &P::optSmallText, "optSmallText", "Small", "", nullptr, Checkable},
     {2, &P::optMediumText, "optMediumText", "Medium", "", nullptr, Checkable | Checked},

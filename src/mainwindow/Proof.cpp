@@ -12,6 +12,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/RuleModes.h"
 #include "view/InsertMode.h"
+#include "view/ShowHide.h"
 
 namespace tessaryn {
 namespace {
@@ -77,11 +78,7 @@ ProofForm::ProofForm() : Form("Proof") {
 
 void ProofForm::ListenToDisplay() {
     RTB.Click = [] { RunHandler(ClickInDisplay); };
-    RTB.DblClick = [this] {
-        DoubleClickPending = true;
-        DoubleClickCaret = RTB.SelStart;
-        RTB.SelLength = 0;
-    };
+    RTB.DblClick = [] { RunHandler(ToggleDetailBlock); };
     RTB.MouseMove = [this] { Extension.MouseMoved(RTB, Timer1); };
     Timer1.Tick = [this] { Extension.Tick(RTB, Timer1); };
     RTB.MouseUp = [this](MouseButton button) {

@@ -11,7 +11,10 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "rules/Rules.h"
+#include "view/Comment.h"
+#include "view/Delete.h"
 #include "view/InsertMode.h"
+#include "view/ShowHide.h"
 
 namespace tessaryn {
 namespace {
@@ -42,7 +45,7 @@ const std::array<RuleRow, RuleCount + 1> RuleTable = {{
     {6, "U Gen", ""},
     {7, "Conclusion", ""},
     {8, "Delete at ref", ""},
-    {9, "Delete at sub", "Delete All Subsequent Lines: Click statement"},
+    {9, "Delete at sub", "Delete All Subsequent Lines: Click statement", false, DeleteAllSub},
     {10, "Insert", ""},
     {11, "Quant", "Quant: Click a quantifier in any active statement", false, Quant},
     {12, "Rem DNeg", "Rem DNeg:  Click on the first ~ of a double negative in an active statement",
@@ -100,7 +103,8 @@ const std::array<RuleRow, RuleCount + 1> RuleTable = {{
     {54, "Fn Equality", ""},
 }};
 
-const RuleRow DeleteAllRefRow = {DeleteAllRefMode, "", "Delete All References: Click statement"};
+const RuleRow DeleteAllRefRow = {DeleteAllRefMode, "", "Delete All References: Click statement",
+                                 false, DeleteAllRef};
 
 }  // namespace
 
@@ -131,16 +135,16 @@ void FinishRule(bool written) {
 }
 
 void ClickInDisplay() {
+    ToggledNumber = 0;
     if (Proof.RTB.SelLength > 0 && RuleMode != Rule::EGen) return;
     if (StmtCount == 0) {
         RuleMode = 0;
         SetPrompt("");
-        return Beep("The proof is empty: begin with a premise or an axiom (menu Logic).");
+        return EditIntroduction();
     }
     const RuleRow* row = FindRule(RuleMode);
     if (row != nullptr && row->click != nullptr) return row->click();
-    SetPrompt("");
-    Beep("No rule is waiting for a click: choose one from a menu or a tool button first.");
+    ToggleConclusion();
 }
 
 }  // namespace tessaryn

@@ -12,9 +12,14 @@
 #include "rules/Substitution.h"
 #include "rules/modCases.h"
 #include "rules/modConclusion.h"
+#include "view/Comment.h"
 #include "view/Display.h"
+#include "view/EditCaption.h"
+#include "view/Find.h"
 #include "view/InsertMode.h"
+#include "view/ShowHide.h"
 #include "view/Undo.h"
+#include "view/Warning.h"
 
 namespace tessaryn {
 
@@ -33,6 +38,9 @@ void StartProgram() {
     RecentName.clear();
     StmtFontSize = 12;
     RuleFontSize = 10;
+    ToggledNumber = 0;
+    FindString.clear();
+    FindPos = 0;
     InsertMode = false;
     InsertLine = 0;
     ClearDocument();
@@ -56,6 +64,10 @@ void StartProgram() {
     Restart(SubsetFrm);
     Restart(InductionForm);
     Restart(SaveChanges);
+    Restart(Comment);
+    Restart(EditCaption);
+    Restart(Find);
+    Restart(Warning);
     Restart(WorkArea);
 }
 

@@ -108,11 +108,12 @@ struct CheckBox : Control {
     EventHandler Click;
 };
 
-// One of the choices of its form, of which the front end keeps exactly one set.
+// One of the choices of its group in the form, of which the front end keeps no more than one set.
 struct OptionButton : Control {
-    OptionButton(Form& parent, std::string name, std::string caption = "")
-        : Control(parent, std::move(name)), Caption(std::move(caption)) {}
+    OptionButton(Form& parent, std::string name, std::string caption = "", int group = 0)
+        : Control(parent, std::move(name)), Caption(std::move(caption)), Group(group) {}
     std::string Caption;
+    int Group;
     bool Value = false;
     EventHandler Click;
 };

@@ -40,7 +40,8 @@ bool SendChoose(Control& control) {
     }
     if (auto* option = dynamic_cast<OptionButton*>(&control)) {
         for (Control* other : option->Parent.Controls) {
-            if (auto* rival = dynamic_cast<OptionButton*>(other)) rival->Value = rival == option;
+            auto* rival = dynamic_cast<OptionButton*>(other);
+            if (rival != nullptr && rival->Group == option->Group) rival->Value = rival == option;
         }
         handler = option->Click ? option->Click : [] {};
     }

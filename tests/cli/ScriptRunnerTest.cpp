@@ -76,7 +76,6 @@ TEST(ScriptRunner, ReachesOnlyWhatAUserCould) {
     ExpectFailures("", {
                            {"choose optNothing", "Proof has no optNothing"},
                            {"choose optUndo", "optUndo is hidden or disabled"},
-                           {"choose optComment", "there is no command behind optComment"},
                            {"choose mnuFile", "there is no command behind mnuFile"},
                            {"choose StatusLine", "there is no command behind StatusLine"},
                            {"set RTB \"x\"", "RTB can't be edited"},

@@ -1,0 +1,30 @@
+// The dialogue for the caption of the proof, which stands in the title of the window.
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/RichTextBox.h"
+
+namespace tessaryn {
+
+struct EditCaptionForm : Form {
+    EditCaptionForm();
+
+    void Activated() override;
+    bool KeyPressed(const KeyEvent& key) override;
+
+    RichTextBox RTB{*this, "RTB"};
+    Button Clear{*this, "Clear", "Clear"};
+    Button Continue{*this, "Continue", "Continue..."};
+    Button Cancel{*this, "Cancel", "Cancel"};
+
+  private:
+    void Show(const std::string& text);
+    void ContinuePressed();
+};
+
+inline EditCaptionForm EditCaption;
+
+// The menu item.
+void EditProofCaption();
+
+}  // namespace tessaryn

@@ -1,0 +1,27 @@
+// A question with Continue and Cancel. The caller sets Message and shows the form modally;
+// afterwards OperationCancelled tells whether the user cancelled.
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/Platform.h"
+
+namespace tessaryn {
+
+struct WarningForm : Form {
+    WarningForm();
+
+    void Activated() override;
+    bool KeyPressed(const KeyEvent& key) override;
+    void CloseRequested() override;
+
+    Label Message{*this, "Label"};
+    Button cmdContinue{*this, "cmdContinue", "Continue..."};
+    Button cmdCancel{*this, "cmdCancel", "Cancel"};
+
+  private:
+    void Cancel();
+};
+
+inline WarningForm Warning;
+
+}  // namespace tessaryn

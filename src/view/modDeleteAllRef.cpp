@@ -1,0 +1,43 @@
+// Delete ALL References: removes the clicked statement and all that depends on it, with a question
+// if there is more than the one.
+#include <string>
+
+#include "document/Statement.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "view/Delete.h"
+#include "view/Undo.h"
+#include "view/Warning.h"
+
+namespace tessaryn {
+namespace {
+
+// False if the user cancels.
+bool ConfirmOthers(int others) {
+    Warning.Message.Caption = "This deletition will result in  " + std::to_string(others) +
+                              " other statement(s) being deleted.";
+    ShowModal(Warning);
+    return !OperationCancelled;
+}
+
+void ForgetMarks() {
+    OperationCancelled = false;
+    for (Statement& stmt : StmtTable) stmt.Flagged = false;
+}
+
+}  // namespace
+
+void DeleteAllRef() {
+    RuleMode = 0;
+    int first = StmtToDelete();
+    if (first == 0) return;
+    SetPrompt("");
+    int count = 0;
+    FlagStmts(first, count);
+    if (count > 1 && !ConfirmOthers(count - 1)) return ForgetMarks();
+    BackUpUndo();
+    DeleteStmts(first);
+    FinishDeletion();
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,33 @@
+// Delete Subsequent Lines: cuts the proof off at the clicked statement, without a question.
+#include "document/Statement.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "view/Delete.h"
+#include "view/Undo.h"
+
+namespace tessaryn {
+
+int StmtToDelete() {
+    const int line = ShownStmtAt(Proof.RTB.SelStart + 1);
+    if (line == 0) Beep("Nothing lies under the click: click the line to delete.");
+    return line;
+}
+
+void FinishDeletion() {
+    RuleMode = 0;
+    Proof.optInsert.Checked = false;
+}
+
+void DeleteAllSub() {
+    int first = StmtToDelete();
+    if (first == 0) return;
+    SetPrompt("");
+    for (int line = first; line <= StmtCount; ++line) {
+        StmtTable[static_cast<std::size_t>(line)].Flagged = true;
+    }
+    BackUpUndo();
+    DeleteStmts(first);
+    FinishDeletion();
+}
+
+}  // namespace tessaryn

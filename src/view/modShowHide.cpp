@@ -1,0 +1,128 @@
+// The commands of the View menu.
+#include "view/ShowHide.h"
+
+#include "document/Statement.h"
+#include "mainwindow/Proof.h"
+#include "view/Display.h"
+#include "view/InsertMode.h"
+
+namespace tessaryn {
+namespace {
+
+Statement& At(int number) {
+    return StmtTable[static_cast<std::size_t>(number)];
+}
+
+void HideLines(int first, int last) {
+    for (int line = first; line <= last; ++line) At(line).Visible = false;
+}
+
+void Redraw() {
+    RelayoutViewer();
+    ResetFonts();
+}
+
+void CaretToEnd() {
+    Proof.RTB.SelStart = Proof.RTB.TextLength();
+}
+
+// The highest active line that is neither shown nor highlighted; 0 if there is none.
+int LastFoldedLine() {
+    int line = StmtCount;
+    while (line > 0 && (At(line).Visible || At(line).Highlight)) {
+        line = (IsConclusion(At(line)) ? At(line).Arg1 : line) - 1;
+    }
+    return line;
+}
+
+// The nearest shown highlight ahead of a line, an unfolded block's Premise included; 0 if there is
+// none.
+int ShownHighlightAhead(int line) {
+    int ahead = line - 1;
+    while (ahead > 0 && !(At(ahead).Visible && At(ahead).Highlight)) {
+        ahead = IsConclusion(At(ahead)) ? At(ahead).Arg1 : ahead - 1;
+    }
+    return ahead;
+}
+
+// Shows the lines but for those in closed blocks. The first of them, 0 if there is none.
+int ShowActiveLines(int first, int last) {
+    int firstShown = 0;
+    for (int line = first; line <= last;) {
+        if (IsClosedPremise(At(line))) {
+            line = At(line).Arg1;
+            continue;
+        }
+        At(line).Visible = true;
+        if (firstShown == 0) firstShown = line;
+        ++line;
+    }
+    return firstShown;
+}
+
+}  // namespace
+
+void HideAllDetails() {
+    Proof.RTB.SetFocus();
+    for (int line = 1; line < StmtCount;) {
+        if (IsClosedPremise(At(line))) {
+            HideLines(line, At(line).Arg1 - 1);
+            line = At(line).Arg1;
+            continue;
+        }
+        // A highlighted line stays as it was, shown or not.
+        if (!At(line).Highlight) At(line).Visible = false;
+        ++line;
+    }
+    if (InsertMode && InsertLine > 1) At(InsertLine - 1).Visible = true;
+    if (StmtCount > 0) At(StmtCount).Visible = true;
+    Redraw();
+    InsertMode ? PutCaretBehindInsertMark() : CaretToEnd();
+}
+
+void ShowAllActive() {
+    Proof.RTB.SetFocus();
+    for (int line = 1; line <= StmtCount;) {
+        if (IsClosedPremise(At(line))) {
+            HideLines(line, At(line).Arg1 - 1);
+            line = At(line).Arg1;
+            continue;
+        }
+        At(line).Visible = true;
+        ++line;
+    }
+    Redraw();
+    InsertMode&& InsertLine >= 2 ? PutCaretBehindInsertMark() : CaretToEnd();
+}
+
+void ShowLastActive() {
+    Proof.RTB.SetFocus();
+    const int last = LastFoldedLine();
+    if (last == 0) return Beep("No active line is folded away but for highlighted ones.");
+    const int highlight = ShownHighlightAhead(last);
+    // An unfolded block at the start of the stretch stays as it is.
+    const bool ofBlock = highlight > 0 && IsClosedPremise(At(highlight));
+    const int firstShown = ShowActiveLines(ofBlock ? At(highlight).Arg1 : highlight + 1, last);
+    Redraw();
+    CaretToEnd();
+    Proof.RTB.SelStart = At(highlight > 0 ? highlight : firstShown).ViewerStartLine - 1;
+}
+
+void ShowAllStmts() {
+    Proof.RTB.SetFocus();
+    for (int line = 1; line <= StmtCount; ++line) At(line).Visible = true;
+    Redraw();
+    Proof.RTB.SelStart = 0;
+    CaretToEnd();
+}
+
+void ShowHighlights() {
+    Proof.RTB.SetFocus();
+    for (int line = 1; line <= StmtCount; ++line) {
+        At(line).Visible = At(line).Highlight || IsConclusion(At(line));
+    }
+    Redraw();
+    CaretToEnd();
+}
+
+}  // namespace tessaryn
