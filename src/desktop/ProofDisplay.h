@@ -74,6 +74,7 @@ class ProofDisplay : public QAbstractScrollArea {
     bool MoveByKey(const QKeyEvent& event);
     bool MoveSideways(int key, Unit unit, bool extend);
     void DragTo(const QPoint& place);
+    void LeaveBlockEnd();
     void DoubleClickAtCaret();
 
     RichTextBox& box_;

@@ -73,9 +73,19 @@ int ProofDisplay::Previous(int position, Unit unit) {
 
 // --- keyboard
 
+// Each new statement leaves the caret behind its annotation, where nothing is hit. A person who
+// presses Enter there means that statement: step back onto it.
+void ProofDisplay::LeaveBlockEnd() {
+    if (box_.SelLength > 0 || caret_ == 0) return;
+    const std::string& text = box_.GetText();
+    const auto at = static_cast<std::size_t>(caret_);
+    if (text.compare(at, 4, "\r\n\r\n") == 0 && text[at - 1] != '\n') MoveCaret(caret_ - 1, false);
+}
+
 void ProofDisplay::keyPressEvent(QKeyEvent* event) {
     const bool control = (event->modifiers() & Qt::ControlModifier) != 0;
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        LeaveBlockEnd();
         if (control) {
             DoubleClickAtCaret();
         } else {
