@@ -13,10 +13,6 @@
 namespace tessaryn {
 namespace {
 
-bool IsTerm(int rule) {
-    return (rule >= Node::Atom && rule <= Node::Subt) || rule == Node::Func;
-}
-
 bool IsAtomToken(std::size_t k) {
     const int node = TokenTable[k - 1].DPtr;
     return TokenTable[k].Position > 0 && node != 0 &&
@@ -64,7 +60,7 @@ std::string FindMembership(EnteredTerm& term, const std::vector<int>& lines) {
 
 std::string CheckTerm(const TokenList& clicked, EnteredTerm& term) {
     const ParseRec& root = ParseTable.back();
-    if (!IsTerm(root.Rule)) return "Expecting free variable expression";
+    if (!IsAlgebraic(root.Rule)) return "Expecting free variable expression";
     if (const std::string fault = CheckBoundNames(clicked); !fault.empty()) return fault;
     term.isName = root.Rule == Node::Atom;
     term.text = term.isName ? root.Name : NewStmtText;

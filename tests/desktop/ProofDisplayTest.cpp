@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <ctime>
 #include <string>
 #include <vector>
 
@@ -200,21 +200,24 @@ TEST(ProofDisplay, CostsOnlyWhatIsInSight) {
     Displayed shown("");
     shown.box.SetBlocks(text, blocks, formatter);
 
-    QElapsedTimer clock;
-    clock.start();
+    // Processor time: the machine may be busy with other things.
+    const auto milliseconds = [](std::clock_t since) {
+        return 1000.0 * static_cast<double>(std::clock() - since) / CLOCKS_PER_SEC;
+    };
+    std::clock_t began = std::clock();
     shown.display.Sync();
     shown.display.grab();
-    EXPECT_LT(clock.elapsed(), 1000);
+    EXPECT_LT(milliseconds(began), 1000);
     EXPECT_LT(formatted, 60);
     EXPECT_LT(shown.display.LinesLaidOut(), 60);
 
-    clock.restart();
+    began = std::clock();
     QScrollBar* bar = shown.display.verticalScrollBar();
     for (int page = 0; page < 100; ++page) {
         bar->setValue(bar->maximum() / 100 * page);
         shown.display.grab();
     }
-    EXPECT_LT(clock.elapsed(), 100 * 50);  // 20 a second, on any machine
+    EXPECT_LT(milliseconds(began), 100 * 50);  // 20 a second, on any machine
     EXPECT_LT(formatted, 60 * 101);
 
     bar->setValue(0);
@@ -222,8 +225,8 @@ TEST(ProofDisplay, CostsOnlyWhatIsInSight) {
     const int laidOut = shown.display.LinesLaidOut();
     blocks.push_back({3, 1});
     shown.box.SetBlocks(text + "Q\r\n", blocks, formatter);
-    clock.restart();
+    began = std::clock();
     shown.display.Sync();
-    EXPECT_LT(clock.elapsed(), 100);
+    EXPECT_LT(milliseconds(began), 100);
     EXPECT_EQ(shown.display.LinesLaidOut(), laidOut);
 }
