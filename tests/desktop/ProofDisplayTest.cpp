@@ -129,6 +129,16 @@ TEST(ProofDisplay, DoubleClickAddsOnlyWhatTheFirstClickLeft) {
     EXPECT_EQ(shown.events.find("double"), std::string::npos);
 }
 
+// A new statement leaves the caret behind its block, where a click would hit nothing.
+TEST(ProofDisplay, EnterBehindABlockMeansItsStatement) {
+    Displayed shown("1\tP\r\n\tPremise\r\n\r\n");
+    shown.display.activateWindow();
+    shown.box.SelStart = 13;
+    shown.display.Sync();
+    QTest::keyClick(&shown.display, Qt::Key_Return);
+    EXPECT_EQ(shown.events, "click 12+0;up;");
+}
+
 TEST(ProofDisplay, KeyboardMovesSelectsAndClicks) {
     const std::string text = "1\tP & Q\r\n\r\n2\tR \xC3\xA9\r\n";
     Displayed shown(text);
