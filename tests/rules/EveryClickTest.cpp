@@ -1,0 +1,260 @@
+// Every rule of the menus against a click at every place of several proofs: a click either writes,
+// as one step that Undo takes back, or beeps with a reason and leaves the document as it was.
+#include <gtest/gtest.h>
+
+#include "Workbench.h"
+#include "cli/HeadlessPlatform.h"
+#include "cli/Keyboard.h"
+#include "document/Invariants.h"
+#include "document/Statement.h"
+#include "expr/Lex.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "platform/Events.h"
+
+namespace tessaryn {
+namespace {
+
+// --- the proofs
+
+std::string Choose(const std::string& item) {
+    return "choose " + item + "\n";
+}
+
+std::string Click(int line) {
+    return "click " + std::to_string(line) + "\n";
+}
+
+std::string Rewrites() {
+    return EnterPremise("P & Q | ~~[R => ~S]") + EnterPremise("[P <=> Q] & R => ~[~P & ~[~Q]]") +
+           EnterPremise("[P => T] & [T => P]") + EnterPremise("P | R | S") +
+           EnterPremise("[P => T] & [R => T] & [S => T]") + EnterPremise("P") +
+           EnterPremise("Abcdefghij & Klmnopqrst\r\n=> Uvwxyz") + Choose("optConclusion") +
+           EnterPremise("Q & ~Q");
+}
+
+std::string Quantifiers() {
+    return EnterAxiom("ALL(a):ALL(b):[R(a,b) => EXIST(c):f(c)=a]") +
+           EnterAxiom("EXIST(x):[P(x) & ALL(d):Q(x,d)]") + EnterPremise("~EXIST(a):~P(a)") +
+           EnterPremise("x @ s & R(x,y)") + Choose("optConclusion") + "choose Continue\n" +
+           EnterPremise("P(k) | ALL(b):[b=k => P(b)]") + Choose("optSpec") + Click(2) +
+           "set Text1 \"m\"\nchoose Continue\n";
+}
+
+std::string Terms() {
+    return EnterAxiom("ALL(a):[a @ s => a+2=f(a)]") + EnterPremise("m+k @ s & m @ s") +
+           Choose("optSplit") + Click(2) + EnterPremise("m+k=f(m)") +
+           EnterPremise("(m,k) @ t & ~m+k=k") + EnterPremise("Set(s) & Set'(t)") +
+           Choose("optSplit") + Click(7) + EnterPremise("m*k^2<=_k-1/m & f(m+k)=m");
+}
+
+// The insertion point in the middle: what stands behind it can't be used.
+std::string Inserting() {
+    return Quantifiers() + Choose("optInsert") + "click 6 number\n";
+}
+
+// --- what answers a dialogue
+
+// Either cancels, or tries three entries, each time the next ones of the list, until the dialogue
+// takes one.
+class Answers {
+  public:
+    explicit Answers(bool accept) : accept_(accept) {}
+
+    void Restart() { tries_ = 0; }
+
+    void Reply() {
+        Form& form = TopForm();
+        // The empty entry stands for what the rule has filled in.
+        static const std::vector<std::string> entries = {
+            "", "2", "n", "c", "k", "a, b", "n, c", "m+k", "P(k)", "Q & Q(m,k)", "ALL(b):ALL(a):",
+            "#"};
+        if (!accept_ || tries_++ >= 3) {
+            form.CloseRequested();
+            form.Hide();
+            return;
+        }
+        const std::string& entry = entries[next_++ % entries.size()];
+        const std::size_t beeps = Headless.Beeps.size();
+        if (!entry.empty()) Fill(form, entry);
+        Press(form, {"cmdSelectAll"});
+        if (Press(form, {"Continue", "cmdContinue"}) && form.Visible) {
+            EXPECT_GT(Headless.Beeps.size(), beeps) << form.Name << " stays open for " << entry;
+        }
+    }
+
+  private:
+    static void Fill(Form& form, const std::string& entry) {
+        for (Control* control : form.Controls) {
+            const auto* surface = dynamic_cast<RichTextBox*>(control);
+            const bool isBox = surface != nullptr ? !surface->ReadOnly
+                                                  : dynamic_cast<TextBox*>(control) != nullptr;
+            if (isBox && control->Visible && control->Enabled) ReplaceByTyping(*control, entry);
+        }
+    }
+
+    static bool Press(Form& form, std::initializer_list<const char*> names) {
+        for (const char* name : names) {
+            Control* button = form.Find(name);
+            if (button != nullptr && SendChoose(*button)) return true;
+        }
+        return false;
+    }
+
+    bool accept_;
+    int tries_ = 0;
+    std::size_t next_ = 0;
+};
+
+// --- the clicks
+
+void ListItems(const MenuItem& title, std::vector<MenuItem*>& items) {
+    for (MenuItem* item : title.Items) {
+        ListItems(*item, items);
+        if (item->Enabled && item->Visible && item->Click) items.push_back(item);
+    }
+}
+
+std::vector<MenuItem*> RuleItems() {
+    std::vector<MenuItem*> items;
+    for (const MenuItem* title : {&Proof.mnuLogic, &Proof.mnuSets, &Proof.mnuNumbers}) {
+        ListItems(*title, items);
+    }
+    return items;
+}
+
+// One place of the display for each sign, number and annotation, and the two ends.
+std::vector<int> AllPlaces() {
+    std::vector<int> places = {0, Proof.RTB.TextLength()};
+    for (int line = 1; line <= StmtCount; ++line) {
+        const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+        if (!stmt.Visible) continue;
+        const auto add = [&](int index) { places.push_back(index - ViewOffset(stmt) - 1); };
+        add(NumberStart(stmt));
+        add(stmt.StartRule + 1);
+        TokenList tokens;
+        std::string error;
+        int errorPos = 0;
+        Lex(std::string(StoredText(line)), tokens, error, errorPos);
+        for (const TokenRec& token : tokens) {
+            if (token.Position > 0) add(stmt.StartStmt + token.Position - 1);
+        }
+    }
+    return places;
+}
+
+std::vector<int> EveryNth(const std::vector<int>& places, std::size_t n) {
+    std::vector<int> some;
+    for (std::size_t k = 0; k < places.size(); k += n) some.push_back(places[k]);
+    return some;
+}
+
+struct Watch {
+    explicit Watch(bool accept) : answers(accept) {}
+
+    // Begins a command or a click.
+    void Begin(const MenuItem& item, int place) {
+        where = item.Name + " at " + std::to_string(place);
+        text = ProofText;
+        beeps = Headless.Beeps.size();
+        mode = RuleMode;
+        first = FirstClick;
+        forms = FormsShown;
+        answers.Restart();
+    }
+
+    void CheckReasons() {
+        for (; beepsChecked < Headless.Beeps.size(); ++beepsChecked) {
+            const std::string& reason = Headless.Beeps[beepsChecked];
+            EXPECT_FALSE(reason.empty()) << where;
+            EXPECT_EQ(reason.find("Something went wrong"), reason.npos) << where << ": " << reason;
+        }
+    }
+
+    // What must hold once it is over. True if a statement has been written.
+    bool End() {
+        CheckReasons();
+        EXPECT_EQ(Proof.RTB.TextLength(), static_cast<int>(ProofText.size())) << where;
+        if (ProofText == text) {
+            const bool waits = RuleMode == mode && FirstClick == first && FormsShown == forms;
+            EXPECT_TRUE(!waits || Headless.Beeps.size() > beeps) << where << ": no reason given";
+            return false;
+        }
+        EXPECT_EQ(CheckDocument(), "") << where;
+        EXPECT_EQ(RuleMode, 0) << where;
+        EXPECT_TRUE(SendChoose(Proof.optUndo)) << where;
+        EXPECT_EQ(ProofText, text) << where << ": Undo does not take it back";
+        ++written;
+        return true;
+    }
+
+    Answers answers;
+    std::string where;
+    std::string text;
+    std::size_t beeps = 0;
+    std::size_t beepsChecked = 0;
+    int mode = 0;
+    bool first = false;
+    int forms = 0;
+    int written = 0;
+};
+
+// Makes the rule pending again where the last click has ended it. False if it is no click rule.
+bool MakePending(const MenuItem& item) {
+    if (RuleMode == 0) item.Click();
+    return RuleMode != 0;
+}
+
+void ClickAt(Watch& watch, const MenuItem& item, int place) {
+    watch.Begin(item, place);
+    SendClick(Proof.RTB, place);
+    watch.End();
+}
+
+void TryItem(Watch& watch, const MenuItem& item, const std::vector<int>& places) {
+    watch.Begin(item, -1);
+    item.Click();
+    watch.End();
+    std::size_t begin = 0;
+    for (const int place : places) {
+        if (!MakePending(item)) return;
+        const bool awaitsFirst = FirstClick;
+        ClickAt(watch, item, place);
+        if (RuleMode == 0 || FirstClick == awaitsFirst) continue;
+        // The first of two clicks has been taken. The second ones begin elsewhere each time.
+        for (std::size_t k = begin++ % 7; k < places.size(); k += 7) {
+            ClickAt(watch, item, places[k]);
+            if (RuleMode != 0) continue;
+            item.Click();
+            SendClick(Proof.RTB, place);
+        }
+        RuleMode = 0;
+    }
+    RuleMode = 0;
+}
+
+class EveryClick : public testing::TestWithParam<std::string (*)()> {};
+
+TEST_P(EveryClick, WritesOrTellsWhyNot) {
+    for (const bool accept : {false, true}) {
+        ASSERT_EQ(Build(GetParam()()), "");
+        Watch watch(accept);
+        Headless.NextStep = [&] {
+            watch.answers.Reply();
+            return true;
+        };
+        const std::vector<int> places = EveryNth(AllPlaces(), accept ? 1 : 5);
+        for (const MenuItem* item : RuleItems()) {
+            TryItem(watch, *item, places);
+            ASSERT_FALSE(HasFailure()) << "with " << item->Name;
+        }
+        EXPECT_GT(watch.written, accept ? 100 : 5);
+        Headless.NextStep = nullptr;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Proofs, EveryClick,
+                         testing::Values(Rewrites, Quantifiers, Terms, Inserting));
+
+}  // namespace
+}  // namespace tessaryn
