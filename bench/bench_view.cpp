@@ -1,0 +1,162 @@
+// Folding, deleting, commenting and finding in proofs of 100 to 32,000 statements, from the user's
+// action to the display model.
+#include <benchmark/benchmark.h>
+
+#include "LargeProofs.h"
+#include "cli/HeadlessPlatform.h"
+#include "document/Statement.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "platform/Events.h"
+#include "view/Comment.h"
+#include "view/Display.h"
+#include "view/Find.h"
+#include "view/Warning.h"
+
+namespace tessaryn {
+namespace {
+
+const Statement& At(int number) {
+    return StmtTable[static_cast<std::size_t>(number)];
+}
+
+// What the desktop takes after each command: the changed range, and the formats of a screenful.
+void LookAtScreen() {
+    benchmark::DoNotOptimize(Proof.RTB.TakeChange());
+    const int caret = Proof.RTB.SelStart;
+    benchmark::DoNotOptimize(Proof.RTB.RunsIn(std::max(0, caret - 4000),
+                                              std::min(Proof.RTB.TextLength(), caret + 1000)));
+}
+
+// index: 1-based in ProofText, in a shown statement.
+void Click(int line, int index) {
+    SendClick(Proof.RTB, index - ViewOffset(At(line)) - 1);
+}
+
+void SayContinue() {
+    Headless.NextStep = [] {
+        SendChoose(Warning.Visible ? Warning.cmdContinue : Comment.Continue);
+        return true;
+    };
+}
+
+// `prepare`, and putting the proof back to what it was after that, is not timed.
+template <class Prepare, class Command>
+void Measure(benchmark::State& state, Prepare prepare, Command command) {
+    const int count = static_cast<int>(state.range(0));
+    MakeLargeProof(count);
+    SayContinue();
+    prepare(count);
+    const auto table = StmtTable;
+    const auto text = ProofText;
+    for (auto _ : state) {
+        command(count);
+        LookAtScreen();
+        state.PauseTiming();
+        StmtTable = table;
+        StmtCount = count;
+        ProofText = text;
+        Headless.Beeps.clear();
+        ResetFonts();
+        LookAtScreen();
+        state.ResumeTiming();
+    }
+    state.SetComplexityN(count);
+}
+
+void Nothing(int) {}
+
+template <MenuItem ProofForm::*item>
+void View(benchmark::State& state) {
+    Measure(state, Nothing, [](int) { SendChoose(Proof.*item); });
+}
+
+template <MenuItem ProofForm::*item>
+void ViewOfFolded(benchmark::State& state) {
+    Measure(
+        state, [](int) { SendChoose(Proof.optHideDetails); }, [](int) { SendChoose(Proof.*item); });
+}
+
+void FoldBlockInTheMiddle(benchmark::State& state) {
+    Measure(state, Nothing, [](int count) {
+        const int conclusion = count / 20 * 10 + 8;
+        Click(conclusion, At(conclusion).StartRule);
+    });
+}
+
+void ToggleNumberInTheMiddle(benchmark::State& state) {
+    Measure(state, Nothing, [](int count) { Click(count / 2, NumberStart(At(count / 2))); });
+}
+
+// Nearly all of the proof uses the names that line 2 brings in.
+void DeleteLine2AndAllOnIt(benchmark::State& state) {
+    Measure(state, Nothing, [](int) {
+        StartClickRule(DeleteAllRefMode);
+        Click(2, At(2).StartStmt);
+    });
+}
+
+// Nothing hangs on line 10, but all lines behind it get new numbers.
+void DeleteLine10Alone(benchmark::State& state) {
+    Measure(state, Nothing, [](int) {
+        StartClickRule(DeleteAllRefMode);
+        Click(10, At(10).StartStmt);
+    });
+}
+
+void CommentOnLine2(benchmark::State& state) {
+    Measure(state, Nothing, [](int) {
+        Headless.NextStep = [] {
+            Comment.CommentBox.SetText("Two lines\r\nof comment");
+            SendChoose(Comment.Continue);
+            return true;
+        };
+        Click(2, At(2).StartStmt);
+    });
+}
+
+void FindWhatIsNowhere(benchmark::State& state) {
+    MakeLargeProof(static_cast<int>(state.range(0)));
+    SendChoose(Proof.optFind);
+    Find.SearchStringTextBox.SetText("P(x,y) & x @ t");
+    for (auto _ : state) {
+        SendChoose(Find.cmdFind);
+        Headless.Beeps.clear();
+    }
+    state.SetComplexityN(state.range(0));
+}
+
+// Each place is looked at, and none counts.
+void FindWhatIsHidden(benchmark::State& state) {
+    MakeLargeProof(static_cast<int>(state.range(0)));
+    SendChoose(Proof.optHideDetails);
+    SendChoose(Proof.optFind);
+    Find.SearchStringTextBox.SetText("Split, ");
+    for (auto _ : state) {
+        SendChoose(Find.cmdFind);
+        Headless.Beeps.clear();
+    }
+    state.SetComplexityN(state.range(0));
+}
+
+void Sizes(benchmark::internal::Benchmark* bench) {
+    bench->Arg(100)->Arg(1000)->Arg(10000)->Arg(32000)->Unit(benchmark::kMillisecond);
+}
+
+using P = ProofForm;
+BENCHMARK(View<&P::optHideDetails>)->Name("HideAllDetails")->Apply(Sizes);
+BENCHMARK(View<&P::optShowHighlights>)->Name("ShowHighlights")->Apply(Sizes);
+BENCHMARK(ViewOfFolded<&P::optShowDetails>)->Name("ShowAllActive")->Apply(Sizes);
+BENCHMARK(ViewOfFolded<&P::optShowLastDetails>)->Name("ShowLastActive")->Apply(Sizes);
+BENCHMARK(ViewOfFolded<&P::optShowAllStmts>)->Name("ShowAllStmts")->Apply(Sizes);
+BENCHMARK(FoldBlockInTheMiddle)->Apply(Sizes);
+BENCHMARK(ToggleNumberInTheMiddle)->Apply(Sizes);
+BENCHMARK(DeleteLine2AndAllOnIt)->Apply(Sizes);
+BENCHMARK(DeleteLine10Alone)->Apply(Sizes);
+BENCHMARK(CommentOnLine2)->Apply(Sizes);
+BENCHMARK(FindWhatIsNowhere)->Apply(Sizes);
+BENCHMARK(FindWhatIsHidden)->Apply(Sizes);
+
+}  // namespace
+}  // namespace tessaryn

@@ -1,0 +1,87 @@
+// Comments that are long or hold what the program itself writes into its text.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "Workbench.h"
+#include "document/Invariants.h"
+#include "document/ProofFile.h"
+#include "document/Statement.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "view/Comment.h"
+#include "view/CommentText.h"
+#include "view/Undo.h"
+
+namespace tessaryn {
+namespace {
+
+std::string Long() {
+    std::string text;
+    while (text.size() < 100000) text += "Line " + std::to_string(text.size()) + " @ \xC3\xB1\r\n";
+    return text + "end";
+}
+
+TEST(Comments, SurviveEditingSavingReopeningAndUndo) {
+    const std::string texts[] = {
+        "\r\n\r\nbehind line ends",
+        "own\tTABs\r\n\tin it",
+        "{\\rtf1\\b bold}\\par <b>&amp;</b> \"1\tP\"\r\n\tPremise\r\n\r\n2",
+        "\xE2\x88\x80x \xCE\xB5 \xF0\x9F\x98\x80 @ e",
+        "lone CR LF at the ends of words \r\n \r\n x",
+        Long(),
+    };
+    for (const std::string& text : texts) {
+        ASSERT_EQ(Build(EnterPremise("P & Q") + "choose optSplit\nclick 1\nchoose optConclusion\n" +
+                        "choose optIntro\nchoose cmdClear\nchoose Continue\n"),
+                  "");
+        for (int line = 0; line <= StmtCount; ++line) {
+            line == 0 ? SetIntroduction(text) : SetComment(line, text);
+            ASSERT_EQ(CheckDocument(), "");
+        }
+        const auto expectAll = [&](const char* when) {
+            ASSERT_EQ(CheckDocument(), "") << when;
+            EXPECT_TRUE(Introduction() == text) << when;
+            for (int line = 1; line <= StmtCount; ++line) {
+                EXPECT_TRUE(CommentOf(line) == text) << when << ", line " << line;
+            }
+        };
+        expectAll("after editing");
+        const auto stored = ReadProof(WriteProof());
+        ASSERT_TRUE(stored);
+        EXPECT_TRUE(stored->text == ProofText);
+        SetComment(3, "");
+        Undo();
+        expectAll("after undo");
+    }
+}
+
+// The editing box hands on what it was given, whatever is in it.
+TEST(Comments, PassTheBoxUnchanged) {
+    for (const std::string& text : {Long(), std::string("a\tb \\'e4 {x}\r\n\r\n\tc @ d")}) {
+        ASSERT_EQ(Build(EnterPremise("P")), "");
+        SetComment(1, text);
+        Comment.Visible = true;
+        EditingIntro = false;
+        CommentLine = 1;
+        Comment.Activated();
+        Comment.Continue.Click();
+        EXPECT_TRUE(CommentOf(1) == text);
+        EXPECT_FALSE(Comment.Visible);
+    }
+}
+
+TEST(Comments, AnEmptyIntroductionLeavesItsLineEnds) {
+    ASSERT_EQ(Build("choose optIntro\nchoose Continue\n" + EnterPremise("P")), "");
+    EXPECT_EQ(IntroEnd, 0);
+    EXPECT_EQ(StmtTable[1].StartLine, 5);
+    ASSERT_EQ(Build("choose optIntro\nchoose Continue\n" + EnterPremise("P") +
+                    "click at 0\nclick 1\nexpect form Comment\nchoose Cancel\n"
+                    "choose optIntro\nset CommentBox \"I\"\nchoose Continue\n"
+                    "choose optIntro\nchoose cmdClear\nchoose Continue\n"),
+              "");
+    EXPECT_EQ(StmtTable[1].StartLine, 1);
+}
+
+}  // namespace
+}  // namespace tessaryn
