@@ -18,8 +18,6 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "rules/Operands.h"
-#include "view/Undo.h"
 
 namespace tessaryn {
 namespace {
@@ -67,17 +65,10 @@ void WriteAxiomGroup(const AxiomGroup& group) {
         return;
     }
     if (!NamesAreFree(group)) return;
-    if (!StatementsFit(static_cast<int>(group.texts.size()))) return FinishRule(false);
     Proof.RTB.SetFocus();
     RuleMode = Rule::Axiom;
     Arg1Pending = Arg2Pending = 0;
-    BackUpUndo();
-    for (const char* text : group.texts) {
-        NewStmtText = text;
-        if (!ParseOrReport()) return FinishRule(false);
-        PutStmt();
-    }
-    FinishRule(true);
+    FinishRule(WriteStatements({group.texts.begin(), group.texts.end()}));
 }
 
 void WriteDefinition(const OperatorDefinition& definition) {

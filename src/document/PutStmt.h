@@ -1,6 +1,9 @@
 // The one door through which a statement enters the proof.
 #pragma once
 
+#include <string>
+#include <vector>
+
 namespace tessaryn {
 
 // Writes NewStmtText as a statement with rule RuleMode and references Arg1Pending, Arg2Pending, at
@@ -17,5 +20,9 @@ bool StatementsFit(int count);
 // The end of a rule: checks that there is room, takes the undo snapshot and calls PutStmt. False if
 // the statement could not be written.
 bool WriteStatement();
+
+// The same for several texts, which become statements one behind the other with one rule and one
+// pair of references. Either all are written or none.
+bool WriteStatements(const std::vector<std::string>& texts);
 
 }  // namespace tessaryn

@@ -1,6 +1,7 @@
 // The statement writer: canonical text, record, block, renumbering of what follows.
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "document/PutStmt.h"
 #include "document/Statement.h"
@@ -26,14 +27,21 @@ int Length(const std::string& text) {
     return static_cast<int>(text.size());
 }
 
+struct Canonical {
+    std::string text;
+    std::string freeVars;
+};
+
 // Brings NewStmtText into canonical form, with its tables. False if it does not parse.
-bool MakeCanonical() {
+bool MakeCanonical(Canonical& stmt) {
     NewStmtText = Trim(NewStmtText);
     Parse();
     if (!ParseError.empty()) return false;
     NewStmtText = PrintExpression();
     Parse();
-    return ParseError.empty();
+    if (!ParseError.empty()) return false;
+    stmt = {NewStmtText, CollectFreeVars()};
+    return true;
 }
 
 std::string IndentContinuationLines(const std::string& text) {
@@ -50,12 +58,12 @@ bool MarksAsHighlight(int rule) {
 }
 
 // Rule, references and name lists of statement `line`, which stands in the table already.
-void FillRecord(int line) {
+void FillRecord(int line, const std::string& freeVars) {
     Statement& stmt = At(line);
     stmt.Rule = RuleMode;
     stmt.Arg1 = Arg1Pending;
     stmt.Arg2 = Arg2Pending;
-    stmt.FreeVars = CollectFreeVars();
+    stmt.FreeVars = freeVars;
     stmt.SpecName = RuleMode == Rule::ESpec || RuleMode == Rule::USpec ? SpecName : "";
     stmt.FixedVars = FixedNames(stmt.FreeVars, line);
     stmt.Visible = true;
@@ -63,12 +71,13 @@ void FillRecord(int line) {
                      (stmt.Rule == Rule::Split && MarksAsHighlight(At(stmt.Arg1).Rule));
 }
 
-int NewStartLine(int line) {
+// Where the block of the first of `count` new statements begins.
+int NewStartLine(int line, int count) {
     if (!InsertMode) return Length(ProofText) + 1;
     if (line > 1) return At(line - 1).EndRule + 5;
     if (IntroEnd > 0) return IntroEnd + 5;
     // Where statement 1 began; an empty introduction may have left its line ends ahead of it.
-    return StmtCount > 1 ? At(2).StartLine : Length(ProofText) + 1;
+    return StmtCount > count ? At(1 + count).StartLine : Length(ProofText) + 1;
 }
 
 int NewViewerStartLine(int line) {
@@ -79,11 +88,11 @@ int NewViewerStartLine(int line) {
 }
 
 // Lays the block out, sets the indexes of statement `line`, and returns the block.
-std::string BuildBlock(int line) {
+std::string BuildBlock(int line, const std::string& canonical, int start) {
     Statement& stmt = At(line);
     const std::string number = std::to_string(line);
-    const std::string text = IndentContinuationLines(NewStmtText);
-    stmt.StartLine = NewStartLine(line);
+    const std::string text = IndentContinuationLines(canonical);
+    stmt.StartLine = start;
     stmt.ViewerStartLine = NewViewerStartLine(line);
     stmt.EndUserComment = 0;
     stmt.StartStmt = stmt.StartLine + Length(number) + 1;
@@ -95,20 +104,20 @@ std::string BuildBlock(int line) {
     return block;
 }
 
-void ShiftReference(int& reference, int insertedLine) {
-    if (reference >= insertedLine) ++reference;
+void ShiftReference(int& reference, int insertedLine, int count) {
+    if (reference >= insertedLine) reference += count;
 }
 
 // Copies the old block of statement `line` to the end of `text` with its new number and references,
 // and sets its indexes to where it now lies.
-void AppendRenumbered(std::string& text, int line, int insertedLine) {
+void AppendRenumbered(std::string& text, int line, int insertedLine, int count) {
     Statement& stmt = At(line);
     const int oldStart = stmt.StartLine;
     const int oldNumber = NumberStart(stmt);
     const int oldDigits = stmt.StartStmt - 1 - oldNumber;
     const int oldRule = stmt.StartRule;
-    ShiftReference(stmt.Arg1, insertedLine);
-    ShiftReference(stmt.Arg2, insertedLine);
+    ShiftReference(stmt.Arg1, insertedLine, count);
+    ShiftReference(stmt.Arg2, insertedLine, count);
     const std::string number = std::to_string(line);
     const std::string annotation = RuleAnnotation(stmt.Rule, stmt.Arg1, stmt.Arg2);
     const int moreDigits = Length(number) - oldDigits;
@@ -126,41 +135,51 @@ void AppendRenumbered(std::string& text, int line, int insertedLine) {
     stmt.EndRule = stmt.StartRule + Length(annotation) - 1;
 }
 
-// Puts the block in at its line and renumbers what follows, in one pass over the text.
-void InsertBlock(int line, const std::string& block) {
+// Puts the blocks of `count` statements in at their line and renumbers what follows, in one pass
+// over the text.
+void InsertBlocks(int line, int count, const std::string& blocks) {
     const auto before = static_cast<std::size_t>(At(line).StartLine - 1);
+    const int behind = line + count;
     std::string text;
-    text.reserve(ProofText.size() + block.size() + 2 * static_cast<std::size_t>(StmtCount));
+    text.reserve(ProofText.size() + blocks.size() + 2 * static_cast<std::size_t>(StmtCount));
     text.append(ProofText, 0, before);
-    text += block;
-    for (int later = line + 1; later <= StmtCount; ++later) AppendRenumbered(text, later, line);
+    text += blocks;
+    for (int later = behind; later <= StmtCount; ++later) {
+        AppendRenumbered(text, later, line, count);
+    }
     ProofText = std::move(text);
 
-    int start = At(line).ViewerStartLine + BlockLength(At(line));
-    for (int later = line + 1; later <= StmtCount; ++later) {
+    int start = At(behind - 1).ViewerStartLine + BlockLength(At(behind - 1));
+    for (int later = behind; later <= StmtCount; ++later) {
         if (!At(later).Visible) continue;
         At(later).ViewerStartLine = start;
         start += BlockLength(At(later));
     }
-    ++InsertLine;
+    InsertLine += count;
     ShowInsertLine();
 }
 
-// Enters the canonical statement in NewStmtText and the tables.
-void PutCanonical() {
+// Enters the statements one behind the other.
+void PutCanonical(const std::vector<Canonical>& stmts) {
     const int line = InsertMode ? InsertLine : StmtCount + 1;
-    StmtTable.insert(StmtTable.begin() + line, Statement());
-    ++StmtCount;
-    FillRecord(line);
-    const std::string block = BuildBlock(line);
+    const int count = static_cast<int>(stmts.size());
+    StmtTable.insert(StmtTable.begin() + line, stmts.size(), Statement());
+    StmtCount += count;
+    const int start = NewStartLine(line, count);
+    std::string blocks;
+    int next = line;
+    for (const Canonical& stmt : stmts) {
+        FillRecord(next, stmt.freeVars);
+        blocks += BuildBlock(next++, stmt.text, start + Length(blocks));
+    }
     if (InsertMode) {
-        InsertBlock(line, block);
+        InsertBlocks(line, count, blocks);
     } else {
-        ProofText += block;
+        ProofText += blocks;
     }
     ResetFonts();
     Proof.RTB.SelStart = 0;
-    Proof.RTB.SelStart = ViewerEndRule(At(line));
+    Proof.RTB.SelStart = ViewerEndRule(At(next - 1));
 }
 
 }  // namespace
@@ -175,19 +194,27 @@ bool StatementsFit(int count) {
 
 void PutStmt() {
     if (!StatementsFit(1)) return;
-    if (!MakeCanonical()) return ReportParseError();
-    PutCanonical();
+    Canonical stmt;
+    if (!MakeCanonical(stmt)) return ReportParseError();
+    PutCanonical({stmt});
 }
 
-bool WriteStatement() {
-    if (!StatementsFit(1)) return false;
-    if (!MakeCanonical()) {
+bool WriteStatements(const std::vector<std::string>& texts) {
+    if (!StatementsFit(static_cast<int>(texts.size()))) return false;
+    std::vector<Canonical> stmts(texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        NewStmtText = texts[i];
+        if (MakeCanonical(stmts[i])) continue;
         ReportParseError();
         return false;
     }
     BackUpUndo();
-    PutCanonical();
+    PutCanonical(stmts);
     return true;
+}
+
+bool WriteStatement() {
+    return WriteStatements({NewStmtText});
 }
 
 }  // namespace tessaryn
