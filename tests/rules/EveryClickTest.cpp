@@ -1,5 +1,6 @@
-// Every rule of the menus against a click at every place of several proofs: a click either writes,
-// as one step that Undo takes back, or beeps with a reason and leaves the document as it was.
+// Every rule of the menus, and the two deletions, against a click at every place of several proofs:
+// a click either writes, as one step that Undo takes back, or beeps with a reason and leaves the
+// document as it was.
 #include <gtest/gtest.h>
 
 #include "Workbench.h"
@@ -120,6 +121,8 @@ std::vector<MenuItem*> RuleItems() {
     for (const MenuItem* title : {&Proof.mnuLogic, &Proof.mnuSets, &Proof.mnuNumbers}) {
         ListItems(*title, items);
     }
+    items.push_back(&Proof.DeleteAllRef);
+    items.push_back(&Proof.DelAllSubsequent);
     return items;
 }
 
