@@ -98,6 +98,85 @@ void LayOutTestParser(FormWindow& window, QWidget& inside) {
     inside.resize(Columns(inside, 100), inside.fontMetrics().lineSpacing() * 20);
 }
 
+void LayOutSubsetFrm(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    for (const char* name : {"SubsetNameLabel", "SubsetName", "Label1", "BoundVars"}) {
+        Add(*rows, window.WidgetNamed(name));
+    }
+    Add(*rows, window.WidgetNamed("SelectExpressionLabel"));
+    QBoxLayout* tools = Row(
+        window, {"cmdUndo", "cmdRedo", "cmdCut", "cmdCopy", "cmdPaste", "cmdDelete", "cmdClear"});
+    tools->addStretch();
+    rows->addLayout(tools);
+    Add(*rows, window.WidgetNamed("SelectExpression"), 1);
+    ReserveLines(window.WidgetNamed("StatusLine"), 2);
+    Add(*rows, window.WidgetNamed("StatusLine"));
+    rows->addLayout(Answers(window, {"cmdContinue", "cmdCancel"}));
+    inside.resize(Columns(inside, 100), inside.fontMetrics().lineSpacing() * 26);
+}
+
+void LayOutInductionForm(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    for (const char* name : {"BoundVarLabel", "BoundVarTextBox", "PropertyLabel"}) {
+        Add(*rows, window.WidgetNamed(name));
+    }
+    Add(*rows, window.WidgetNamed("RTB"), 1);
+    ReserveLines(window.WidgetNamed("StatusLine"), 2);
+    Add(*rows, window.WidgetNamed("StatusLine"));
+    rows->addLayout(Answers(window, {"cmdContinue", "cmdReset", "cmdCancel"}));
+    inside.resize(Columns(inside, 100), inside.fontMetrics().lineSpacing() * 22);
+}
+
+void LayOutMyInputBox(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    Add(*rows, window.WidgetNamed("Label1"));
+    Add(*rows, window.WidgetNamed("Text1"));
+    ReserveLines(window.WidgetNamed("Label2"), 2);
+    Add(*rows, window.WidgetNamed("Label2"));
+    rows->addStretch();
+    rows->addLayout(Answers(window, {"Continue", "Cancel"}));
+    inside.resize(Columns(inside, 80), rows->sizeHint().height());
+}
+
+void LayOutSaveChanges(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    Add(*rows, window.WidgetNamed("FileName"));
+    rows->addStretch();
+    rows->addLayout(Answers(window, {"cmdYes", "cmdNo", "cmdCancel"}));
+    inside.resize(Columns(inside, 70), inside.fontMetrics().lineSpacing() * 7);
+}
+
+// What comes and goes keeps its room, so that the statement under the pointer stays where it is.
+void KeepRoom(QWidget* widget) {
+    if (widget == nullptr) return;
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+}
+
+// Generalize and Substitution: a statement with occurrences to pick, in the first with a name to
+// enter ahead.
+void LayOutOccurrences(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    if (QWidget* name = window.WidgetNamed("BoundVarTextBox"); name != nullptr) {
+        name->setMaximumWidth(Columns(inside, 24));
+        for (const char* part : {"BoundVarLabel", "BoundVarTextBox", "StatementTextLabel"}) {
+            KeepRoom(window.WidgetNamed(part));
+        }
+        QBoxLayout* row = Row(window, {"BoundVarLabel", "BoundVarTextBox"});
+        row->addStretch();
+        rows->addLayout(row);
+    }
+    Add(*rows, window.WidgetNamed("StatementTextLabel"));
+    Add(*rows, window.WidgetNamed("RTB"), 1);
+    ReserveLines(window.WidgetNamed("StatusLine"), 2);
+    Add(*rows, window.WidgetNamed("StatusLine"));
+    QBoxLayout* buttons = Row(window, {"cmdSelectAll", "cmdReset", "cmdContinue", "cmdCancel"});
+    buttons->insertStretch(2);
+    rows->addLayout(buttons);
+    inside.resize(Columns(inside, 90), inside.fontMetrics().lineSpacing() * 18);
+}
+
 void LayOutMyInputBox(FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
     Add(*rows, window.WidgetNamed("Label1"));
@@ -182,6 +261,8 @@ void LayOut(FormWindow& window, QWidget& inside) {
     static const std::map<std::string, Layout> layouts = {
         {"Proof", LayOutProof},
         {"TestParser", LayOutTestParser},
+        {"SubsetFrm", LayOutSubsetFrm},
+        {"InductionForm", LayOutInductionForm},
         {"MyInputBox", LayOutMyInputBox},
         {"SaveChanges", LayOutSaveChanges},
         {"Generalize", LayOutOccurrences},
