@@ -177,56 +177,6 @@ void LayOutOccurrences(FormWindow& window, QWidget& inside) {
     inside.resize(Columns(inside, 90), inside.fontMetrics().lineSpacing() * 18);
 }
 
-void LayOutMyInputBox(FormWindow& window, QWidget& inside) {
-    auto* rows = new QVBoxLayout(&inside);
-    Add(*rows, window.WidgetNamed("Label1"));
-    Add(*rows, window.WidgetNamed("Text1"));
-    ReserveLines(window.WidgetNamed("Label2"), 2);
-    Add(*rows, window.WidgetNamed("Label2"));
-    rows->addStretch();
-    rows->addLayout(Answers(window, {"Continue", "Cancel"}));
-    inside.resize(Columns(inside, 80), rows->sizeHint().height());
-}
-
-void LayOutSaveChanges(FormWindow& window, QWidget& inside) {
-    auto* rows = new QVBoxLayout(&inside);
-    Add(*rows, window.WidgetNamed("FileName"));
-    rows->addStretch();
-    rows->addLayout(Answers(window, {"cmdYes", "cmdNo", "cmdCancel"}));
-    inside.resize(Columns(inside, 70), inside.fontMetrics().lineSpacing() * 7);
-}
-
-// What comes and goes keeps its room, so that the statement under the pointer stays where it is.
-void KeepRoom(QWidget* widget) {
-    if (widget == nullptr) return;
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget->setSizePolicy(policy);
-}
-
-// Generalize and Substitution: a statement with occurrences to pick, in the first with a name to
-// enter ahead.
-void LayOutOccurrences(FormWindow& window, QWidget& inside) {
-    auto* rows = new QVBoxLayout(&inside);
-    if (QWidget* name = window.WidgetNamed("BoundVarTextBox"); name != nullptr) {
-        name->setMaximumWidth(Columns(inside, 24));
-        for (const char* part : {"BoundVarLabel", "BoundVarTextBox", "StatementTextLabel"}) {
-            KeepRoom(window.WidgetNamed(part));
-        }
-        QBoxLayout* row = Row(window, {"BoundVarLabel", "BoundVarTextBox"});
-        row->addStretch();
-        rows->addLayout(row);
-    }
-    Add(*rows, window.WidgetNamed("StatementTextLabel"));
-    Add(*rows, window.WidgetNamed("RTB"), 1);
-    ReserveLines(window.WidgetNamed("StatusLine"), 2);
-    Add(*rows, window.WidgetNamed("StatusLine"));
-    QBoxLayout* buttons = Row(window, {"cmdSelectAll", "cmdReset", "cmdContinue", "cmdCancel"});
-    buttons->insertStretch(2);
-    rows->addLayout(buttons);
-    inside.resize(Columns(inside, 90), inside.fontMetrics().lineSpacing() * 18);
-}
-
 // Buttons that follow each other share a row; all else has one of its own.
 void LayOutAnyForm(FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
