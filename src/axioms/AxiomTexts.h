@@ -5,7 +5,6 @@
 // written.
 #pragma once
 
-#include <array>
 #include <span>
 
 #include "mainwindow/RuleModes.h"
@@ -14,14 +13,14 @@ namespace tessaryn {
 
 // --- schemes: one axiom for each number n that the user enters
 
-// In a text, {...} stands for its content repeated with i = 2 to n in the place of #:
-// "a1{,a#}" is a1,a2,a3 for n = 3, and "Set{'}" is Set'' .
+// In a text, {...} stands for its content repeated with 2 to n in the place of #: for n = 3,
+// "a1{,a#}" is "a1,a2,a3" and "Set{'}" is "Set''".
 struct AxiomScheme {
     int rule;
     const char* caption;
     const char* prompt;
-    int least;              // the smallest n
-    const char* text;       //
+    int least;  // the smallest n
+    const char* text;
     const char* textOfOne;  // for n = 1 where that has a form of its own; nullptr if not
     const char* refusal = "Invalid number";  // for an n below the least
 };

@@ -156,7 +156,9 @@ void InductionDialogue::Continue() {
     if (!TakeBoundVar() || !TakeProperty()) return;
     NewStmtText = InductionText(var_);
     Parse();
-    if (!ParseError.empty()) {
+    if (ParseError == UnableToParse) {
+        RefuseProperty(ParseError);  // too long with the property in it five times
+    } else if (!ParseError.empty()) {
         RefuseVar(InvalidVariable);
     } else if (!WriteStatement()) {
         RefuseProperty(ParseError);

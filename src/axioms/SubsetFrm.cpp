@@ -218,7 +218,8 @@ void SubsetDialogue::Continue() {
     NewStmtText = SubsetText({subset_, vars_, criterion_});
     Parse();
     if (!ParseError.empty()) {
-        Refuse("Inconsistent usage of bound variables", SelectExpression);
+        const bool tooLong = ParseError == UnableToParse;
+        Refuse(tooLong ? UnableToParse : "Inconsistent usage of bound variables", SelectExpression);
     } else if (!WriteStatement()) {
         Refuse(ParseError, SelectExpression);
     } else {

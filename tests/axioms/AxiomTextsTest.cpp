@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "Workbench.h"
 #include "axioms/EnteredNumber.h"
 #include "axioms/SchemeText.h"
 #include "expr/Blanks.h"
@@ -83,6 +84,24 @@ TEST(AxiomTexts, OfSetTheoryAreClosedFormulasUpToTheLargestNumber) {
     for (const FixedAxiom& axiom : {PairwiseUnion, ArbitraryUnion, AxiomOfChoice}) {
         ExpectAxiom(axiom.text);
     }
+}
+
+// The statement holds the property five times, the criterion once.
+TEST(AxiomDialogues, RefuseWhatGetsTooLong) {
+    std::string property = "k=k";
+    while (property.size() < 10000) property += "&k=k";
+    EXPECT_EQ(Build("choose optNumberAxioms\nchoose optAdd\nset BoundVarTextBox \"k\"\nset RTB " +
+                    Quoted(property) +
+                    "\nchoose cmdContinue\nexpect form InductionForm\nexpect count 7\n"
+                    "expect control StatusLine \"Unable to parse expression\"\n"),
+              "");
+    while (property.size() < 32766) property += " ";
+    EXPECT_EQ(Build("choose optNumberAxioms\nchoose optSubset\nclick 1\nset SubsetName \"y\"\n"
+                    "set BoundVars \"k\"\nset SelectExpression " +
+                    Quoted(property) +
+                    "\nchoose cmdContinue\nexpect form SubsetFrm\nexpect count 7\n"
+                    "expect control StatusLine \"Unable to parse expression\"\n"),
+              "");
 }
 
 }  // namespace
