@@ -154,25 +154,29 @@ std::vector<FormatRun> TextBlocks::RunsIn(int first, int last) {
 
 // --- changing
 
-// Content that comes whole is cut into pieces, so that an edit moves only the runs of its own
-// piece.
+// Content that comes whole, or has grown, is cut into pieces, so that an edit moves only the runs
+// of its own piece.
 constexpr int pieceLength = 4096;  // bytes
+
+std::vector<TextBlocks::StoredBlock> TextBlocks::Pieces(const StoredRuns& runs, int length) {
+    std::vector<StoredBlock> pieces;
+    for (int start = 0; start < length; start += pieceLength) {
+        StoredBlock piece;
+        piece.length = std::min(pieceLength, length - start);
+        piece.edited = true;
+        AppendPart(piece.runs, runs, start, start + piece.length);
+        pieces.push_back(std::move(piece));
+    }
+    return pieces;
+}
 
 SurfaceChange TextBlocks::Assign(std::string newText, const std::vector<FormatRun>& runs) {
     const int oldLength = Length();
     text = std::move(newText);
-    blocks.clear();
     starts.clear();
     formats.Clear();  // nothing refers to it any more, so it can't grow for ever
     formatter = nullptr;
-    const StoredRuns all = Stored(runs, Length());
-    for (int start = 0; start < Length(); start += pieceLength) {
-        StoredBlock block;
-        block.length = std::min(pieceLength, Length() - start);
-        block.edited = true;
-        AppendPart(block.runs, all, start, start + block.length);
-        blocks.push_back(std::move(block));
-    }
+    blocks = Pieces(Stored(runs, Length()), Length());
     return {oldLength > 0 || Length() > 0, 0, oldLength, Length()};
 }
 
@@ -217,6 +221,9 @@ SurfaceChange TextBlocks::Replace(int start, int removed, std::string_view newTe
         ++last;
     }
     if (merged[0].length == 0) merged.clear();
+    if (!merged.empty() && merged[0].length > 2 * pieceLength) {
+        merged = Pieces(merged[0].runs, merged[0].length);
+    }
     ReplaceBlocks(first, last, std::move(merged));
     text.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(removed), newText);
     return {true, start, removed, inserted};

@@ -82,6 +82,7 @@ struct TextBlocks {
     static std::size_t RunAt(const StoredRuns& runs, int position);
     static void AppendRun(StoredRuns& runs, int length, FormatTable::Id format);
     static void AppendPart(StoredRuns& runs, const StoredRuns& source, int first, int last);
+    static std::vector<StoredBlock> Pieces(const StoredRuns& runs, int length);
     StoredRuns Stored(const std::vector<FormatRun>& runs, int length);
     void EnsureFormatted(StoredBlock& block);
     const std::vector<int>& Starts();
