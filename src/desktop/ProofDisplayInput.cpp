@@ -145,6 +145,40 @@ void ProofDisplay::DoubleClickAtCaret() {
     Dispatch([this] { SendDoubleClick(box_, caret_); });
 }
 
+// --- a click that may be the first half of a double click
+
+// It is sent when the time for the second half is over, or ahead of the user's next input.
+void ProofDisplay::HoldClick() {
+    heldClick_.start(QApplication::doubleClickInterval(), this);
+    qApp->installEventFilter(this);
+}
+
+bool ProofDisplay::DropHeldClick() {
+    if (!heldClick_.isActive()) return false;
+    heldClick_.stop();
+    qApp->removeEventFilter(this);
+    return true;
+}
+
+void ProofDisplay::SendHeldClick() {
+    if (DropHeldClick()) Dispatch([this] { SendRelease(box_); });
+}
+
+bool ProofDisplay::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::KeyPress:
+        case QEvent::ShortcutOverride:
+        case QEvent::WindowDeactivate:
+        case QEvent::Close:
+            SendHeldClick();
+            break;
+        default:
+            break;
+    }
+    return QAbstractScrollArea::eventFilter(watched, event);
+}
+
 // --- mouse
 
 void ProofDisplay::mousePressEvent(QMouseEvent* event) {
@@ -204,6 +238,10 @@ void ProofDisplay::mouseReleaseEvent(QMouseEvent* event) {
     const bool second = secondPress_;
     pressed_ = dragging_ = secondPress_ = false;
     autoScroll_.stop();
+    const bool plain = !second && box_.SelLength == 0;
+    if (plain && box_.AwaitsDoubleClick && box_.AwaitsDoubleClick(box_.SelStart)) {
+        return HoldClick();
+    }
     Dispatch([this, second] {
         if (!second) {
             SendRelease(box_);
@@ -221,7 +259,12 @@ void ProofDisplay::mouseDoubleClickEvent(QMouseEvent* event) {
     dragging_ = false;
     pressPlace_ = event->position().toPoint();
     pressBoundary_ = BoundaryAt(pressPlace_);
-    if (box_.DblClick) Dispatch(box_.DblClick);
+    // Both halves in one event, so that nothing of the first shows by itself.
+    const bool held = DropHeldClick();
+    Dispatch([this, held] {
+        if (held && box_.Click) box_.Click();
+        if (FormsShown == formsAtPress_ && box_.DblClick) box_.DblClick();
+    });
 }
 
 // The right button's menu comes with its release; the menu key's comes here.
@@ -246,7 +289,9 @@ void ProofDisplay::focusOutEvent(QFocusEvent* event) {
 }
 
 void ProofDisplay::timerEvent(QTimerEvent* event) {
-    if (event->timerId() == blink_.timerId()) {
+    if (event->timerId() == heldClick_.timerId()) {
+        SendHeldClick();
+    } else if (event->timerId() == blink_.timerId()) {
         caretShown_ = !caretShown_;
         viewport()->update(CaretRect(caret_));
     } else if (event->timerId() == autoScroll_.timerId()) {

@@ -79,6 +79,7 @@ ProofForm::ProofForm() : Form("Proof") {
 void ProofForm::ListenToDisplay() {
     RTB.Click = [] { RunHandler(ClickInDisplay); };
     RTB.DblClick = [] { RunHandler(ToggleDetailBlock); };
+    RTB.AwaitsDoubleClick = [](int position) { return RuleMode == 0 && IsOnNumber(position + 1); };
     RTB.MouseMove = [this] { Extension.MouseMoved(RTB, Timer1); };
     Timer1.Tick = [this] { Extension.Tick(RTB, Timer1); };
     RTB.MouseUp = [this](MouseButton button) {

@@ -91,6 +91,9 @@ struct RichTextBox : Control {
 
     EventHandler Click;
     EventHandler DblClick;
+    // Would a double click at a position undo the click that begins it? A front end that can wait
+    // then holds the click back until it knows which of the two it is.
+    std::function<bool(int position)> AwaitsDoubleClick;
     EventHandler Change;  // the user has edited the text (not: the program has)
     KeyHandler KeyDown;   // every key, ahead of the box's own editing; true: dealt with
     MouseHandler MouseDown;

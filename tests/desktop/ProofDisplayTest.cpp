@@ -130,6 +130,34 @@ TEST(ProofDisplay, DoubleClickAddsOnlyWhatTheFirstClickLeft) {
 }
 
 // A new statement leaves the caret behind its block, where a click would hit nothing.
+TEST(ProofDisplay, HoldsBackAClickThatADoubleClickWouldUndo) {
+    Displayed shown("12\tP\r\n\tPremise\r\n");
+    shown.box.AwaitsDoubleClick = [](int position) { return position < 3; };
+    const auto click = [&](int position) {
+        shown.Mouse(QTest::mouseClick, shown.PlaceOf(position));
+    };
+    click(3);
+    EXPECT_EQ(shown.events, "click 3+0;up;") << "elsewhere it is sent at once";
+    shown.events.clear();
+    click(1);
+    EXPECT_EQ(shown.events, "");
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    EXPECT_EQ(shown.events, "click 1+0;up;");
+
+    shown.events.clear();
+    click(1);
+    shown.Mouse(QTest::mouseDClick, shown.PlaceOf(1));
+    shown.Mouse(QTest::mouseRelease, shown.PlaceOf(1));
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    EXPECT_EQ(shown.events, "click 1+0;double 1+0;up;");
+
+    shown.events.clear();
+    click(1);
+    QTest::keyClick(&shown.display, Qt::Key_Right);
+    EXPECT_EQ(shown.events, "click 1+0;up;") << "ahead of the next input";
+    EXPECT_EQ(shown.box.SelStart, 2);
+}
+
 TEST(ProofDisplay, EnterBehindABlockMeansItsStatement) {
     Displayed shown("1\tP\r\n\tPremise\r\n\r\n");
     shown.display.activateWindow();
