@@ -76,6 +76,12 @@ EditBox::EditBox(RichTextBox& box, QWidget* parent) : QTextEdit(parent), box_(bo
     setAcceptDrops(false);
     viewport()->setAcceptDrops(false);
     setFont(FontOf({}));
+    if (!box.MultiLine) {
+        setLineWrapMode(NoWrap);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setFixedHeight(fontMetrics().lineSpacing() * 2);
+    }
     shown_ = box.ContentRevision() + 1;  // so that the first Sync shows it
     Sync();
 }

@@ -177,6 +177,65 @@ void LayOutOccurrences(FormWindow& window, QWidget& inside) {
     inside.resize(Columns(inside, 90), inside.fontMetrics().lineSpacing() * 18);
 }
 
+void LayOutComment(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    QBoxLayout* tools = Row(window, {"cmdProve", "cmdDefine", "cmdSufficient", "cmdAsRequired"});
+    tools->addStretch();
+    for (const char* name :
+         {"cmdUndo", "cmdRedo", "cmdCut", "cmdCopy", "cmdPaste", "cmdDelete", "cmdClear"}) {
+        Add(*tools, window.WidgetNamed(name));
+    }
+    for (int place = 0; place < tools->count(); ++place) {
+        if (QWidget* button = tools->itemAt(place)->widget()) {
+            button->setMinimumWidth(Columns(*button, 8));
+        }
+    }
+    rows->addLayout(tools);
+    Add(*rows, window.WidgetNamed("CommentBox"), 1);
+    rows->addLayout(Answers(window, {"Continue", "Cancel"}));
+    inside.resize(Columns(inside, 110), inside.fontMetrics().lineSpacing() * 24);
+}
+
+void LayOutEditCaption(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    Add(*rows, window.WidgetNamed("RTB"));
+    rows->addStretch();
+    rows->addLayout(Answers(window, {"Clear", "Continue", "Cancel"}));
+    inside.resize(Columns(inside, 90), rows->sizeHint().height());
+}
+
+QBoxLayout* Column(const FormWindow& window, std::initializer_list<const char*> names) {
+    auto* column = new QVBoxLayout;
+    for (const char* name : names) Add(*column, window.WidgetNamed(name));
+    column->addStretch();
+    return column;
+}
+
+void LayOutFind(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    Add(*rows, window.WidgetNamed("SearchStringLabel"));
+    Add(*rows, window.WidgetNamed("SearchStringTextBox"));
+    auto* choices = new QHBoxLayout;
+    choices->addLayout(
+        Column(window, {"SearchDirectionLabel", "optForward", "optBackward", "ChkActiveOnly"}), 1);
+    choices->addLayout(
+        Column(window, {"HeadingLabel", "optProve", "optDefine", "optSufficient", "optAsRequired"}),
+        1);
+    rows->addLayout(choices);
+    ReserveLines(window.WidgetNamed("StatusLine"), 1);
+    Add(*rows, window.WidgetNamed("StatusLine"));
+    rows->addLayout(Answers(window, {"cmdFind", "cmdPaste", "cmdCancel"}));
+    inside.resize(Columns(inside, 70), rows->sizeHint().height());
+}
+
+void LayOutWarning(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    Add(*rows, window.WidgetNamed("Label"));
+    rows->addStretch();
+    rows->addLayout(Answers(window, {"cmdContinue", "cmdCancel"}));
+    inside.resize(Columns(inside, 70), inside.fontMetrics().lineSpacing() * 7);
+}
+
 // Buttons that follow each other share a row; all else has one of its own.
 void LayOutAnyForm(FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
@@ -215,6 +274,10 @@ void LayOut(FormWindow& window, QWidget& inside) {
         {"InductionForm", LayOutInductionForm},
         {"MyInputBox", LayOutMyInputBox},
         {"SaveChanges", LayOutSaveChanges},
+        {"Comment", LayOutComment},
+        {"EditCaption", LayOutEditCaption},
+        {"Find", LayOutFind},
+        {"Warning", LayOutWarning},
         {"Generalize", LayOutOccurrences},
         {"Substitution", LayOutOccurrences},
     };
