@@ -34,6 +34,18 @@ Span SpanOfNode(const TokenList& tokens, int node) {
     return WrittenSpan(tokens, static_cast<int>(bracket - tokens.begin()), bracket->TPtr);
 }
 
+NodeTexts::NodeTexts(const std::string& text, const TokenList& tokens, const NodeList& nodes)
+    : text_(text), tokens_(tokens), brackets_(nodes.size()) {
+    for (int k = static_cast<int>(tokens.size()) - 1; k > 0; --k) {
+        brackets_[static_cast<std::size_t>(TokenAt(tokens, k).DPtr)] = k;
+    }
+}
+
+std::string NodeTexts::operator[](int node) const {
+    const int bracket = brackets_[static_cast<std::size_t>(node)];
+    return Cut(text_, WrittenSpan(tokens_, bracket, TokenAt(tokens_, bracket).TPtr));
+}
+
 OperandSpans OperandsOf(const TokenList& tokens, int sign) {
     return {WrittenSpan(tokens, TokenAt(tokens, sign - 1).TPtr, sign - 1),
             WrittenSpan(tokens, sign + 1, TokenAt(tokens, sign + 1).TPtr)};

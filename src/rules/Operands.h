@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "expr/Expression.h"
 
@@ -21,6 +22,19 @@ Span WrittenSpan(const TokenList& tokens, int first, int last);
 // Where a node stands: from its first opening bracket to that bracket's partner, with a written
 // bracket pair around it.
 Span SpanOfNode(const TokenList& tokens, int node);
+
+// The texts of many nodes of one expression, each found at once.
+class NodeTexts {
+  public:
+    NodeTexts(const std::string& text, const TokenList& tokens, const NodeList& nodes);
+
+    std::string operator[](int node) const;
+
+  private:
+    const std::string& text_;
+    const TokenList& tokens_;
+    std::vector<int> brackets_;  // the first opening bracket of each node
+};
 
 // The operands of the sign with two operands at token `sign`, with written brackets around them.
 // The parser has put each into a bracket pair, so that precedence needs no further thought.

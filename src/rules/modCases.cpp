@@ -26,10 +26,6 @@ struct Case {
     std::string consequent;
 };
 
-std::string ExprText(const Expression& statement, int node) {
-    return Cut(statement.text, SpanOfNode(statement.tokens, node));
-}
-
 void TakeOrStatement(int line, bool& firstClick) {
     Arg1Pending = line;
     Parse();
@@ -44,24 +40,25 @@ void TakeOrStatement(int line, bool& firstClick) {
 
 // From the last to the first. What stands in written brackets on the right stays together.
 std::vector<std::string> Disjuncts() {
+    const NodeTexts texts(CasesOr.text, CasesOr.tokens, CasesOr.nodes);
     std::vector<std::string> disjuncts;
     int node = RootIndex(CasesOr.nodes);
     while (NodeAt(CasesOr.nodes, node).Rule == Node::LOr) {
-        disjuncts.push_back(ExprText(CasesOr, NodeAt(CasesOr.nodes, node).Ptr2));
+        disjuncts.push_back(texts[NodeAt(CasesOr.nodes, node).Ptr2]);
         node = NodeAt(CasesOr.nodes, node).Ptr1;
     }
-    disjuncts.push_back(ExprText(CasesOr, node));
+    disjuncts.push_back(texts[node]);
     return disjuncts;
 }
 
 // The implications of a conjunction, from the last to the first; nothing if it is none.
 std::vector<Case> CasesOf(const Expression& statement) {
+    const NodeTexts texts(statement.text, statement.tokens, statement.nodes);
     std::vector<Case> cases;
     const auto add = [&](int node) {
         const ParseRec& implication = NodeAt(statement.nodes, node);
         if (implication.Rule != Node::Imply) return false;
-        cases.push_back(
-            {ExprText(statement, implication.Ptr1), ExprText(statement, implication.Ptr2)});
+        cases.push_back({texts[implication.Ptr1], texts[implication.Ptr2]});
         return true;
     };
     int node = RootIndex(statement.nodes);

@@ -19,13 +19,14 @@ namespace {
 
 // The conjuncts of the conjunction in the tables, from the last to the first.
 std::vector<std::string> ConjunctsFromTheRight() {
+    const NodeTexts texts(NewStmtText, TokenTable, ParseTable);
     std::vector<std::string> pieces;
     int node = RootIndex(ParseTable);
     while (NodeAt(ParseTable, node).Rule == Node::LAnd) {
-        pieces.push_back(Cut(NewStmtText, SpanOfNode(TokenTable, NodeAt(ParseTable, node).Ptr2)));
+        pieces.push_back(texts[NodeAt(ParseTable, node).Ptr2]);
         node = NodeAt(ParseTable, node).Ptr1;
     }
-    pieces.push_back(Cut(NewStmtText, SpanOfNode(TokenTable, node)));
+    pieces.push_back(texts[node]);
     return pieces;
 }
 
