@@ -236,11 +236,20 @@ void TryItem(Watch& watch, const MenuItem& item, const std::vector<int>& places)
     RuleMode = 0;
 }
 
-class EveryClick : public testing::TestWithParam<std::string (*)()> {};
+struct Subject {
+    const char* name;
+    std::string (*script)();
+};
+
+void PrintTo(const Subject& subject, std::ostream* out) {
+    *out << subject.name;
+}
+
+class EveryClick : public testing::TestWithParam<Subject> {};
 
 TEST_P(EveryClick, WritesOrTellsWhyNot) {
     for (const bool accept : {false, true}) {
-        ASSERT_EQ(Build(GetParam()()), "");
+        ASSERT_EQ(Build(GetParam().script()), "");
         Watch watch(accept);
         Headless.NextStep = [&] {
             watch.answers.Reply();
@@ -257,7 +266,10 @@ TEST_P(EveryClick, WritesOrTellsWhyNot) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Proofs, EveryClick,
-                         testing::Values(Rewrites, Quantifiers, Terms, Inserting));
+                         testing::Values(Subject{"Rewrites", Rewrites},
+                                         Subject{"Quantifiers", Quantifiers},
+                                         Subject{"Terms", Terms}, Subject{"Inserting", Inserting}),
+                         [](const auto& subject) { return std::string(subject.param.name); });
 
 }  // namespace
 }  // namespace tessaryn
