@@ -1,10 +1,8 @@
 // The proof file: "Tessaryn 1", the count, the caption, the statement records as they stand, the
 // text.
 //
-// All integers are little-endian. A string is a 16-bit length and its bytes; from 65,535 bytes on
-// the length is FF FF, followed by the true length in 32 bits. Booleans are 16-bit, True = -1. The
-// layout of a record is the order of the fields in WriteRecord; docs/file-format.md tells it byte
-// by byte.
+// Integers and strings are as Bytes.h has them. The layout of a record is the order of the fields
+// in WriteRecord; docs/file-format.md tells it byte by byte.
 #pragma once
 
 #include <optional>
@@ -15,8 +13,6 @@
 #include "document/Statement.h"
 
 namespace tessaryn {
-
-inline constexpr std::string_view FileMagic = "Tessaryn 1";
 
 // A document apart from the globals.
 struct StoredProof {
@@ -38,8 +34,8 @@ std::optional<StoredProof> ReadProof(std::string_view bytes);
 // OperationCancelled is set, and a message box has said so.
 bool SaveProof();
 
-// SaveProof, and then the document counts as saved: title, ProofChanged. False, with all that as it
-// was, if it could not be saved.
+// SaveProof, and then the document counts as saved: recent files, title, ProofChanged. False, with
+// all that as it was, if it could not be saved.
 bool SaveProofFile();
 
 // Replaces the document by the content of ProofFileName and rebuilds the display. On failure the
@@ -58,8 +54,9 @@ void SaveAsCommand();
 // The filter of the file dialogues.
 inline constexpr const char* ProofFilter = "Proofs (*.proof)|*.proof";
 
-// The name with everything behind its last "." replaced by "proof". A name without one gets
-// ".proof".
+// The name with everything behind its last "." replaced. A name without one gets "." and the
+// extension.
+std::string WithExtension(const std::string& name, const std::string& extension);
 std::string WithProofExtension(const std::string& name);
 
 }  // namespace tessaryn
