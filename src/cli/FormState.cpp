@@ -46,6 +46,7 @@ std::string BoxText(RichTextBox& box) {
 std::string ControlText(Control& control) {
     if (auto* box = dynamic_cast<RichTextBox*>(&control)) return BoxText(*box);
     if (auto* box = dynamic_cast<TextBox*>(&control)) return box->Text;
+    if (auto* list = dynamic_cast<DirectoryBox*>(&control)) return list->Path;
     if (auto* label = dynamic_cast<Label*>(&control)) return label->Caption;
     if (auto* button = dynamic_cast<Button*>(&control)) return button->Caption;
     if (auto* item = dynamic_cast<MenuItem*>(&control)) return item->Caption;

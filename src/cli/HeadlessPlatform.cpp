@@ -29,6 +29,7 @@ bool HasButton(Buttons buttons, Answer answer) {
 }
 
 bool TakeFileReply(CommonDialog& dialog) {
+    Headless.FileDialogs.push_back(dialog);
     if (Headless.Files.empty()) return false;
     const std::optional<std::string> reply = Headless.Files.front();
     Headless.Files.pop_front();
@@ -52,6 +53,8 @@ void StartHeadless(const std::string& settingsDir, bool showHidden) {
     std::function<bool()> nextStep = std::move(Headless.NextStep);
     Headless = {};
     Headless.NextStep = std::move(nextStep);
+    Headless.StartingUp = true;
+    ReleasePrinter();
     StartProgram();
     AppPath = settingsDir;
     Proof.Load("");
@@ -59,6 +62,7 @@ void StartHeadless(const std::string& settingsDir, bool showHidden) {
     Proof.Visible = true;
     Headless.Forms.push_back({&Proof, false});
     Proof.Activated();
+    Headless.StartingUp = false;
 }
 
 Form& TopForm() {

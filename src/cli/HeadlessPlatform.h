@@ -32,7 +32,9 @@ struct HeadlessState {
     // What has happened so far, in order.
     std::vector<std::string> Beeps;  // their reasons
     std::vector<MessageShown> Messages;
-    std::vector<std::string> PagesOpened;  // help files and web addresses
+    std::vector<std::string> PagesOpened;   // help files and web addresses
+    std::vector<CommonDialog> FileDialogs;  // as they were asked
+    std::vector<std::string> Pages;         // of the last print
 
     std::string ClipText;
     std::string ClipRtf;
@@ -41,11 +43,13 @@ struct HeadlessState {
 
     // Does the user's next action while a modal form is up; false: there is none left.
     std::function<bool()> NextStep;
-    bool Ended = false;  // EndProgram has been called
-    std::string Fault;   // a reply that did not fit its question; the program was ended for it
+    bool StartingUp = false;  // up to the end of the main window's first activation
+    bool Ended = false;       // EndProgram has been called
+    std::string Fault;        // a reply that did not fit its question; the program was ended for it
 
     bool PointerBeyondEdge = false;
     bool HasHelpViewer = false;
+    bool HasPrinter = true;
 };
 
 inline HeadlessState Headless;

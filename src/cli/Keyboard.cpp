@@ -23,6 +23,7 @@ bool TakesFocus(const Control& control) {
            dynamic_cast<const TextBox*>(&control) != nullptr ||
            dynamic_cast<const Button*>(&control) != nullptr ||
            dynamic_cast<const CheckBox*>(&control) != nullptr ||
+           dynamic_cast<const DirectoryBox*>(&control) != nullptr ||
            dynamic_cast<const OptionButton*>(&control) != nullptr;
 }
 

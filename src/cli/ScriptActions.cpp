@@ -2,6 +2,7 @@
 // and sends the program what a user's hand would.
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <ostream>
 
 #include "cli/FormState.h"
@@ -43,7 +44,8 @@ RichTextBox& ReachableDisplay() {
 Control& EditableBox(const std::string& name) {
     Control& control = FindControl(name);
     const auto* rich = dynamic_cast<RichTextBox*>(&control);
-    if (rich == nullptr && dynamic_cast<TextBox*>(&control) == nullptr) {
+    if (rich == nullptr && dynamic_cast<TextBox*>(&control) == nullptr &&
+        dynamic_cast<DirectoryBox*>(&control) == nullptr) {
         throw ActionFailed{name + " is no box"};
     }
     if (!CanReach(control)) throw ActionFailed{name + " is hidden or disabled"};
@@ -67,11 +69,23 @@ void Type(ScriptRun& run, Arguments& arguments) {
     run.keys.assign(keys.begin(), keys.end());
 }
 
+void GoTo(DirectoryBox& list, const std::string& directory) {
+    std::error_code error;
+    if (!std::filesystem::is_directory(directory, error)) {
+        throw ActionFailed{"there is no directory " + directory};
+    }
+    list.SetFocus();
+    list.Path = directory;
+    if (list.Change) list.Change();
+}
+
 void Set(ScriptRun&, Arguments& arguments) {
     const std::string name = arguments.Word();
     const std::string text = arguments.Text();
     arguments.End();
-    ReplaceByTyping(EditableBox(name), text);
+    Control& box = EditableBox(name);
+    if (auto* list = dynamic_cast<DirectoryBox*>(&box)) return GoTo(*list, text);
+    ReplaceByTyping(box, text);
 }
 
 void PressNamedKey(ScriptRun&, Arguments& arguments) {

@@ -75,6 +75,7 @@ bool HoldsValue(Control& control) {
     return dynamic_cast<RichTextBox*>(&control) != nullptr ||
            dynamic_cast<TextBox*>(&control) != nullptr ||
            dynamic_cast<CheckBox*>(&control) != nullptr ||
+           dynamic_cast<DirectoryBox*>(&control) != nullptr ||
            dynamic_cast<OptionButton*>(&control) != nullptr;
 }
 

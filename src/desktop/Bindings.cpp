@@ -9,6 +9,7 @@
 #include <QToolButton>
 
 #include "desktop/Desktop.h"
+#include "desktop/DirectoryTree.h"
 #include "desktop/EditBox.h"
 #include "desktop/PaintedText.h"
 #include "desktop/ProofDisplay.h"
@@ -97,6 +98,12 @@ Binding BindSurface(RichTextBox& box, QWidget* parent, WindowKind kind) {
     return {&box, widget, [widget] { widget->Pull(); }, [widget] { widget->Sync(); }};
 }
 
+Binding BindDirectories(DirectoryBox& box, QWidget* parent) {
+    auto* widget = new DirectoryTree(box, parent);
+    widget->setAccessibleName(QStringLiteral("Directory"));
+    return {&box, widget, {}, [widget] { widget->Sync(); }};
+}
+
 Binding BindTimer(Timer& timer, QObject* parent) {
     auto* ticker = new QTimer(parent);
     QObject::connect(ticker, &QTimer::timeout, ticker, [&timer] {
@@ -118,6 +125,7 @@ Binding BindByKind(Control& control, QWidget* parent, WindowKind kind) {
     if (auto* button = dynamic_cast<Button*>(&control)) return BindButton(*button, parent, kind);
     if (auto* box = dynamic_cast<TextBox*>(&control)) return BindTextBox(*box, parent);
     if (auto* box = dynamic_cast<RichTextBox*>(&control)) return BindSurface(*box, parent, kind);
+    if (auto* list = dynamic_cast<DirectoryBox*>(&control)) return BindDirectories(*list, parent);
     if (auto* timer = dynamic_cast<Timer*>(&control)) return BindTimer(*timer, parent);
     if (auto* check = dynamic_cast<CheckBox*>(&control)) {
         return BindChoice<QCheckBox>(*check, parent);
@@ -131,7 +139,8 @@ Binding BindByKind(Control& control, QWidget* parent, WindowKind kind) {
 // Blanks at the end of a caption set off a last column, which here is the one of the shortcuts.
 QString ItemText(const MenuItem& item) {
     static const QRegularExpression lastColumn(QStringLiteral("^(.*\\S) {2,}(\\S.*?) *$"));
-    const QString caption = ToQt(item.Caption);
+    QString caption = ToQt(item.Caption);
+    if (item.Literal) return caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
     if (!item.Shortcut.empty()) return caption;
     const auto columns = lastColumn.match(caption);
     if (!columns.hasMatch()) return caption;

@@ -223,6 +223,9 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn && found != controls_.end()) {
         form_.ActiveControl = found->second;
     }
+    if (event->type() == QEvent::MouseButtonPress && watched == window_) {
+        Dispatch([this] { form_.Clicked(); });
+    }
     if (event->type() == QEvent::KeyPress) {
         return KeyPressed(watched, *static_cast<QKeyEvent*>(event));
     }

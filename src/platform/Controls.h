@@ -83,6 +83,7 @@ struct MenuItem : Control {
           Shortcut(std::move(shortcut)) {}
     std::string Caption;   // "&" ahead of the mnemonic, "&&" for one "&"
     std::string Shortcut;  // "Ctrl+Z", "F2", or ""
+    bool Literal = false;  // the caption stands as it is: no mnemonic, no columns
     bool Checkable = false;
     bool Checked = false;
     EventHandler Click;
@@ -116,6 +117,13 @@ struct OptionButton : Control {
     int Group;
     bool Value = false;
     EventHandler Click;
+};
+
+// A list in which to go from directory to directory.
+struct DirectoryBox : Control {
+    using Control::Control;
+    std::string Path;     // of the directory that it is at
+    EventHandler Change;  // the user has gone to another one
 };
 
 // Ticks every Interval milliseconds while Enabled.

@@ -24,6 +24,8 @@ struct Form {
     virtual void Activated() {}
     // A key, ahead of the control that has the focus. True: dealt with.
     virtual bool KeyPressed(const KeyEvent&) { return false; }
+    // A click on the form where no control takes it.
+    virtual void Clicked() {}
     // The user wants the window closed. A form that stays open leaves Visible set.
     virtual void CloseRequested() { Hide(); }
 

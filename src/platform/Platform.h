@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/Form.h"
+#include "platform/RichTextBox.h"
 
 namespace tessaryn {
 
@@ -58,6 +59,37 @@ void ClipboardSetText(const std::string& text);
 void ClipboardSetRtf(const std::string& rtf, const std::string& plainText);
 std::string ClipboardText();  // line ends CR LF; "" if there is none
 std::string ClipboardRtf();   // "" if there is none
+
+// --- printing; lengths are in twips, 1440 to the inch
+
+struct PrinterPage {
+    int Width = 0;
+    int Height = 0;
+    int OffsetX = 0;  // from the edges of the paper to where the printer's own coordinates begin
+    int OffsetY = 0;
+};
+
+struct PageRect {  // in the printer's own coordinates
+    int Left = 0;
+    int Top = 0;
+    int Right = 0;
+    int Bottom = 0;
+};
+
+enum class PrinterState { Ready, Cancelled, Failed };
+
+// Readies the system's default printer or, where there is none, a PDF file that the user names.
+PrinterState ReadyPrinter(PrinterPage& page);
+// Lays a surface out in lines of that width. The surface must stay as it is until ReleasePrinter.
+bool LayOutForPrinter(RichTextBox& surface, int width);
+// Begins the first page.
+bool StartPrinting();
+// Prints what fits into the rectangle, from a position on. Gives the first position that did not.
+int PrintRange(int from, const PageRect& rect);
+bool NextPage();
+bool EndPrinting();  // all pages are with the printer
+void CancelPrinting();
+void ReleasePrinter();
 
 // --- pointer and help
 
