@@ -11,8 +11,12 @@
 #include "cli/ScriptRunner.h"
 #include "cli/StateDump.h"
 #include "document/ProofFile.h"
+#include "document/Statement.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "output/HTML.h"
+#include "output/Printing.h"
+#include "platform/Files.h"
 
 namespace tessaryn {
 
@@ -27,6 +31,8 @@ constexpr const char* Usage =
     "       tessaryn-cli parse\n"
     "       tessaryn-cli same\n"
     "       tessaryn-cli dump FILE.proof\n"
+    "       tessaryn-cli html IN.proof OUT.html\n"
+    "       tessaryn-cli print IN.proof OUT.txt\n"
     "       tessaryn-cli --version | --help\n";
 
 constexpr const char* Help =
@@ -38,6 +44,8 @@ constexpr const char* Help =
     "parse  reads expressions as JSON strings, prints their tables, one a line\n"
     "same   reads pairs of expressions as JSON arrays, prints true or false\n"
     "dump   opens a proof and prints its state as JSON\n"
+    "html   writes a proof as a page for a browser\n"
+    "print  writes a proof as it would be printed, a form feed between pages\n"
     "\n"
     "Exit status: 0 done; 1 refused, or an expectation failed; 2 wrong use.\n";
 
@@ -130,6 +138,30 @@ int DumpCommand(const Words& words, const Streams& streams) {
     return 0;
 }
 
+int ReportUnwritable(const std::string& file, const Streams& streams) {
+    streams.err << file << ": the file can't be written\n";
+    return 1;
+}
+
+int HtmlCommand(const Words& words, const Streams& streams) {
+    if (words.size() != 2) return ReportWrongUse(streams);
+    if (!OpenProof(words[0], streams.err)) return 1;
+    return SaveHTML(words[1]) ? 0 : ReportUnwritable(words[1], streams);
+}
+
+int PrintCommand(const Words& words, const Streams& streams) {
+    if (words.size() != 2) return ReportWrongUse(streams);
+    if (!OpenProof(words[0], streams.err)) return 1;
+    if (ProofText.empty()) {
+        streams.err << words[0] << ": Print:  Nothing to print\n";
+        return 1;
+    }
+    PrintStatements(1, StmtCount);
+    std::string pages;
+    for (const std::string& page : Headless.Pages) pages += (pages.empty() ? "" : "\f") + page;
+    return ReplaceFile(words[1], pages + "\n") ? 0 : ReportUnwritable(words[1], streams);
+}
+
 int VersionCommand(const Words& words, const Streams& streams) {
     if (!words.empty()) return ReportWrongUse(streams);
     streams.out << "tessaryn-cli 2.0\n";
@@ -152,6 +184,8 @@ constexpr std::array Commands = std::to_array<CommandRow>({
     {"parse", ParseCommand},
     {"same", SameCommand},
     {"dump", DumpCommand},
+    {"html", HtmlCommand},
+    {"print", PrintCommand},
     {"--version", VersionCommand},
     {"--help", HelpCommand},
 });

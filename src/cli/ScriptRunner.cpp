@@ -41,6 +41,22 @@ void DoLine(ScriptRun& run, const std::string& line) {
     action(run, arguments);
 }
 
+// An action that the form on top cannot be meant by.
+bool IsForMainWindow(const std::string& line) {
+    Arguments arguments(line);
+    const std::string name = arguments.Word();
+    if (name == "choose" || name == "set") return TopForm().Find(arguments.Word()) == nullptr;
+    return name == "click" || name == "doubleclick" || name == "select" || name == "open" ||
+           name == "save";
+}
+
+// The forms of the start stand in nobody's way: work that goes on behind them closes them.
+bool ClosesStartForm(const std::string& line) {
+    if (!Headless.StartingUp || !ModalFormOpen() || !IsForMainWindow(line)) return false;
+    TopForm().CloseRequested();
+    return true;
+}
+
 // False at the end of the script.
 bool DoNext(ScriptRun& run) {
     if (!run.keys.empty()) {
@@ -52,6 +68,10 @@ bool DoNext(ScriptRun& run) {
     while (run.line < run.lines.size()) {
         const std::string& line = run.lines[run.line++];
         if (!IsAction(line)) continue;
+        if (ClosesStartForm(line)) {
+            --run.line;  // its turn comes when the form is gone
+            return true;
+        }
         DoLine(run, line);
         return true;
     }

@@ -1,15 +1,16 @@
 #include "desktop/Layouts.h"
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCheckBox>
 #include <QFontMetrics>
+#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTextEdit>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <functional>
@@ -18,6 +19,7 @@
 #include <string>
 
 #include "desktop/FormWindow.h"
+#include "desktop/Picture.h"
 
 namespace tessaryn {
 
@@ -177,6 +179,56 @@ void LayOutOccurrences(FormWindow& window, QWidget& inside) {
     inside.resize(Columns(inside, 90), inside.fontMetrics().lineSpacing() * 18);
 }
 
+// The picture, and what stands beside it.
+void LayOutGreeting(FormWindow& window, QWidget& inside) {
+    auto* columns = new QHBoxLayout(&inside);
+    auto* picture = new QLabel(&inside);
+    picture->setPixmap(ProgramPicture(192));
+    columns->addWidget(picture);
+    columns->addSpacing(16);
+    auto* rows = new QVBoxLayout;
+    columns->addLayout(rows, 1);
+    rows->addStretch();
+    if (auto* name = qobject_cast<QLabel*>(window.WidgetNamed("ProgramName"))) {
+        QFont large = name->font();
+        large.setPointSizeF(large.pointSizeF() * 2);
+        name->setFont(large);
+        name->setWordWrap(false);
+        rows->addWidget(name);
+    }
+    Add(*rows, window.WidgetNamed("Purpose"));
+    Add(*rows, window.WidgetNamed("BuildDate"));
+    rows->addStretch();
+    rows->addLayout(Answers(window, {"cmdOK"}));
+    inside.resize(Columns(inside, 80), 220);
+}
+
+void LayOutTips(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    ReserveLines(window.WidgetNamed("TipText"), 6);
+    Add(*rows, window.WidgetNamed("TipText"), 1);
+    QBoxLayout* answers = Row(window, {"Check1", "cmdClose"});
+    answers->insertStretch(1);
+    rows->addLayout(answers);
+    inside.resize(Columns(inside, 64), inside.fontMetrics().lineSpacing() * 11);
+}
+
+void LayOutPrintProof(FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    Add(*rows, window.WidgetNamed("ChkAllStmts"));
+    auto* range = new QFormLayout;
+    for (const auto& [label, box] : {std::pair("Label1", "Text1"), std::pair("Label2", "Text2")}) {
+        window.WidgetNamed(box)->setMaximumWidth(Columns(inside, 16));
+        range->addRow(window.WidgetNamed(label), window.WidgetNamed(box));
+    }
+    rows->addLayout(range);
+    Add(*rows, window.WidgetNamed("StatusLine"));
+    ReserveLines(window.WidgetNamed("StatusLine"), 1);
+    rows->addStretch();
+    rows->addLayout(Answers(window, {"cmdContinue", "cmdCancel"}));
+    inside.resize(Columns(inside, 60), rows->sizeHint().height());
+}
+
 void LayOutComment(FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
     QBoxLayout* tools = Row(window, {"cmdProve", "cmdDefine", "cmdSufficient", "cmdAsRequired"});
@@ -254,7 +306,7 @@ void LayOutAnyForm(FormWindow& window, QWidget& inside) {
             continue;
         }
         buttons = nullptr;
-        const bool text = qobject_cast<QTextEdit*>(widget) != nullptr;
+        const bool text = qobject_cast<QAbstractScrollArea*>(widget) != nullptr;
         hasText = hasText || text;
         rows->addWidget(widget, text ? 1 : 0);
     }
@@ -274,6 +326,10 @@ void LayOut(FormWindow& window, QWidget& inside) {
         {"InductionForm", LayOutInductionForm},
         {"MyInputBox", LayOutMyInputBox},
         {"SaveChanges", LayOutSaveChanges},
+        {"StartUp", LayOutGreeting},
+        {"AboutTessaryn", LayOutGreeting},
+        {"Tips", LayOutTips},
+        {"PrintProof", LayOutPrintProof},
         {"Comment", LayOutComment},
         {"EditCaption", LayOutEditCaption},
         {"Find", LayOutFind},

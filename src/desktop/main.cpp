@@ -1,6 +1,8 @@
 // The desktop editor.
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
+#include <QIcon>
 #include <QSessionManager>
 #include <cstdio>
 #include <cstdlib>
@@ -11,8 +13,10 @@
 #include "desktop/InputWatch.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
+#include "desktop/Picture.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "output/Settings.h"
 
 namespace {
 
@@ -91,14 +95,18 @@ int main(int argc, char* argv[]) {
     SubstituteFonts();
     WatchInput(FadeNote);
 
+    QApplication::setWindowIcon(QIcon(ProgramPicture(128)));
+
     const QStringList arguments = QApplication::arguments();
     std::string commandLine;
     if (arguments.size() > 1) {
         if (arguments[1].startsWith(QStringLiteral("--"))) return Inform(arguments[1]);
-        commandLine = '"' + arguments[1].toStdString() + '"';
+        // In full, so that it is found again when it is picked from the recent files.
+        commandLine = '"' + QFileInfo(arguments[1]).absoluteFilePath().toStdString() + '"';
     }
     StartProgram();
-    Proof.Load(commandLine);
+    AppPath = FindAppPath(QApplication::applicationDirPath().toStdString());
+    Dispatch([&commandLine] { Proof.Load(commandLine); });
     ListenToSession(application);
     ShowMainWindow(Proof);
     if (std::getenv("TESSARYN_MEASURE_START") != nullptr) {

@@ -5,6 +5,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "output/SaveChanges.h"
+#include "output/Settings.h"
 #include "platform/Files.h"
 #include "view/Display.h"
 #include "view/InsertMode.h"
@@ -66,11 +67,15 @@ std::string ProofTitle() {
     return " " + ProofCaption + "  -  " + ProofFileName;
 }
 
-std::string WithProofExtension(const std::string& name) {
+std::string WithExtension(const std::string& name, const std::string& extension) {
     const std::size_t dot = name.rfind('.');
     const std::size_t slash = name.rfind('/');
     const bool hasDot = dot != std::string::npos && (slash == std::string::npos || dot > slash);
-    return (hasDot ? name.substr(0, dot + 1) : name + ".") + "proof";
+    return (hasDot ? name.substr(0, dot + 1) : name + ".") + extension;
+}
+
+std::string WithProofExtension(const std::string& name) {
+    return WithExtension(name, "proof");
 }
 
 bool SaveProof() {
@@ -82,6 +87,8 @@ bool SaveProof() {
 
 bool SaveProofFile() {
     if (!SaveProof()) return false;
+    Proof.CommonDialog1.FileName = ProofFileName;
+    UpdateRecentFiles();
     ProofChanged = false;
     Proof.Caption = ProofTitle();
     return true;
@@ -105,6 +112,8 @@ void ReadProofFile(const std::string& previousName) {
     Proof.Caption = ProofTitle();
     CheckStoredText();
     ResetFonts();
+    Proof.CommonDialog1.FileName = ProofFileName;
+    UpdateRecentFiles();
     ProofChanged = false;
 }
 
@@ -120,10 +129,8 @@ void OpenCommand() {
         if (RecentPicked) {
             ProofFileName = RecentName;
         } else {
-            CommonDialog& dialog = Proof.CommonDialog1;
-            CommonDialog choice{"", ProofFilter, dialog.InitDir, false, true};
+            CommonDialog choice{"", ProofFilter, DefaultDir, false, true};
             if (!ShowOpen(choice)) return;
-            dialog.FileName = choice.FileName;
             ProofFileName = choice.FileName;
         }
         RefreshNow(Proof);
@@ -137,7 +144,7 @@ void SaveAsCommand() {
     RuleMode = 0;
     CommonDialog& dialog = Proof.CommonDialog1;
     if (!dialog.FileName.empty()) dialog.FileName = WithProofExtension(dialog.FileName);
-    CommonDialog choice{dialog.FileName, ProofFilter, dialog.InitDir, true, false};
+    CommonDialog choice{dialog.FileName, ProofFilter, DefaultDir, true, false};
     if (!ShowSave(choice)) return;
     RefreshNow(Proof);
     dialog.FileName = choice.FileName;

@@ -9,6 +9,11 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
+#include "output/AboutTessaryn.h"
+#include "output/HTML.h"
+#include "output/PrintProof.h"
+#include "output/SelectDir.h"
+#include "output/Settings.h"
 #include "rules/Rules.h"
 #include "view/Comment.h"
 #include "view/EditCaption.h"
@@ -45,23 +50,25 @@ void Instruction() {}
 
 using P = ProofForm;
 
+constexpr const char* OpenFailed = "Open: Unable to open proof file";
+
 const MenuRow MenuRows[] = {
     {0, &P::mnuFile, "mnuFile", "&File"},
     {1, &P::optNew, "optNew", "&New", "", NewCommand},
-    {1, &P::optOpen, "optOpen", "&Open", "", OpenCommand, None, "Open: Unable to open proof file"},
+    {1, &P::optOpen, "optOpen", "&Open", "", OpenCommand, None, OpenFailed},
     {1, &P::optSave, "optSave", "&Save", "", SaveCommand},
     {1, &P::optSaveAs, "optSaveAs", "Save &As", "", SaveAsCommand},
-    {1, &P::optHTML, "optHTML", "Make HTML File   (*.html)"},
-    {1, &P::optPrint, "optPrint", "Print"},
-    {1, &P::optSelectDir, "optSelectDir", "Select Default Directory"},
+    {1, &P::optHTML, "optHTML", "Make HTML File   (*.html)", "", HTMLCommand},
+    {1, &P::optPrint, "optPrint", "Print", "", PrintCommand},
+    {1, &P::optSelectDir, "optSelectDir", "Select Default Directory", "", SelectDirCommand},
     {1, &P::optExit, "optExit", "E&xit", "", ExitCommand},
     {1, &P::optDebug, "optDebug", "&Debug", "", nullptr, Hidden},
     {1, &P::bar6, "bar6", "-", "", nullptr, Hidden},
-    {1, &P::optFile1, "optFile1", "File 1", "", nullptr, Hidden},
-    {1, &P::optFile2, "optFile2", "File 2", "", nullptr, Hidden},
-    {1, &P::optFile3, "optFile3", "File 3", "", nullptr, Hidden},
-    {1, &P::optFile4, "optFile4", "File 4", "", nullptr, Hidden},
-    {1, &P::optFile5, "optFile5", "File 5", "", nullptr, Hidden},
+    {1, &P::optFile1, "optFile1", "File 1", "", OpenRecentFile<1>, Hidden, OpenFailed},
+    {1, &P::optFile2, "optFile2", "File 2", "", OpenRecentFile<2>, Hidden, OpenFailed},
+    {1, &P::optFile3, "optFile3", "File 3", "", OpenRecentFile<3>, Hidden, OpenFailed},
+    {1, &P::optFile4, "optFile4", "File 4", "", OpenRecentFile<4>, Hidden, OpenFailed},
+    {1, &P::optFile5, "optFile5", "File 5", "", OpenRecentFile<5>, Hidden, OpenFailed},
 
     {0, &P::mnuEdit, "mnuEdit", "&Edit"},
     {1, &P::optUndo, "optUndo", "&Undo", "Ctrl+Z", Undo, Disabled, "Unable to complete Undo"},
@@ -94,9 +101,9 @@ const MenuRow MenuRows[] = {
     {1, &P::optShowHighlights, "optShowHighlights", "Show Only Highlights and Conclusions", "F12",
      ShowHighlights},
     {1, &P::optTextSize, "optTextSize", "Text Size"},
-    {2, &P::optSmallText, "optSmallText", "Small", "", nullptr, Checkable},
-    {2, &P::optMediumText, "optMediumText", "Medium", "", nullptr, Checkable | Checked},
-    {2, &P::optLargeText, "optLargeText", "Large", "", nullptr, Checkable},
+    {2, &P::optSmallText, "optSmallText", "Small", "", ChooseTextSize<10>, Checkable},
+    {2, &P::optMediumText, "optMediumText", "Medium", "", ChooseTextSize<12>, Checkable | Checked},
+    {2, &P::optLargeText, "optLargeText", "Large", "", ChooseTextSize<14>, Checkable},
 
     {0, &P::mnuLogic, "mnuLogic", "&Logic"},
     {1, &P::optPremise, "optPremise", "Premise", "", Premise},
@@ -208,10 +215,11 @@ const MenuRow MenuRows[] = {
      WriteGroup<RingAxioms>, Hidden},
 
     {0, &P::optHelp, "optHelp", "&Help"},
-    {1, &P::optShowTip, "optShowTip", "Show Tip on Start-Up", "", nullptr, Checkable | Checked},
+    {1, &P::optShowTip, "optShowTip", "Show Tip on Start-Up", "", ToggleShowTip,
+     Checkable | Checked},
     {1, &P::optUserManual, "optUserManual", "User Manual / Tutorial", "", HelpCommand},
     {1, &P::optTessarynOnlline, "optTessarynOnlline", "Tessaryn Online", "", WebSiteCommand},
-    {1, &P::optAbout, "optAbout", "About Tessaryn"},
+    {1, &P::optAbout, "optAbout", "About Tessaryn", "", AboutCommand},
 };
 
 struct ButtonRow {

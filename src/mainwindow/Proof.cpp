@@ -11,6 +11,9 @@
 #include "mainwindow/ExpressionEditor.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/RuleModes.h"
+#include "output/Settings.h"
+#include "output/StartUp.h"
+#include "output/Tips.h"
 #include "view/InsertMode.h"
 #include "view/ShowHide.h"
 
@@ -100,6 +103,7 @@ void ProofForm::Load(const std::string& commandLine) {
     FirstActivation = true;
     SetPrompt("Press any key to continue");
     IntroEnd = 0;
+    LoadSettings();
     Caption = " Tessaryn 2.0  -  (Untitled)";
 }
 
@@ -108,7 +112,9 @@ void ProofForm::Activated() {
     if (FirstActivation) {
         FirstActivation = false;
         RTB.SetFocus();
+        if (!AppPath.empty()) ShowModal(StartUp);
         SetPrompt("Click Help** Button to start Tutorial");
+        if (TipWanted()) ShowModal(Tips);
     }
     if (CommandLineFile.empty()) return;
     ProofFileName = CommandLineFile;

@@ -7,7 +7,13 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/TestParser.h"
+#include "output/AboutTessaryn.h"
+#include "output/PrintProof.h"
 #include "output/SaveChanges.h"
+#include "output/SelectDir.h"
+#include "output/Settings.h"
+#include "output/StartUp.h"
+#include "output/Tips.h"
 #include "rules/Generalize.h"
 #include "rules/Substitution.h"
 #include "rules/modCases.h"
@@ -36,6 +42,7 @@ void StartProgram() {
     ClipLength = 0;
     OpenFollows = RecentPicked = false;
     RecentName.clear();
+    DefaultDir.clear();
     StmtFontSize = 12;
     RuleFontSize = 10;
     ToggledNumber = 0;
@@ -64,6 +71,11 @@ void StartProgram() {
     Restart(SubsetFrm);
     Restart(InductionForm);
     Restart(SaveChanges);
+    Restart(PrintProof);
+    Restart(SelectDir);
+    Restart(StartUp);
+    Restart(Tips);
+    Restart(AboutTessaryn);
     Restart(Comment);
     Restart(EditCaption);
     Restart(Find);

@@ -3,6 +3,7 @@
 #include "document/ProofFile.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "output/Settings.h"
 
 namespace tessaryn {
 
@@ -46,7 +47,7 @@ void SaveChangesForm::Yes() {
     if (!ProofFileName.empty()) {
         ProofFileName = WithProofExtension(ProofFileName);
     } else {
-        CommonDialog1 = {"", ProofFilter, Proof.CommonDialog1.InitDir, true, false};
+        CommonDialog1 = {"", ProofFilter, DefaultDir, true, false};
         save = ShowSave(CommonDialog1);
         if (save) ProofFileName = CommonDialog1.FileName;
     }
@@ -68,8 +69,8 @@ void SaveChangesForm::OpenProofFile() {
         RecentPicked = false;
         ProofFileName = RecentName;
     } else {
-        CommonDialog1 = {"", ProofFilter, Proof.CommonDialog1.InitDir, false, true};
-        if (!ShowOpen(CommonDialog1)) return;
+        CommonDialog1 = {"", ProofFilter, DefaultDir, false, true};
+        if (!ShowOpen(CommonDialog1)) return ProofFileName.clear();
         ProofFileName = CommonDialog1.FileName;
     }
     RefreshNow(Proof);

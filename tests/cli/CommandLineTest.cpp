@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "cli/ScriptRunner.h"
+#include "platform/Files.h"
 
 namespace tessaryn {
 namespace {
@@ -42,7 +43,8 @@ TEST(CommandLine, WrongUseShowsTheUsage) {
         {"dump"},
         {"dump", "a", "b"},
         {"--help", "me"},
-        {"html", "a", "b"},
+        {"html", "a"},
+        {"print", "a", "b", "c"},
     };
     for (const auto& row : rows) {
         const Outcome outcome = Call(row);
@@ -144,6 +146,23 @@ TEST(CommandLine, DumpOpensAProof) {
     EXPECT_EQ(refused.output, "");
     EXPECT_TRUE(refused.error.starts_with(file + ": Open: Unable to open proof file"));
     EXPECT_EQ(Call({"dump", "/nowhere/x.proof"}).status, 1);
+}
+
+TEST(CommandLine, HtmlAndPrintWriteFiles) {
+    const std::string proof = ::testing::TempDir() + "pages of ü.proof";
+    const std::string script =
+        "choose optPremise\nset RTB \"x @ s\"\nchoose cmdContinue\nsave \"" + proof + "\"\n";
+    ASSERT_EQ(RunScript(script).error, "");
+    const std::string page = ::testing::TempDir() + "page.html";
+    EXPECT_EQ(Call({"html", proof, page}).status, 0);
+    EXPECT_TRUE(ReadWholeFile(page).value_or("").ends_with("</pre></body></html>\r\n"));
+    const std::string paper = ::testing::TempDir() + "page.txt";
+    EXPECT_EQ(Call({"print", proof, paper}).status, 0);
+    EXPECT_EQ(ReadWholeFile(paper), "1\tx ε s\n\tPremise\n\n" + proof + "\n");
+    for (const char* command : {"html", "print"}) {
+        EXPECT_EQ(Call({command, proof, ::testing::TempDir()}).status, 1);
+        EXPECT_EQ(Call({command, "/nowhere/x.proof", page}).status, 1);
+    }
 }
 
 }  // namespace

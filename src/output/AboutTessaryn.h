@@ -1,0 +1,22 @@
+// Tells the name of the program.
+#pragma once
+
+#include "platform/Form.h"
+
+namespace tessaryn {
+
+struct AboutTessarynForm : Form {
+    AboutTessarynForm();
+
+    bool KeyPressed(const KeyEvent& key) override;
+
+    Label ProgramName{*this, "ProgramName", "Tessaryn 2.0"};
+    Label Purpose{*this, "Purpose", "An interactive editor for formal proofs"};
+    Button cmdOK{*this, "cmdOK", "OK"};
+};
+
+inline AboutTessarynForm AboutTessaryn;
+
+void AboutCommand();
+
+}  // namespace tessaryn

@@ -1,0 +1,100 @@
+#include "output/PrintProof.h"
+
+#include <exception>
+#include <stdexcept>
+
+#include "axioms/EnteredNumber.h"
+#include "document/Statement.h"
+#include "mainwindow/Proof.h"
+#include "output/Printing.h"
+
+namespace tessaryn {
+namespace {
+
+// A number that no line can have is as good as 0.
+int LineNumber(const std::string& entry) {
+    try {
+        return EnteredNumber(entry);
+    } catch (const std::out_of_range&) {
+        return 0;
+    }
+}
+
+}  // namespace
+
+PrintProofForm::PrintProofForm() : Form("PrintProof") {
+    ChkAllStmts.Click = [this] {
+        ShowRange();
+        StatusLine.Caption.clear();
+    };
+    Text2.Change = [this] { StatusLine.Caption.clear(); };
+    cmdContinue.Click = [this] { Continue(); };
+    cmdCancel.Click = [this] { Hide(); };
+    DefaultButton = &cmdContinue;
+}
+
+void PrintProofForm::Activated() {
+    openedFrom_ = LineNumber(Text1.Text);
+    openedTo_ = LineNumber(Text2.Text);
+    Caption = " Print Proof - Max. " + std::to_string(StmtCount) + " Lines";
+    StatusLine.Caption.clear();
+    ChkAllStmts.Value = openedFrom_ == 1 && openedTo_ == StmtCount;
+    ShowRange();
+}
+
+bool PrintProofForm::KeyPressed(const KeyEvent& key) {
+    if (key.key != Key::Esc) return false;
+    Hide();
+    return true;
+}
+
+// All statements, with the boxes out of reach, or the range that the form was opened with.
+void PrintProofForm::ShowRange() {
+    const bool all = ChkAllStmts.Value;
+    for (Control* control : std::initializer_list<Control*>{&Label1, &Text1, &Label2, &Text2}) {
+        control->Enabled = !all;
+    }
+    Text1.Text = std::to_string(all ? 1 : openedFrom_);
+    Text2.Text = std::to_string(all ? StmtCount : openedTo_);
+}
+
+void PrintProofForm::Refuse(const std::string& message, const std::string& reason) {
+    StatusLine.Caption = message;
+    Beep(reason);
+}
+
+void PrintProofForm::Continue() {
+    const int from = LineNumber(Text1.Text);
+    const int to = LineNumber(Text2.Text);
+    if (from < 1 || from > StmtCount || to < from || to > StmtCount) {
+        return Refuse("Invalid range", "The lines to print must lie between 1 and " +
+                                           std::to_string(StmtCount) +
+                                           ", the first not behind the last.");
+    }
+    if (ProofText.empty()) return Refuse("PRINT: No text to print", "The proof is empty.");
+    PrintResult result = PrintResult::Failed;
+    try {
+        result = PrintStatements(from, to);
+    } catch (const std::exception&) {
+        // A failure like any other of the printer.
+    }
+    if (result == PrintResult::Failed) return Refuse("Unable to print", "The printer failed.");
+    if (result == PrintResult::Done) Hide();
+}
+
+void PrintCommand() {
+    if (ProofText.empty()) return SetPrompt("Print:  Nothing to print");
+    int from = 1;
+    int to = StmtCount;
+    if (Proof.RTB.SelLength > 0) {
+        const int first = ShownStmtAt(Proof.RTB.SelStart + 1);
+        const int last = ShownStmtAt(Proof.RTB.SelStart + Proof.RTB.SelLength + 1);
+        if (first > 0) from = first;
+        if (last > 0 && last != first) to = last;
+    }
+    PrintProof.Text1.Text = std::to_string(from);
+    PrintProof.Text2.Text = std::to_string(to);
+    ShowModal(PrintProof);
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,34 @@
+// A range of statements on paper: a copy of the proof on the WorkArea surface, in black, in sizes
+// of its own and without indentation, printed page by page.
+#pragma once
+
+#include <string>
+
+#include "platform/RichTextBox.h"
+
+namespace tessaryn {
+
+inline constexpr int Inch = 1440;  // twips
+
+// Breaks lines at the first blank at or behind that column; no line end is moved.
+void InsertBreaks(std::string& text, int width);
+// Puts a TAB behind each line end.
+void InsertTabs(std::string& text);
+
+// Builds the copy of statements first to last on WorkArea.
+void BuildPrintCopy(int first, int last);
+
+enum class PrintResult { Done, Cancelled, Failed };
+
+// Readies the printer and lays the surface out for it. Margins are in twips; width and height tell
+// what they leave of a page.
+PrintResult WYSIWYG_RTF(RichTextBox& surface, int leftMargin, int rightMargin, int topMargin,
+                        int bottomMargin, int& width, int& height);
+// Prints what has been laid out, between the same margins.
+PrintResult PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int rightMargin,
+                     int bottomMargin);
+
+// The copy of statements first to last, printed at margins of an inch.
+PrintResult PrintStatements(int first, int last);
+
+}  // namespace tessaryn

@@ -1,0 +1,323 @@
+#include "output/Settings.h"
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "document/Bytes.h"
+#include "document/Encoding.h"
+#include "document/ProofFile.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "output/SaveChanges.h"
+#include "platform/Files.h"
+#include "view/Display.h"
+#include "view/Warning.h"
+
+namespace tessaryn {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* DefaultDirFile = "DefaultDir.bin";
+constexpr const char* RecentFilesFile = "RecentFiles.bin";
+constexpr const char* FontSizeFile = "UserFontSize.bin";
+constexpr const char* OptionFile = "UserOption.bin";
+
+constexpr std::size_t MaxRecent = 5;
+
+std::string PathOf(const char* file) {
+    return AppPath + "/" + file;
+}
+
+// Puts the content over the first bytes of the file.
+bool WriteOver(const std::string& path, std::string content) {
+    const std::optional<std::string> old = ReadWholeFile(path);
+    if (old && old->size() > content.size()) content += old->substr(content.size());
+    return ReplaceFile(path, content);
+}
+
+bool WriteSetting(const char* file, std::string content) {
+    return AppPath.empty() || WriteOver(PathOf(file), std::move(content));
+}
+
+std::string Header(int number) {
+    ByteWriter out;
+    out.Bytes(FileMagic);
+    out.Int16(number);
+    return out.Take();
+}
+
+std::string WithString(std::string content, const std::string& text) {
+    ByteWriter out;
+    out.Bytes(content);
+    out.String(text);
+    return out.Take();
+}
+
+std::string Option(bool tipWanted) {
+    ByteWriter out;
+    out.Int16(tipWanted ? 0 : -1);
+    return out.Take();
+}
+
+struct HeaderRead {
+    bool known;  // the ten characters are there
+    int number;
+};
+
+HeaderRead ReadHeader(ByteReader& in) {
+    const bool known = in.Bytes(FileMagic.size()) == FileMagic;
+    return {known, in.Int16()};
+}
+
+// --- the directory of the settings
+
+bool HoldsAll(const std::string& directory) {
+    for (const char* file : {DefaultDirFile, RecentFilesFile, FontSizeFile, OptionFile}) {
+        if (!ReadWholeFile(directory + "/" + file)) return false;
+    }
+    return true;
+}
+
+std::string Environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+// "" if the user has no directory of that kind.
+std::string UserConfigDir() {
+    const std::string given = Environment("XDG_CONFIG_HOME");
+    if (given.starts_with('/')) return given;
+    const std::string home = Environment("HOME");
+    return home.empty() ? "" : home + "/.config";
+}
+
+// Medium, no recent files, no default directory, tips wanted.
+void Deliver(const std::string& directory) {
+    std::error_code error;
+    fs::create_directories(directory, error);
+    WriteOver(directory + "/" + DefaultDirFile, WithString(Header(0), ""));
+    WriteOver(directory + "/" + RecentFilesFile, Header(0));
+    WriteOver(directory + "/" + FontSizeFile, Header(12));
+    WriteOver(directory + "/" + OptionFile, Option(true));
+}
+
+// --- text size
+
+void CheckTextSize() {
+    Proof.optSmallText.Checked = StmtFontSize == 10;
+    Proof.optMediumText.Checked = StmtFontSize == 12;
+    Proof.optLargeText.Checked = !Proof.optSmallText.Checked && !Proof.optMediumText.Checked;
+}
+
+void SetTextSize(int size) {
+    StmtFontSize = size;
+    RuleFontSize = size - 2;
+    CheckTextSize();
+}
+
+// Nothing if the file can't be read to its end.
+std::optional<int> StoredTextSize() {
+    const std::optional<std::string> bytes = ReadWholeFile(PathOf(FontSizeFile));
+    if (!bytes) return std::nullopt;
+    ByteReader in(*bytes);
+    const HeaderRead header = ReadHeader(in);
+    if (!in.Good()) return std::nullopt;
+    return header.known ? header.number : 12;
+}
+
+// --- recent files
+
+using Names = std::vector<std::string>;
+
+// No names from a header that is none, or says none. Nothing if the file can't be read to its end.
+std::optional<Names> StoredRecentFiles() {
+    const std::optional<std::string> bytes = ReadWholeFile(PathOf(RecentFilesFile));
+    if (!bytes) return std::nullopt;
+    ByteReader in(*bytes);
+    const HeaderRead header = ReadHeader(in);
+    if (!in.Good()) return std::nullopt;
+    Names names;
+    if (!header.known || header.number < 1 || header.number > static_cast<int>(MaxRecent)) {
+        return names;
+    }
+    for (int i = 0; i < header.number; ++i) names.push_back(ToUtf8(in.String()));
+    if (!in.Good()) return std::nullopt;
+    return names;
+}
+
+// Entries beyond the names are left as they are.
+void FillRecentMenu(const Names& names) {
+    const std::array items = {&Proof.optFile1, &Proof.optFile2, &Proof.optFile3, &Proof.optFile4,
+                              &Proof.optFile5};
+    if (!names.empty()) Proof.bar6.Visible = true;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        items[i]->Caption = names[i];
+        items[i]->Literal = true;
+        items[i]->Visible = true;
+    }
+}
+
+void PutAtHead(Names& names, const std::string& name) {
+    const auto place = std::find(names.begin(), names.end(), name);
+    if (place != names.end()) names.erase(place);
+    names.insert(names.begin(), name);
+    if (names.size() > MaxRecent) names.resize(MaxRecent);
+}
+
+void OpenRecent(const std::string& name) {
+    struct Picked {
+        Picked() { RecentPicked = true; }
+        ~Picked() { RecentPicked = false; }
+    };
+    RecentName = name;
+    const Picked picked;
+    OpenCommand();
+}
+
+// --- default directory and options
+
+bool LoadDefaultDir() {
+    const std::optional<std::string> bytes = ReadWholeFile(PathOf(DefaultDirFile));
+    if (!bytes) return false;
+    ByteReader in(*bytes);
+    const bool known = ReadHeader(in).known;
+    if (!in.Good()) return false;
+    if (!known) return true;
+    std::string directory = in.String();
+    if (!in.Good()) return false;
+    DefaultDir = ToUtf8(std::move(directory));
+    return true;
+}
+
+bool LoadTipWish() {
+    const std::optional<std::string> bytes = ReadWholeFile(PathOf(OptionFile));
+    if (!bytes) return false;
+    ByteReader in(*bytes);
+    const int option = in.Int16();
+    if (!in.Good()) return false;
+    Proof.optShowTip.Checked = option == 0;
+    return true;
+}
+
+void Warn(const std::string& text) {
+    Warning.Message.Caption = text;
+    ShowModal(Warning);
+}
+
+}  // namespace
+
+std::string FindAppPath(const std::string& programDir) {
+    if (!programDir.empty() && HoldsAll(programDir)) return programDir;
+    const std::string config = UserConfigDir();
+    if (config.empty()) return "";
+    std::error_code error;
+    const std::string own = config + "/tessaryn";
+    if (!fs::exists(own, error) || fs::is_empty(own, error)) Deliver(own);
+    return own;
+}
+
+void LoadSettings() {
+    if (AppPath.empty()) return;
+    GetFontSize();
+    LoadRecentMenu();
+    const bool hasDirectory = LoadDefaultDir();
+    const bool hasOption = LoadTipWish();
+    if (hasDirectory && hasOption) return;
+    Beep("\"" + PathOf(hasDirectory ? OptionFile : DefaultDirFile) +
+         "\" is missing or damaged. The program goes on without what stood in it.");
+    SetPrompt("WARNING: Unable to get Recent Files or Default Directory");
+}
+
+void GetFontSize() {
+    if (AppPath.empty()) return;
+    if (const std::optional<int> size = StoredTextSize()) {
+        SetTextSize(*size);
+    } else {
+        Warn("Unable to find Font Size Files");
+    }
+}
+
+void SaveFontSize() {
+    if (WriteSetting(FontSizeFile, Header(StmtFontSize))) return;
+    MsgBox("Unable to save user font file", "WARNING");
+}
+
+template <int size>
+void ChooseTextSize() {
+    SetTextSize(size);
+    if (Proof.RTB.TextLength() > 0) {
+        const int caret = Proof.RTB.SelStart;
+        ResetFonts();
+        Proof.RTB.SelStart = caret;
+    }
+    SaveFontSize();
+}
+
+template void ChooseTextSize<10>();
+template void ChooseTextSize<12>();
+template void ChooseTextSize<14>();
+
+void LoadRecentMenu() {
+    if (AppPath.empty()) return;
+    if (const std::optional<Names> names = StoredRecentFiles()) {
+        FillRecentMenu(*names);
+    } else {
+        Warn("Unable to find Recent Files");
+    }
+}
+
+void UpdateRecentFiles() {
+    if (AppPath.empty()) return;
+    Names names = StoredRecentFiles().value_or(Names{});
+    PutAtHead(names, ProofFileName);
+    std::string content = Header(static_cast<int>(names.size()));
+    for (const std::string& name : names) content = WithString(std::move(content), name);
+    if (WriteSetting(RecentFilesFile, std::move(content))) {
+        FillRecentMenu(names);
+    } else {
+        MsgBox("Unable to save recent file name", "WARNING");
+    }
+}
+
+template <int place>
+void OpenRecentFile() {
+    static constexpr std::array items = {&ProofForm::optFile1, &ProofForm::optFile2,
+                                         &ProofForm::optFile3, &ProofForm::optFile4,
+                                         &ProofForm::optFile5};
+    OpenRecent((Proof.*items[place - 1]).Caption);
+}
+
+template void OpenRecentFile<1>();
+template void OpenRecentFile<2>();
+template void OpenRecentFile<3>();
+template void OpenRecentFile<4>();
+template void OpenRecentFile<5>();
+
+bool SaveDefaultDir(const std::string& directory) {
+    if (!WriteSetting(DefaultDirFile, WithString(Header(0), directory))) return false;
+    DefaultDir = directory;
+    return true;
+}
+
+bool TipWanted() {
+    return !AppPath.empty() && Proof.optShowTip.Checked;
+}
+
+bool SaveTipWish(bool wanted) {
+    Proof.optShowTip.Checked = wanted;
+    return WriteSetting(OptionFile, Option(wanted));
+}
+
+void ToggleShowTip() {
+    if (SaveTipWish(!Proof.optShowTip.Checked)) return;
+    Beep("\"" + PathOf(OptionFile) + "\" can't be written.");
+    RuleMode = 0;
+    SetPrompt("Unable to process request");
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,18 @@
+#include "output/StartUp.h"
+
+namespace tessaryn {
+
+StartUpForm::StartUpForm() : Form("StartUp", "Tessaryn") {
+    BuildDate.Caption = "Built on " __DATE__;
+}
+
+bool StartUpForm::KeyPressed(const KeyEvent&) {
+    Hide();
+    return true;
+}
+
+void StartUpForm::Clicked() {
+    Hide();
+}
+
+}  // namespace tessaryn

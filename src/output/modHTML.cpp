@@ -1,0 +1,149 @@
+#include <string_view>
+#include <utility>
+
+#include "document/Encoding.h"
+#include "document/ProofFile.h"
+#include "document/Statement.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "output/HTML.h"
+#include "output/Settings.h"
+#include "platform/Files.h"
+#include "platform/TextSteps.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr std::string_view Blue = R"(<font size="3" face="Courier New" color="#000096">)";
+constexpr std::string_view Black = R"(<font size="3" face="Courier New" color="#000000">)";
+constexpr std::string_view Grey = R"(<font size="3" face="Courier New" color="#808080">)";
+constexpr std::string_view EndRun = "</font>";
+
+void AppendEscaped(std::string& page, std::string_view text) {
+    for (const char c : text) {
+        if (c == '<') {
+            page += "&lt;";
+        } else if (c == '>') {
+            page += "&gt;";
+        } else if (c == '@') {
+            page += "&#949;";
+        } else {
+            page += c;
+        }
+    }
+}
+
+void AppendRun(std::string& page, std::string_view font, std::string_view text) {
+    page += font;
+    AppendEscaped(page, text);
+    page += EndRun;
+}
+
+void AppendHead(std::string& page) {
+    page += "<html><head><title>";
+    page += ProofCaption.empty() ? "Untitled" : ProofCaption;
+    page += "</title></head><body><pre>";
+    if (ProofCaption.empty()) return;
+    page += Blue;
+    page += "<b>" + ProofCaption + "</b>";
+    page += EndRun;
+    page += "\r\n\r\n";
+}
+
+void AppendStatement(std::string& page, const Statement& stmt) {
+    int start = stmt.StartLine;
+    if (stmt.EndUserComment > 0) {
+        AppendRun(page, Blue, ProofSlice(start, stmt.EndUserComment));
+        start = stmt.EndUserComment + 1;
+    }
+    AppendRun(page, Black, ProofSlice(start, stmt.EndStmt));
+    page += Grey;
+    if (IsConclusion(stmt)) {  // without the triangle and its blank
+        page += ProofSlice(stmt.EndStmt + 1, stmt.StartRule - 1);
+        page += ProofSlice(stmt.StartRule + 2, stmt.EndRule + 4);
+    } else {
+        page += ProofSlice(stmt.EndStmt + 1, stmt.EndRule + 4);
+    }
+    page += EndRun;
+}
+
+unsigned CodePoint(std::string_view sequence) {
+    constexpr unsigned leadBits[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
+    unsigned code = static_cast<unsigned char>(sequence[0]) & leadBits[sequence.size()];
+    for (const char c : sequence.substr(1))
+        code = code << 6 | (static_cast<unsigned char>(c) & 63U);
+    return code;
+}
+
+// Characters outside ASCII as numeric references, so that a browser needs to know no encoding.
+std::string InAscii(const std::string& page) {
+    std::string ascii;
+    ascii.reserve(page.size());
+    for (std::size_t at = 0; at < page.size();) {
+        if (static_cast<unsigned char>(page[at]) < 0x80) {
+            ascii += page[at++];
+            continue;
+        }
+        const auto length = static_cast<std::size_t>(SequenceLength(page, static_cast<int>(at)));
+        ascii += "&#" + std::to_string(CodePoint(std::string_view(page).substr(at, length))) + ";";
+        at += length;
+    }
+    return ascii;
+}
+
+// Between these the user sees that work is going on.
+struct Busy {
+    Busy() {
+        RefreshNow(Proof);
+        Proof.MousePointer = Pointer::Hourglass;
+        SetPrompt("Please wait...");
+        RefreshNow(Proof);
+    }
+    ~Busy() { Proof.MousePointer = Pointer::Default; }
+};
+
+bool SaveHTMLWithHourglass(const std::string& path) {
+    const Busy busy;
+    return SaveHTML(path);
+}
+
+}  // namespace
+
+std::string InsertGifs(const std::string& text) {
+    std::string page;
+    AppendEscaped(page, text);
+    return page;
+}
+
+std::string HTMLPage() {
+    std::string page;
+    page.reserve(ProofText.size() * 2 + static_cast<std::size_t>(StmtCount) * 160);
+    AppendHead(page);
+    if (IntroEnd > 0) AppendRun(page, Blue, ProofSlice(1, IntroEnd + 4));
+    for (int line = 1; line <= StmtCount; ++line) {
+        AppendStatement(page, StmtTable[static_cast<std::size_t>(line)]);
+    }
+    page += "</pre></body></html>";
+    return InAscii(ToUtf8(std::move(page)));
+}
+
+bool SaveHTML(const std::string& path) {
+    return ReplaceFile(path, HTMLPage() + "\r\n");
+}
+
+void HTMLCommand() {
+    const std::string prompt = Proof.StatusLine.GetText();
+    SetPrompt("");
+    CommonDialog& dialog = Proof.CommonDialog1;
+    if (!dialog.FileName.empty()) dialog.FileName = WithExtension(dialog.FileName, "html");
+    CommonDialog choice{dialog.FileName, "HTML (*.html)|*.html", DefaultDir, true, false};
+    OperationCancelled = true;
+    if (!ShowSave(choice)) return;
+    OperationCancelled = false;
+    dialog.FileName = choice.FileName;
+    const bool saved = SaveHTMLWithHourglass(choice.FileName);
+    SetPrompt(prompt);
+    if (!saved) MsgBox("Unable to save HTML file", "WARNING");
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,128 @@
+// The copy that goes to the printer: text and formats of the pages.
+#include <algorithm>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "document/Statement.h"
+#include "mainwindow/ProgramState.h"
+#include "output/Printing.h"
+#include "view/Display.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr int FoldingWidth = 55;  // characters
+constexpr std::string_view LineEnd = "\r\n";
+
+constexpr int CaptionSize = 12;
+constexpr int TextSize = 10;
+constexpr int AnnotationSize = 8;
+
+// Text with its formats, put together piece by piece.
+class Copy {
+  public:
+    void Append(std::string_view text, int size, bool bold = false) {
+        if (text.empty()) return;
+        const int start = static_cast<int>(text_.size());
+        text_ += text;
+        runs_.push_back({start, static_cast<int>(text.size()), {StatementFont, size, Black, bold}});
+    }
+    void PutOn(RichTextBox& surface) {
+        const int length = static_cast<int>(text_.size());
+        SetContent(surface, std::move(text_), std::move(runs_));
+        ConvertAmpersand(surface, 1, length);
+    }
+
+  private:
+    std::string text_;
+    std::vector<FormatRun> runs_;
+};
+
+std::string Folded(std::string_view text) {
+    std::string folded(text);
+    RemoveTabs(folded);
+    InsertBreaks(folded, FoldingWidth);
+    return folded;
+}
+
+void AppendCaption(Copy& copy) {
+    std::string caption = ProofCaption;
+    InsertBreaks(caption, FoldingWidth);
+    copy.Append(caption, CaptionSize, true);
+    copy.Append("\r\n\r\n", TextSize);
+}
+
+void AppendStatement(Copy& copy, int number) {
+    const Statement& stmt = StmtTable[static_cast<std::size_t>(number)];
+    if (stmt.EndUserComment > 0) {
+        copy.Append(Folded(ProofSlice(stmt.StartLine, stmt.EndUserComment)) + "\r\n\r\n", TextSize);
+    }
+    std::string text = Folded(StoredText(number));
+    InsertTabs(text);
+    copy.Append(std::to_string(number) + "\t" + text + "\r\n\t", TextSize);
+    const int triangle = IsConclusion(stmt) ? 2 : 0;  // it and its blank are not printed
+    copy.Append(ProofSlice(stmt.StartRule + triangle, stmt.EndRule), AnnotationSize);
+    copy.Append("\r\n\r\n", TextSize);
+}
+
+bool ContinuesCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+}  // namespace
+
+void InsertBreaks(std::string& text, int width) {
+    std::string folded;
+    folded.reserve(text.size() + text.size() / 32);
+    int column = 0;
+    std::size_t at = 0;
+    while (at + 1 < text.size()) {
+        if (column >= width) {
+            const std::size_t end = text.find_first_of(" \r", at);
+            if (end == std::string::npos) break;
+            folded.append(text, at, end - at);
+            folded += LineEnd;
+            at = std::min(text.size(), end + (text[end] == ' ' ? 1 : LineEnd.size()));
+            column = 0;
+        } else if (text[at] == '\r') {
+            folded += LineEnd;
+            at = std::min(text.size(), at + LineEnd.size());
+            column = 0;
+        } else {
+            if (!ContinuesCharacter(text[at])) ++column;
+            folded += text[at++];
+        }
+    }
+    folded.append(text, at);
+    text = std::move(folded);
+}
+
+void InsertTabs(std::string& text) {
+    std::string aligned;
+    aligned.reserve(text.size() + 8);
+    for (const char c : text) {
+        aligned += c;
+        if (c == '\n') aligned += '\t';
+    }
+    text = std::move(aligned);
+}
+
+void BuildPrintCopy(int first, int last) {
+    Copy copy;
+    if (!ProofCaption.empty()) AppendCaption(copy);
+    if (first == 1 && IntroEnd > 0) copy.Append(ProofSlice(1, IntroEnd + 4), TextSize);
+    for (int number = first; number <= last; ++number) AppendStatement(copy, number);
+    copy.Append(ProofFileName.empty() ? "(Untitled)" : ProofFileName, TextSize);
+    copy.PutOn(WorkArea.RTB);
+}
+
+PrintResult PrintStatements(int first, int last) {
+    BuildPrintCopy(first, last);
+    int width = 0;
+    int height = 0;
+    const PrintResult ready = WYSIWYG_RTF(WorkArea.RTB, Inch, Inch, Inch, Inch, width, height);
+    return ready == PrintResult::Done ? PrintRTF(WorkArea.RTB, Inch, Inch, Inch, Inch) : ready;
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,59 @@
+// The pages of a surface. The platform's printer measures in twips here, and does the drawing.
+#include "output/Printing.h"
+#include "platform/Platform.h"
+
+namespace tessaryn {
+namespace {
+
+PrinterPage Page;  // of the printer that has been readied
+
+PageRect Between(int leftMargin, int topMargin, int rightMargin, int bottomMargin) {
+    return {leftMargin - Page.OffsetX, topMargin - Page.OffsetY,
+            Page.Width - rightMargin - Page.OffsetX, Page.Height - bottomMargin - Page.OffsetY};
+}
+
+// Ends with the position where nothing went on the page any more; that of the end if all is well.
+int PrintPages(RichTextBox& surface, const PageRect& rect) {
+    int next = PrintRange(0, rect);
+    while (next < surface.TextLength() && NextPage()) {
+        const int printed = PrintRange(next, rect);
+        if (printed <= next) return next;
+        next = printed;
+    }
+    return next;
+}
+
+}  // namespace
+
+PrintResult WYSIWYG_RTF(RichTextBox& surface, int leftMargin, int rightMargin, int topMargin,
+                        int bottomMargin, int& width, int& height) {
+    switch (ReadyPrinter(Page)) {
+        case PrinterState::Ready:
+            break;
+        case PrinterState::Cancelled:
+            return PrintResult::Cancelled;
+        case PrinterState::Failed:
+            return PrintResult::Failed;
+    }
+    const PageRect rect = Between(leftMargin, topMargin, rightMargin, bottomMargin);
+    width = rect.Right - rect.Left;
+    height = rect.Bottom - rect.Top;
+    if (width > 0 && height > 0 && LayOutForPrinter(surface, width)) return PrintResult::Done;
+    ReleasePrinter();
+    return PrintResult::Failed;
+}
+
+PrintResult PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int rightMargin,
+                     int bottomMargin) {
+    bool good = StartPrinting();
+    if (good) {
+        const PageRect rect = Between(leftMargin, topMargin, rightMargin, bottomMargin);
+        const bool whole = PrintPages(surface, rect) >= surface.TextLength();
+        if (!whole) CancelPrinting();
+        good = whole && EndPrinting();
+    }
+    ReleasePrinter();
+    return good ? PrintResult::Done : PrintResult::Failed;
+}
+
+}  // namespace tessaryn

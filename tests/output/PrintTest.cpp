@@ -1,0 +1,184 @@
+// The copy for the printer, its pages, and the form that asks for the lines.
+#include <gtest/gtest.h>
+
+#include "WrittenProof.h"
+#include "cli/FormState.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "output/PrintProof.h"
+#include "output/Printing.h"
+#include "platform/Events.h"
+#include "view/Display.h"
+
+namespace tessaryn {
+namespace {
+
+std::string Broken(std::string text, int width = 5) {
+    InsertBreaks(text, width);
+    return text;
+}
+
+TEST(Printing, BreaksLinesAtTheFirstBlankBehindTheWidth) {
+    EXPECT_EQ(Broken("abcde fg"), "abcde\r\nfg");
+    EXPECT_EQ(Broken("ab cd ef"), "ab cd\r\nef");
+    EXPECT_EQ(Broken("ab cdefg hi jklmnop q"), "ab cdefg\r\nhi jklmnop\r\nq");
+    EXPECT_EQ(Broken("abcdefghij"), "abcdefghij");
+    EXPECT_EQ(Broken("abcdefg\r\nhijkl m"), "abcdefg\r\nhijkl\r\nm");
+    EXPECT_EQ(Broken("abc\r\nde fgh"), "abc\r\nde fgh");
+    EXPECT_EQ(Broken("äöüäö ü"), "äöüäö\r\nü");  // characters count, not bytes
+    EXPECT_EQ(Broken("abcdef "), "abcdef\r\n");
+    EXPECT_EQ(Broken("abcde "), "abcde ");  // the last character is not looked at
+    EXPECT_EQ(Broken(""), "");
+    std::string folded = "a\r\nb\r\n";
+    InsertTabs(folded);
+    EXPECT_EQ(folded, "a\r\n\tb\r\n\t");
+}
+
+TEST(Printing, CopyIsFlatBlackAndOfItsOwnSizes) {
+    WriteSmallProof();
+    ProofFileName = "/p/small.proof";
+    BuildPrintCopy(1, 2);
+    RichTextBox& copy = WorkArea.RTB;
+    EXPECT_EQ(ConvertEpsilon(copy),
+              "On < and é\r\n\r\n"
+              "Über s & t: x @ s\r\n\r\n"
+              "Let x > y\r\n\r\n"
+              "1\tx @ s & y<x\r\n\tPremise\r\n\r\n"
+              "2\tx @ s & y<x =>\r\n\ty<x\r\n\tConclusion, 1\r\n\r\n"
+              "/p/small.proof");
+    const auto format = [&](const std::string& part) {
+        return copy.FormatAt(static_cast<int>(copy.GetText().find(part)));
+    };
+    EXPECT_EQ(format("On <"), (CharFormat{"Courier New", 12, 0, true}));
+    EXPECT_EQ(format("ber"), (CharFormat{"Courier New", 10, 0, false}));
+    EXPECT_EQ(format("Let"), (CharFormat{"Courier New", 10, 0, false}));
+    EXPECT_EQ(format("e s & y"), (CharFormat{"Symbol", 10, 0, false}));
+    EXPECT_EQ(format("\tPremise"), (CharFormat{"Courier New", 10, 0, false}));
+    EXPECT_EQ(format("Premise"), (CharFormat{"Courier New", 8, 0, false}));
+    EXPECT_EQ(format("/p/"), (CharFormat{"Courier New", 10, 0, false}));
+
+    // From line 2 on there is no introduction; an untitled proof says so.
+    ProofFileName.clear();
+    BuildPrintCopy(2, 2);
+    EXPECT_EQ(ConvertEpsilon(copy),
+              "On < and é\r\n\r\n"
+              "2\tx @ s & y<x =>\r\n\ty<x\r\n\tConclusion, 1\r\n\r\n(Untitled)");
+}
+
+TEST(Printing, LongCaptionFoldsAndNothingBehindItIsBold) {
+    StartProof(std::string(50, 'a') + " bbbbbbbbbb cc", "Intro");
+    BuildPrintCopy(1, 0);
+    const std::string& text = WorkArea.RTB.GetText();
+    EXPECT_TRUE(text.starts_with(std::string(50, 'a') + " bbbbbbbbbb\r\ncc\r\n\r\nIntro"));
+    const int end = static_cast<int>(text.find("cc")) + 2;
+    EXPECT_TRUE(WorkArea.RTB.FormatAt(end - 1).Bold);
+    EXPECT_FALSE(WorkArea.RTB.FormatAt(end).Bold);
+}
+
+TEST(Printing, PagesHoldEverythingOnce) {
+    StartProof();
+    for (int i = 0; i < 200; ++i) AddLine("P & " + std::string(300, 'x'), Rule::Axiom);
+    ASSERT_EQ(PrintStatements(1, 200), PrintResult::Done);
+    EXPECT_GT(Headless.Pages.size(), 15u);  // a long line takes several rows
+    std::string all;
+    for (const std::string& page : Headless.Pages) {
+        EXPECT_FALSE(page.empty());
+        all += page;
+    }
+    std::string copy = WorkArea.RTB.GetText();
+    std::erase(copy, '\r');
+    EXPECT_EQ(all, copy);
+    Headless.HasPrinter = false;
+    EXPECT_EQ(PrintStatements(1, 1), PrintResult::Failed);
+}
+
+// Opens the form as the user does and answers in it.
+void Print(const std::function<void()>& answer) {
+    bool answered = false;
+    Headless.NextStep = [&] {
+        if (answered) return false;
+        answered = true;
+        answer();
+        return true;
+    };
+    try {
+        SendChoose(Proof.optPrint);
+    } catch (const ProgramEnded&) {
+    }
+    Headless.NextStep = nullptr;
+}
+
+TEST(Printing, SelectionGivesTheRange) {
+    StartProof();
+    for (const char* name : {"P", "Q", "R"}) AddLine(name, Rule::Axiom);
+    RelayoutViewer();
+    ResetFonts();
+    const auto select = [](int first, int last) {
+        const auto start = [](int line) {
+            return StmtTable[static_cast<std::size_t>(line)].ViewerStartLine - 1;
+        };
+        Proof.RTB.SelStart = start(first);
+        Proof.RTB.SelLength = start(last) + 1 - start(first);
+    };
+    const auto range = [] { return PrintProof.Text1.Text + "-" + PrintProof.Text2.Text; };
+    select(2, 3);
+    Print([&] {
+        EXPECT_EQ(range(), "2-3");
+        EXPECT_EQ(PrintProof.Caption, " Print Proof - Max. 3 Lines");
+        EXPECT_FALSE(PrintProof.ChkAllStmts.Value);
+        SendChoose(PrintProof.ChkAllStmts);
+        EXPECT_EQ(range(), "1-3");
+        EXPECT_FALSE(PrintProof.Text2.Enabled);
+        SendChoose(PrintProof.ChkAllStmts);
+        EXPECT_EQ(range(), "2-3");
+        EXPECT_TRUE(PrintProof.Label1.Enabled);
+    });
+    select(2, 2);  // inside one block: to the end
+    Print([&] { EXPECT_EQ(range(), "2-3"); });
+    select(1, 2);
+    Print([&] { EXPECT_EQ(range(), "1-2"); });
+    Proof.RTB.SelLength = 0;
+    Print([&] { EXPECT_TRUE(PrintProof.ChkAllStmts.Value); });
+}
+
+TEST(Printing, FormRefusesWhatIsNoRange) {
+    StartProof();
+    for (const char* name : {"P", "Q", "R"}) AddLine(name, Rule::Axiom);
+    const char* rows[][2] = {{"0", "3"}, {"1", "4"}, {"3", "2"},
+                             {"", "2"},  {"x", "y"}, {"1", "99999"}};
+    for (const auto& row : rows) {
+        Print([&] {
+            PrintProof.Text1.Text = row[0];
+            PrintProof.Text2.Text = row[1];
+            const std::size_t beeps = Headless.Beeps.size();
+            SendChoose(PrintProof.cmdContinue);
+            EXPECT_EQ(PrintProof.StatusLine.Caption, "Invalid range") << row[0] << '-' << row[1];
+            EXPECT_EQ(Headless.Beeps.size(), beeps + 1);
+            EXPECT_TRUE(PrintProof.Visible);
+            PrintProof.Text2.Change();
+            EXPECT_EQ(PrintProof.StatusLine.Caption, "");
+        });
+    }
+    Print([] {
+        Headless.HasPrinter = false;
+        SendChoose(PrintProof.cmdContinue);
+        EXPECT_EQ(PrintProof.StatusLine.Caption, "Unable to print");
+        EXPECT_TRUE(PrintProof.Visible);
+    });
+    Headless.HasPrinter = true;
+    Print([] {
+        PrintProof.Text1.Text = " 2 lines";
+        PrintProof.Text2.Text = "2";
+        SendChoose(PrintProof.cmdContinue);
+        EXPECT_FALSE(PrintProof.Visible);
+    });
+    ASSERT_EQ(Headless.Pages.size(), 1u);
+    EXPECT_EQ(Headless.Pages[0], "2\tQ\n\tAxiom\n\n(Untitled)");
+
+    StartProof();
+    SendChoose(Proof.optPrint);
+    EXPECT_EQ(BoxText(Proof.StatusLine), "Print:  Nothing to print");
+}
+
+}  // namespace
+}  // namespace tessaryn
