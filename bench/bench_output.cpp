@@ -1,0 +1,53 @@
+// What is put out of proofs of 100 to 32,000 statements: the page for a browser, and print.
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+
+#include "LargeProofs.h"
+#include "cli/HeadlessPlatform.h"
+#include "document/Statement.h"
+#include "output/HTML.h"
+#include "output/Printing.h"
+
+namespace tessaryn {
+namespace {
+
+void PageForABrowser(benchmark::State& state) {
+    MakeLargeProof(static_cast<int>(state.range(0)));
+    for (auto _ : state) benchmark::DoNotOptimize(HTMLPage());
+    state.SetComplexityN(state.range(0));
+}
+
+// With the file, which is flushed to the disk.
+void SavedPage(benchmark::State& state) {
+    MakeLargeProof(static_cast<int>(state.range(0)));
+    const auto file = std::filesystem::temp_directory_path() / "tessaryn-bench.html";
+    for (auto _ : state) {
+        if (!SaveHTML(file.string())) state.SkipWithError("the page can't be written");
+    }
+    std::filesystem::remove(file);
+}
+
+void PrintCopy(benchmark::State& state) {
+    MakeLargeProof(static_cast<int>(state.range(0)));
+    for (auto _ : state) BuildPrintCopy(1, StmtCount);
+    state.SetComplexityN(state.range(0));
+}
+
+void PrintedPages(benchmark::State& state) {
+    MakeLargeProof(static_cast<int>(state.range(0)));
+    for (auto _ : state) benchmark::DoNotOptimize(PrintStatements(1, StmtCount));
+    state.counters["pages"] = static_cast<double>(Headless.Pages.size());
+}
+
+void Sizes(benchmark::internal::Benchmark* bench) {
+    bench->Arg(100)->Arg(1000)->Arg(10000)->Arg(32000)->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(PageForABrowser)->Apply(Sizes)->Complexity();
+BENCHMARK(SavedPage)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(PrintCopy)->Apply(Sizes)->Complexity();
+BENCHMARK(PrintedPages)->Apply(Sizes);
+
+}  // namespace
+}  // namespace tessaryn
