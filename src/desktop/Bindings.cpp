@@ -172,9 +172,10 @@ Binding BindItem(MenuItem& item, QAction& action) {
     return {&item, nullptr, {}, [&item, &action] {
                 action.setVisible(item.Visible);
                 action.setEnabled(item.Enabled);
-                if (const QString text = ItemText(item); action.text() != text) {
-                    action.setText(text);
-                }
+                // A separator with a text would be painted as a heading, and two in a row both
+                // show.
+                const QString text = action.isSeparator() ? QString() : ItemText(item);
+                if (action.text() != text) action.setText(text);
                 const bool checkable = item.Checkable || item.Checked;
                 if (action.isCheckable() != checkable) action.setCheckable(checkable);
                 if (action.isChecked() != item.Checked) action.setChecked(item.Checked);
