@@ -3,6 +3,7 @@
 #include "output/Settings.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -29,7 +30,8 @@ std::string Counted(const std::string& text) {
 
 class Settings : public testing::Test {
   protected:
-    Settings() : directory_(testing::TempDir() + "tessaryn settings ü") {
+    Settings()
+        : directory_(testing::TempDir() + "tessaryn settings ü " + std::to_string(::getpid())) {
         fs::remove_all(directory_);
         fs::create_directories(directory_);
         Put("DefaultDir.bin", Magic + "\0\0\0\0"s);
