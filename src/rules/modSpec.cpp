@@ -1,4 +1,4 @@
-// Specification: takes the leading quantifier of a statement away.
+// Specify: takes the leading quantifier of a statement away.
 //
 //   E Spec: from EXIST(x):P, writes P with a name for x that is not in use yet
 //   U Spec: from ALL(x):P, writes P with a term for x whose names are all in use
