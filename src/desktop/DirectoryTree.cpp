@@ -1,6 +1,7 @@
 #include "desktop/DirectoryTree.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
 
 #include "desktop/Desktop.h"
 #include "desktop/PaintedText.h"
@@ -13,20 +14,17 @@ DirectoryTree::DirectoryTree(DirectoryBox& box, QWidget* parent) : QTreeView(par
     setModel(&model_);
     for (int column = 1; column < model_.columnCount(); ++column) hideColumn(column);
     header()->hide();
-    // The tree fills in and sorts itself by and by. Until it has come as far as the directory, that
-    // stays in sight.
+    // The tree fills in and sorts itself by and by, in no order that could be told beforehand. Until
+    // the user takes over, the directory stays in sight.
     const auto follow = [this] {
         if (following_) scrollTo(currentIndex(), PositionAtCenter);
     };
     connect(&model_, &QFileSystemModel::rowsInserted, this, follow, Qt::QueuedConnection);
+    connect(&model_, &QFileSystemModel::rowsRemoved, this, follow, Qt::QueuedConnection);
     connect(&model_, &QFileSystemModel::layoutChanged, this, follow, Qt::QueuedConnection);
-    connect(
-        &model_, &QFileSystemModel::directoryLoaded, this,
-        [this, follow](const QString& path) {
-            follow();
-            if (path == ToQt(box_.Path)) following_ = false;
-        },
-        Qt::QueuedConnection);
+    connect(&model_, &QFileSystemModel::directoryLoaded, this, follow, Qt::QueuedConnection);
+    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this,
+            [this] { following_ = false; });
     Sync();
 }
 
@@ -38,6 +36,16 @@ void DirectoryTree::Sync() {
     expand(place);
     scrollTo(place, PositionAtCenter);
     syncing_ = false;
+}
+
+void DirectoryTree::keyPressEvent(QKeyEvent* event) {
+    following_ = false;
+    QTreeView::keyPressEvent(event);
+}
+
+void DirectoryTree::mousePressEvent(QMouseEvent* event) {
+    following_ = false;
+    QTreeView::mousePressEvent(event);
 }
 
 void DirectoryTree::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

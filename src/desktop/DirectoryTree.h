@@ -14,13 +14,15 @@ class DirectoryTree : public QTreeView {
     void Sync();  // goes where the logic has set it
 
   protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
   private:
     DirectoryBox& box_;
     QFileSystemModel model_;
     bool syncing_ = false;    // the logic moves it, not the user
-    bool following_ = false;  // the place is still being looked for
+    bool following_ = false;  // the user has not moved since it went there
 };
 
 }  // namespace tessaryn
