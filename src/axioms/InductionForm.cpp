@@ -96,31 +96,35 @@ void InductionDialogue::Reset() {
 
 // --- the entries, each with its checks; false after a refusal
 
-bool InductionDialogue::RefuseVar(const std::string& message) {
+// `reason` goes with the beep where the message alone does not tell what to enter.
+bool InductionDialogue::Refuse(const std::string& message, Control& focus,
+                               const std::string& reason) {
     StatusLine.Caption = message;
-    Beep(message);
-    BoundVarTextBox.SetFocus();
+    Beep(reason.empty() ? message : reason);
+    focus.SetFocus();
     return false;
 }
 
+bool InductionDialogue::RefuseVar(const std::string& reason) {
+    return Refuse(InvalidVariable, BoundVarTextBox, reason);
+}
+
 bool InductionDialogue::RefuseProperty(const std::string& message) {
-    StatusLine.Caption = message;
-    Beep(message);
-    RTB.SetFocus();
-    return false;
+    return Refuse(message, RTB);
 }
 
 bool InductionDialogue::TakeBoundVar() {
     BoundVarTextBox.Text = Trim(BoundVarTextBox.Text);
     if (const std::string fault = ForbiddenCharacter(BoundVarTextBox.Text); !fault.empty()) {
-        return RefuseVar(fault);
+        return Refuse(fault, BoundVarTextBox);
     }
     const Expression entry = ParseExpression(BoundVarTextBox.Text);
     if (!entry.error.empty() || entry.nodes.size() != 2 || Root(entry.nodes).Rule != Node::Atom) {
-        return RefuseVar(InvalidVariable);
+        return RefuseVar("Enter a single name that begins with a small letter, such as k.");
     }
     var_ = Root(entry.nodes).Name;
-    return var_ != "1" && var_ != "n" ? true : RefuseVar(InvalidVariable);
+    if (var_ != "1" && var_ != "n") return true;
+    return RefuseVar("1 and n have a meaning of their own here: take another name.");
 }
 
 bool InductionDialogue::TakeProperty() {
@@ -148,7 +152,8 @@ bool InductionDialogue::CheckPropertyNames() {
     // Put in for the variable, the number 1 would be caught.
     if (!BindsOne()) return true;
     Editor.MarkName("1");
-    return RefuseProperty(InvalidVariable);
+    return Refuse(InvalidVariable, RTB,
+                  "ALL or EXIST binds 1 in the property: bind another name there.");
 }
 
 void InductionDialogue::Continue() {
@@ -159,7 +164,8 @@ void InductionDialogue::Continue() {
     if (ParseError == UnableToParse) {
         RefuseProperty(ParseError);  // too long with the property in it five times
     } else if (!ParseError.empty()) {
-        RefuseVar(InvalidVariable);
+        RefuseVar("The property binds or applies " + var_ +
+                  ", or binds n: take other names for these.");
     } else if (!WriteStatement()) {
         RefuseProperty(ParseError);
     } else {

@@ -40,7 +40,8 @@ struct InductionDialogue : Form {
     bool TakeBoundVar();
     bool TakeProperty();
     bool CheckPropertyNames();
-    bool RefuseVar(const std::string& message);
+    bool Refuse(const std::string& message, Control& focus, const std::string& reason = "");
+    bool RefuseVar(const std::string& reason);  // "Invalid bound variable"
     bool RefuseProperty(const std::string& message);
 
     std::string var_;  // the accepted name

@@ -48,6 +48,12 @@ bool IsListOfNames(const NodeList& nodes, std::size_t count) {
     return true;
 }
 
+std::string WhatToList() {
+    if (SubsetPrimes == 0) return "Enter a single name, such as a.";
+    return "Enter " + std::to_string(SubsetPrimes + 1) +
+           " different names with commas between them.";
+}
+
 struct SubsetEntries {
     const std::string& subset;
     const std::vector<std::string>& vars;
@@ -131,9 +137,10 @@ void SubsetDialogue::Clear() {
 
 // --- the entries, each with its checks; false after a refusal
 
-bool SubsetDialogue::Refuse(const std::string& message, Control& focus) {
+// `reason` goes with the beep where the message alone does not tell what to enter.
+bool SubsetDialogue::Refuse(const std::string& message, Control& focus, const std::string& reason) {
     StatusLine.Caption = message;
-    Beep(message);
+    Beep(reason.empty() ? message : reason);
     focus.SetFocus();
     return false;
 }
@@ -149,7 +156,8 @@ bool SubsetDialogue::TakeSubsetName() {
     }
     const Expression entry = ParseExpression(SubsetName.Text);
     if (!entry.error.empty() || !IsListOfNames(entry.nodes, 1)) {
-        return Refuse("Invalid subset name", SubsetName);
+        return Refuse("Invalid subset name", SubsetName,
+                      "Enter a single name that begins with a small letter, such as y.");
     }
     subset_ = Root(entry.nodes).Name;
     if (Contains(Atoms(ParseExpression(SubsetParent).nodes), subset_)) {
@@ -165,7 +173,7 @@ bool SubsetDialogue::TakeBoundVars() {
     const Expression entry = ParseExpression(BoundVars.Text);
     if (!entry.error.empty() ||
         !IsListOfNames(entry.nodes, static_cast<std::size_t>(SubsetPrimes) + 1)) {
-        return Refuse("Invalid list of bound variables", BoundVars);
+        return Refuse("Invalid list of bound variables", BoundVars, WhatToList());
     }
     vars_ = Atoms(entry.nodes);
     ParseTable2 = entry.nodes;
@@ -217,9 +225,12 @@ void SubsetDialogue::Continue() {
     if (!TakeSubsetName() || !TakeBoundVars() || !TakeCriterion()) return;
     NewStmtText = SubsetText({subset_, vars_, criterion_});
     Parse();
-    if (!ParseError.empty()) {
-        const bool tooLong = ParseError == UnableToParse;
-        Refuse(tooLong ? UnableToParse : "Inconsistent usage of bound variables", SelectExpression);
+    if (ParseError == UnableToParse) {
+        Refuse(ParseError, SelectExpression);  // too long with the criterion in it
+    } else if (!ParseError.empty()) {
+        Refuse("Inconsistent usage of bound variables", SelectExpression,
+               "ALL or EXIST binds a name in the criterion that has another meaning in the new "
+               "line: bind another name there.");
     } else if (!WriteStatement()) {
         Refuse(ParseError, SelectExpression);
     } else {

@@ -56,7 +56,7 @@ struct SubsetDialogue : Form {
     bool TakeBoundVars();
     bool TakeCriterion();
     bool CheckCriterionNames();
-    bool Refuse(const std::string& message, Control& focus);
+    bool Refuse(const std::string& message, Control& focus, const std::string& reason = "");
     bool RefuseAtName(const std::string& message, const std::string& name);
 
     std::string subset_;             // the accepted entries

@@ -41,8 +41,11 @@ void AskForAxiomOrder(int rule) {
 void ContinueAxiomScheme() {
     const AxiomScheme& scheme = SchemeOf(RuleMode);
     const int order = EnteredNumber(MyInputBox.Text1.Text);
-    if (order < scheme.least) return RefuseEntry(scheme.refusal);
-    if (order > MaxAxiomOrder) return RefuseEntry("Invalid number");
+    if (order < scheme.least || order > MaxAxiomOrder) {
+        return RefuseEntry(order < scheme.least ? scheme.refusal : "Invalid number",
+                           "Enter a whole number from " + std::to_string(scheme.least) + " to " +
+                               std::to_string(MaxAxiomOrder) + ".");
+    }
     NewStmtText = SchemeText(scheme, order);
     Arg1Pending = Arg2Pending = 0;
     // Another number would not help where the statement can't be written: StatusLine tells why.

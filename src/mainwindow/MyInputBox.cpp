@@ -42,9 +42,9 @@ const InputMode* FindMode(int ruleMode) {
 
 }  // namespace
 
-void RefuseEntry(const std::string& message) {
+void RefuseEntry(const std::string& message, const std::string& reason) {
     MyInputBox.Label2.Caption = message;
-    Beep(message);
+    Beep(reason.empty() ? message : reason);
     MyInputBox.Text1.SetFocus();
 }
 

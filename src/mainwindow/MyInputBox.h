@@ -30,7 +30,8 @@ struct MyInputBoxForm : Form {
 
 inline MyInputBoxForm MyInputBox;
 
-// Refuses the entry: beep, the message in Label2, the focus back to Text1. The box stays.
-void RefuseEntry(const std::string& message);
+// Refuses the entry: beep, the message in Label2, the focus back to Text1. The box stays. `reason`
+// goes with the beep where the message alone does not tell what to enter.
+void RefuseEntry(const std::string& message, const std::string& reason = "");
 
 }  // namespace tessaryn
