@@ -78,7 +78,7 @@ void ExistGenSelect() {
     Arg1Pending = line;
     Generalize.Caption =
         " Existential Generalization:  Line " + std::to_string(line) + ", '" + GenExpression + "'";
-    Generalize.StatusLine.Caption.clear();
+    SetPrompt("");
     ShowModal(Generalize);
     FinishRule(true);
     Proof.RTB.SelLength = 0;
