@@ -2,57 +2,34 @@
 
 #include <algorithm>
 
-#include "document/PutStmt.h"
-#include "document/Statement.h"
 #include "expr/Parse.h"
 #include "mainwindow/EntryChecks.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "rules/OccurrenceBox.h"
-#include "rules/Occurrences.h"
 #include "view/Display.h"
 
 namespace tessaryn {
 
-GeneralizeForm::GeneralizeForm() : Form("Generalize") {
-    const auto on = [this](EventHandler& event, void (GeneralizeForm::*handler)()) {
-        event = [this, handler] { RunHandler([&] { (this->*handler)(); }); };
-    };
-    on(BoundVarTextBox.Change, &GeneralizeForm::BoundVarChanged);
-    on(cmdSelectAll.Click, &GeneralizeForm::SelectAll);
-    on(cmdReset.Click, &GeneralizeForm::Reset);
-    on(cmdContinue.Click, &GeneralizeForm::Continue);
-    on(cmdCancel.Click, &GeneralizeForm::Close);
-    MakeClickable(RTB, [this] { RunHandler([this] { Pick(); }); });
-    SaveRTB.Visible = false;
+GeneralizeForm::GeneralizeForm() : OccurrenceForm("Generalize", "Statement  Text:") {
+    BoundVarTextBox.Change = [this] { RunHandler([this] { BoundVarChanged(); }); };
 }
 
 void GeneralizeForm::Activated() {
     AskForBoundVar();
     StatementTextLabel.Visible = false;
     BoundVarTextBox.FontSize = StmtFontSize;
-    ShowOccurrences(StmtText(Arg1Pending), GenParseTable, RTB, SaveRTB);
+    ShowStatement(Arg1Pending, GenParseTable, GenExpression);
 }
 
 bool GeneralizeForm::KeyPressed(const KeyEvent& key) {
-    if (key.key == Key::Esc) Close();
-    return key.key == Key::Esc || (key.ctrl && ActiveControl == &RTB);
-}
-
-void GeneralizeForm::CloseRequested() {
-    Close();
+    return OccurrenceForm::KeyPressed(key) || (key.ctrl && ActiveControl == &RTB);
 }
 
 void GeneralizeForm::Close() {
     FinishRule(true);
     Hide();
-}
-
-void GeneralizeForm::Refuse(const std::string& message, Control& focus) {
-    StatusLine.Caption = message;
-    Beep(message);
-    focus.SetFocus();
 }
 
 // --- the bound variable
@@ -102,15 +79,9 @@ bool GeneralizeForm::AcceptBoundVar() {
 
 // --- picking
 
-// What stands in the box counts, so that earlier replacements do.
 bool GeneralizeForm::StartPicking(Expression& statement) {
     StatusLine.Caption = "Click on highlighted (blue) expression";
-    if (!AcceptBoundVar()) return false;
-    cmdReset.Enabled = true;
-    statement = ExpressionIn(RTB);
-    if (statement.error.empty()) return true;
-    StatusLine.Caption = "PARSER ERROR: " + statement.error;
-    return false;
+    return AcceptBoundVar() && ReadStatement(statement);
 }
 
 void GeneralizeForm::Pick() {
@@ -120,24 +91,14 @@ void GeneralizeForm::Pick() {
                                        "Reset to start anew.");
     }
     Expression statement;
-    if (!StartPicking(statement)) return;
-    const auto span = OccurrenceAt(GenParseTable, statement, RTB.SelStart + 1);
-    if (!span) return Beep("There is no " + GenExpression + " at this place: click a blue one.");
-    ReplaceSpans(RTB, {*span}, BoundVar, ReplacedByClick);
-    RTB.SelStart = span->start - 1;
-    cmdContinue.Enabled = true;
+    if (StartPicking(statement)) ReplaceAtCaret(statement, BoundVar);
 }
 
 void GeneralizeForm::SelectAll() {
     Expression statement;
     if (!StartPicking(statement)) return;
-    ReplaceSpans(RTB, AllOccurrences(GenParseTable, statement, Search::OutermostOnly), BoundVar,
-                 ReplacedByAll);
-    cmdContinue.Enabled = true;
-    cmdSelectAll.Enabled = false;
+    ReplaceAll(statement, Search::OutermostOnly, BoundVar);
     StatementTextLabel.Visible = false;
-    StatusLine.Caption.clear();
-    RTB.SetFocus();
 }
 
 void GeneralizeForm::Reset() {
@@ -145,23 +106,11 @@ void GeneralizeForm::Reset() {
     AskForBoundVar();
 }
 
-// --- the statement
-
 void GeneralizeForm::Continue() {
-    const auto parse = [this](const std::string& text) {
-        NewStmtText = text;
-        Parse();
-        if (!ParseError.empty()) Refuse("PARSER ERROR: " + ParseError, RTB);
-        return ParseError.empty();
-    };
-    if (!parse(ExpressionIn(RTB).text)) return;
-    if (!parse("EXIST(" + BoundVar + "):[" + NewStmtText + "]")) return;
+    if (!ParseOrRefuse(ExpressionIn(RTB).text)) return;
+    if (!ParseOrRefuse("EXIST(" + BoundVar + "):[" + NewStmtText + "]")) return;
     Arg2Pending = 0;
-    if (!WriteStatement()) {
-        StatusLine.Caption = ParseError;
-        return;
-    }
-    Close();
+    WriteAndClose();
 }
 
 }  // namespace tessaryn

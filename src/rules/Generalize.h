@@ -8,31 +8,21 @@
 #include <string>
 
 #include "expr/Expression.h"
-#include "platform/Form.h"
-#include "platform/RichTextBox.h"
+#include "rules/OccurrenceForm.h"
 
 namespace tessaryn {
 
 inline std::string GenExpression;  // the selected term, as cut from the statement
 inline NodeList GenParseTable(1);  // its parse
 
-struct GeneralizeForm : Form {
+struct GeneralizeForm : OccurrenceForm {
     GeneralizeForm();
 
     void Activated() override;
     bool KeyPressed(const KeyEvent& key) override;
-    void CloseRequested() override;
 
     Label BoundVarLabel{*this, "BoundVarLabel", "Bound Variable:"};
     TextBox BoundVarTextBox{*this, "BoundVarTextBox"};
-    Label StatementTextLabel{*this, "StatementTextLabel", "Statement  Text:"};
-    RichTextBox RTB{*this, "RTB"};
-    RichTextBox SaveRTB{*this, "SaveRTB"};  // RTB as first shown; hidden
-    Label StatusLine{*this, "StatusLine"};
-    Button cmdSelectAll{*this, "cmdSelectAll", "Select All"};
-    Button cmdReset{*this, "cmdReset", "Reset"};
-    Button cmdContinue{*this, "cmdContinue", "Continue..."};
-    Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
     std::string BoundVar;  // the name once accepted, until Reset; "" before
 
@@ -41,12 +31,11 @@ struct GeneralizeForm : Form {
     void BoundVarChanged();
     bool AcceptBoundVar();
     bool StartPicking(Expression& statement);
-    void Pick();
-    void SelectAll();
-    void Reset();
-    void Continue();
-    void Close();
-    void Refuse(const std::string& message, Control& focus);
+    void Pick() override;
+    void SelectAll() override;
+    void Reset() override;
+    void Continue() override;
+    void Close() override;
 };
 
 inline GeneralizeForm Generalize;

@@ -64,14 +64,4 @@ void ReplaceSpans(RichTextBox& box, const std::vector<Span>& spans, const std::s
     box.SelStart = 0;
 }
 
-void MakeClickable(RichTextBox& box, EventHandler click) {
-    box.ReadOnly = true;
-    box.Click = std::move(click);
-    box.KeyDown = [&box](const KeyEvent& key) {
-        if (key.key != Key::Enter) return false;
-        box.Click();
-        return true;
-    };
-}
-
 }  // namespace tessaryn

@@ -32,7 +32,4 @@ void ReplaceSpans(RichTextBox& box, const std::vector<Span>& spans, const std::s
 // Gives a surface the text and formats of another.
 void CopyContent(RichTextBox& from, RichTextBox& to);
 
-// Makes it a box that is clicked, not edited; Enter clicks at the caret.
-void MakeClickable(RichTextBox& box, EventHandler click);
-
 }  // namespace tessaryn

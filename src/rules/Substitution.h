@@ -9,8 +9,7 @@
 #include <string>
 
 #include "expr/Expression.h"
-#include "platform/Form.h"
-#include "platform/RichTextBox.h"
+#include "rules/OccurrenceForm.h"
 
 namespace tessaryn {
 
@@ -19,29 +18,18 @@ inline std::string SubstSource;    // its side that is put in, in round brackets
 inline std::string SubstTarget;    // its other side, which is replaced
 inline NodeList SubstTargetTable(1);  // the parse of SubstTarget
 
-struct SubstitutionForm : Form {
-    SubstitutionForm();
+struct SubstitutionForm : OccurrenceForm {
+    SubstitutionForm() : OccurrenceForm("Substitution", "Statement Text:") {}
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
-    void CloseRequested() override;
-
-    Label StatementTextLabel{*this, "StatementTextLabel", "Statement Text:"};
-    RichTextBox RTB{*this, "RTB"};
-    RichTextBox SaveRTB{*this, "SaveRTB"};  // RTB as first shown; hidden
-    Label StatusLine{*this, "StatusLine"};
-    Button cmdSelectAll{*this, "cmdSelectAll", "Select All"};
-    Button cmdReset{*this, "cmdReset", "Reset"};
-    Button cmdContinue{*this, "cmdContinue", "Continue..."};
-    Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
   private:
-    bool ReadStatement(Expression& statement);
-    void Pick();
-    void SelectAll();
-    void Reset();
-    void Continue();
-    void Close();
+    void StartPicking();
+    void Pick() override;
+    void SelectAll() override;
+    void Reset() override;
+    void Continue() override;
+    void Close() override;
 };
 
 inline SubstitutionForm Substitution;

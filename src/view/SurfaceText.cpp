@@ -1,4 +1,5 @@
 // Element signs between a surface and plain text, and the normalisation of pasted expressions.
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -8,7 +9,7 @@
 namespace tessaryn {
 namespace {
 
-// The runs with one byte's font changed.
+// Leaves out a run without characters.
 void PushRun(std::vector<FormatRun>& runs, int start, int end, const CharFormat& format) {
     if (end > start) runs.push_back({start, end - start, format});
 }
