@@ -23,8 +23,7 @@ std::string CheckAxiom() {
 }
 
 // What a mode tests behind a successful parse, and for some rules the writing of the statement.
-// Gives
-// "" or the message of the refusal.
+// Gives "" or the message of the refusal.
 struct EntryMode {
     int ruleMode;
     std::string (*accept)();
