@@ -16,29 +16,20 @@ int Length(const std::string& text) {
     return static_cast<int>(text.size());
 }
 
-std::string Indented(const std::string& text, int depth) {
-    const std::string tabs(static_cast<std::size_t>(depth), '\t');
+// The TABs ahead of each line of a statement's comment: those that the old one has.
+std::string Indentation(const Statement& stmt) {
+    if (stmt.EndUserComment == 0) return std::string(static_cast<std::size_t>(Depth(stmt)), '\t');
+    const std::string_view comment = ProofSlice(stmt.StartLine, stmt.EndUserComment);
+    return std::string(comment.substr(0, comment.find_first_not_of('\t')));
+}
+
+std::string Indented(const std::string& text, const std::string& tabs) {
     std::string indented = tabs;
     for (const char c : text) {
         indented += c;
         if (c == '\n') indented += tabs;
     }
     return indented;
-}
-
-// TABs beyond the indentation are the author's own.
-std::string Outdented(std::string_view text, int depth) {
-    std::string outdented;
-    int toDrop = depth;
-    for (const char c : text) {
-        if (c == '\t' && toDrop > 0) {
-            --toDrop;
-            continue;
-        }
-        outdented += c;
-        toDrop = c == '\n' ? depth : 0;
-    }
-    return outdented;
 }
 
 // Puts a text in the place of `removed` bytes and moves the indexes of the statements from
@@ -58,7 +49,9 @@ std::string Introduction() {
 std::string CommentOf(int line) {
     const Statement& stmt = At(line);
     if (stmt.EndUserComment == 0) return "";
-    return Outdented(ProofSlice(stmt.StartLine, stmt.EndUserComment), Depth(stmt));
+    std::string text(ProofSlice(stmt.StartLine, stmt.EndUserComment));
+    RemoveTabs(text);
+    return text;
 }
 
 void SetIntroduction(const std::string& text) {
@@ -79,7 +72,7 @@ void SetComment(int line, const std::string& text) {
     BackUpUndo();
     const int start = stmt.StartLine;
     const int removed = stmt.EndUserComment == 0 ? 0 : stmt.EndUserComment + 5 - start;
-    const std::string head = text.empty() ? "" : Indented(text, Depth(stmt)) + TwoLineEnds;
+    const std::string head = text.empty() ? "" : Indented(text, Indentation(stmt)) + TwoLineEnds;
     ReplaceAt(start, removed, head, line);
     stmt.StartLine = start;
     stmt.EndUserComment = text.empty() ? 0 : start + Length(head) - 5;
