@@ -244,7 +244,9 @@ void LayOutComment(FormWindow& window, QWidget& inside) {
     }
     rows->addLayout(tools);
     Add(*rows, window.WidgetNamed("CommentBox"), 1);
-    rows->addLayout(Answers(window, {"Continue", "Cancel"}));
+    QBoxLayout* answers = Row(window, {"Continue", "Cancel"});
+    answers->insertStretch(1);
+    rows->addLayout(answers);
     inside.resize(Columns(inside, 110), inside.fontMetrics().lineSpacing() * 24);
 }
 
