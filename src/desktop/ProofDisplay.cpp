@@ -157,7 +157,7 @@ QRect ProofDisplay::CaretRect(int position) {
             lineHeight_};
 }
 
-// Scrolls no further than needed.
+// Scrolls no further than needed; but back to the line starts where the place is in sight there.
 void ProofDisplay::EnsureVisible(int position) {
     const QRect place = CaretRect(std::clamp(position, 0, box_.TextLength()));
     QScrollBar* vertical = verticalScrollBar();
@@ -168,7 +168,8 @@ void ProofDisplay::EnsureVisible(int position) {
     }
     QScrollBar* horizontal = horizontalScrollBar();
     if (place.left() < Margin) {
-        horizontal->setValue(horizontal->value() + place.left() - Margin);
+        const int left = horizontal->value() + place.left() - Margin;
+        horizontal->setValue(left + Margin + CaretWidth < viewport()->width() ? 0 : left);
     } else if (place.right() >= viewport()->width()) {
         horizontal->setValue(horizontal->value() + place.right() + 1 - viewport()->width());
     }

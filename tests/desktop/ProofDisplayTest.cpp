@@ -217,6 +217,21 @@ TEST(ProofDisplay, ScrollsNoFurtherThanNeededToWhatTheLogicShows) {
     EXPECT_EQ(bar->value(), scrolled);
 }
 
+TEST(ProofDisplay, ScrollsBackToTheLineStarts) {
+    const std::string text = std::string(500, 'P') + "\r\n1\tP & Q\r\n";
+    Displayed shown(text);
+    const QScrollBar* bar = shown.display.horizontalScrollBar();
+    shown.box.SelStart = 490;
+    shown.display.Sync();
+    EXPECT_GT(bar->value(), 1000);
+    shown.box.SelStart = 300;
+    shown.display.Sync();
+    EXPECT_NEAR(shown.display.CaretRect(300).left(), 6, 1) << "no further than needed";
+    shown.box.SelStart = At(text, "Q");
+    shown.display.Sync();
+    EXPECT_EQ(bar->value(), 0);
+}
+
 // A proof of the greatest length: only the lines in sight are laid out and formatted, at first and
 // after a change, and a change far below costs no painting at all.
 TEST(ProofDisplay, CostsOnlyWhatIsInSight) {
