@@ -136,6 +136,7 @@ void FinishRule(bool written) {
 
 void ClickInDisplay() {
     ToggledNumber = 0;
+    ClickedNumber = NumberAt(Proof.RTB.SelStart + 1);
     if (Proof.RTB.SelLength > 0 && RuleMode != Rule::EGen) return;
     if (StmtCount == 0) {
         RuleMode = 0;

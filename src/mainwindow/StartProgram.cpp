@@ -45,7 +45,7 @@ void StartProgram() {
     DefaultDir.clear();
     StmtFontSize = 12;
     RuleFontSize = 10;
-    ToggledNumber = 0;
+    ClickedNumber = ToggledNumber = 0;
     FindString.clear();
     FindPos = 0;
     InsertMode = false;

@@ -10,6 +10,7 @@
 #include "view/Delete.h"
 #include "view/Display.h"
 #include "view/InsertMode.h"
+#include "view/ShowHide.h"
 
 namespace tessaryn {
 namespace {
@@ -25,14 +26,7 @@ bool IsFallenConclusion(const Statement& stmt) {
 // Shows the lines of a block that is to be open again; inner blocks stay as they are.
 void ShowReopened(int premise, int conclusion) {
     At(premise).Visible = true;
-    for (int line = premise + 1; line < conclusion;) {
-        if (IsClosedPremise(At(line))) {
-            line = At(line).Arg1;
-            continue;
-        }
-        At(line).Visible = true;
-        ++line;
-    }
+    ShowActiveLines(premise + 1, conclusion - 1);
 }
 
 // How many levels of indentation each statement loses: one for each block around it that opens.

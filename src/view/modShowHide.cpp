@@ -13,10 +13,6 @@ Statement& At(int number) {
     return StmtTable[static_cast<std::size_t>(number)];
 }
 
-void HideLines(int first, int last) {
-    for (int line = first; line <= last; ++line) At(line).Visible = false;
-}
-
 void Redraw() {
     RelayoutViewer();
     ResetFonts();
@@ -45,7 +41,8 @@ int ShownHighlightAhead(int line) {
     return ahead;
 }
 
-// Shows the lines but for those in closed blocks. The first of them, 0 if there is none.
+}  // namespace
+
 int ShowActiveLines(int first, int last) {
     int firstShown = 0;
     for (int line = first; line <= last;) {
@@ -60,7 +57,9 @@ int ShowActiveLines(int first, int last) {
     return firstShown;
 }
 
-}  // namespace
+void HideLines(int first, int last) {
+    for (int line = first; line <= last; ++line) At(line).Visible = false;
+}
 
 void HideAllDetails() {
     Proof.RTB.SetFocus();

@@ -24,12 +24,6 @@ bool InNumberZone(const Statement& stmt, int place) {
     return NumberZoneStart(stmt) <= place && place < stmt.StartStmt - ViewOffset(stmt);
 }
 
-// The shown statement whose number lies at a place; 0 if none does.
-int NumberAt(int place) {
-    const int line = ShownStmtAt(place);
-    return line > 0 && InNumberZone(At(line), place) ? line : 0;
-}
-
 bool InAnnotation(const Statement& stmt, int place) {
     return stmt.StartRule - ViewOffset(stmt) <= place && place <= ViewerEndRule(stmt);
 }
@@ -44,28 +38,13 @@ void ToggleHighlight(int line) {
     Proof.RTB.SelStart = NumberZoneStart(stmt) - 1;
 }
 
-// Inner blocks stay folded.
-void UnfoldBlock(int premise, int conclusion) {
-    for (int line = premise; line < conclusion;) {
-        if (line != premise && IsClosedPremise(At(line))) {
-            line = At(line).Arg1;
-            continue;
-        }
-        At(line).Visible = true;
-        ++line;
-    }
-}
-
-void FoldLines(int first, int last) {
-    for (int line = first; line <= last; ++line) At(line).Visible = false;
-}
-
 void ToggleBlock(int conclusion) {
     const int premise = At(conclusion).Arg1;
     if (At(premise).Visible) {
-        FoldLines(premise, conclusion - 1);
+        HideLines(premise, conclusion - 1);
     } else {
-        UnfoldBlock(premise, conclusion);
+        At(premise).Visible = true;
+        ShowActiveLines(premise + 1, conclusion - 1);  // inner blocks stay folded
     }
     for (Statement& stmt : StmtTable) {
         if (!stmt.Visible) stmt.ViewerStartLine = 0;
@@ -97,20 +76,6 @@ bool AnyShown(int first, int last) {
     return false;
 }
 
-// Shows the lines but for those in closed blocks. False if that shows none.
-bool UnfoldDetails(int first, int last) {
-    bool shown = false;
-    for (int line = first; line <= last;) {
-        if (IsClosedPremise(At(line))) {
-            line = At(line).Arg1;
-            continue;
-        }
-        At(line).Visible = shown = true;
-        ++line;
-    }
-    return shown;
-}
-
 // Folds or unfolds what lies between a highlighted statement and the highlight ahead of it.
 void ToggleDetails(int line) {
     const int ahead = HighlightAhead(line);
@@ -118,8 +83,8 @@ void ToggleDetails(int line) {
     if (ahead + 1 == line)
         return Beep("No lines lie between line " + name + " and the highlight ahead of it.");
     if (AnyShown(ahead + 1, line - 1)) {
-        FoldLines(ahead + 1, line - 1);
-    } else if (!UnfoldDetails(ahead + 1, line - 1)) {
+        HideLines(ahead + 1, line - 1);
+    } else if (ShowActiveLines(ahead + 1, line - 1) == 0) {
         return Beep("Ahead of line " + name +
                     " lies only its block: click its annotation to unfold it.");
     }
@@ -130,8 +95,9 @@ void ToggleDetails(int line) {
 
 }  // namespace
 
-bool IsOnNumber(int place) {
-    return NumberAt(place) > 0;
+int NumberAt(int place) {
+    const int line = ShownStmtAt(place);
+    return line > 0 && InNumberZone(At(line), place) ? line : 0;
 }
 
 void ToggleConclusion() {
@@ -155,7 +121,7 @@ void ToggleDetailBlock() {
     Proof.DoubleClickPending = true;
     Proof.DoubleClickCaret = Proof.RTB.SelStart;
     const int line = NumberAt(Proof.RTB.SelStart + 1);
-    if (line > 0) {
+    if (line > 0 && line == ClickedNumber) {
         if (line == ToggledNumber) ToggleHighlight(line);
         if (!At(line).Highlight) {
             Beep("Line " + std::to_string(line) +
@@ -166,7 +132,7 @@ void ToggleDetailBlock() {
             ToggleDetails(line);
         }
     }
-    ToggledNumber = 0;
+    ClickedNumber = ToggledNumber = 0;
     Proof.RTB.SelLength = 0;
 }
 

@@ -69,6 +69,8 @@ TEST(ShowHide, LinesInSight) {
         {showAll + "click 10 rule\n", active, 0},
         {showAll + "click 10 rule\nclick 10 rule\n", "1 2 3 4 5 6 9 10 11 12 13", 5},
         {showAll + "click 10 rule\nclick 10 rule\nclick 9 rule\n", all, 7},
+        // The second half of a double click does not fold what the first has brought to the caret.
+        {showAll + "click 10 rule\ndoubleclick 10 rule\n", "1 2 3 4 5 6 9 10 11 12 13", 5},
         // Details, up to the highlight ahead.
         {showAll + "doubleclick 12 number\n", "1 2 3 12 13", 3},
         {showAll + "doubleclick 12 number\ndoubleclick 12 number\n", active, 3},
@@ -113,6 +115,10 @@ TEST(ShowHide, AClickOnANumberMakesItBold) {
     EXPECT_FALSE(Proof.RTB.RunsIn(number, number + 1)[0].format.Bold);
     ASSERT_EQ(Build(NestedBlocks() + "choose optCopyStatement\ndoubleclick 11 number\n"), "");
     EXPECT_FALSE(At(11).Highlight) << "the rule took the click";
+    ASSERT_EQ(Build(NestedBlocks() + "choose optToggleHighlight\n"), "");
+    EXPECT_TRUE(Proof.RTB.AwaitsDoubleClick(number));
+    ASSERT_EQ(Build(NestedBlocks() + "choose optSplit\n"), "");
+    EXPECT_FALSE(Proof.RTB.AwaitsDoubleClick(number)) << "a rule takes it at once";
     ASSERT_EQ(Build(NestedBlocks() + "click 5 number\nclick 2 number\n"), "");
     EXPECT_TRUE(At(5).Highlight) << "a Premise stays highlighted";
     EXPECT_FALSE(At(2).Highlight);
