@@ -154,7 +154,7 @@ void SelectionExtension::ButtonUp(Timer& timer) {
 // --- menus
 
 EditMenu::EditMenu(Form& form)
-    : mnuEdit(form, "mnuEdit", "&Edit"),
+    : mnuEdit(form, "mnuEdit", "Edit"),
       optUndo(form, ""),
       optRedo(form, ""),
       optCut(form, ""),
@@ -169,7 +169,7 @@ EditMenu::EditMenu(Form& form)
 
 EditorMenus::EditorMenus(Form& form, std::span<const PaletteEntry> changes)
     : EditMenu(form),
-      mnuNotation(form, "mnuNotation", "&Notation"),
+      mnuNotation(form, "mnuNotation", "Notation"),
       optAnd(form, ""),
       optOr(form, ""),
       optNot(form, ""),
@@ -296,11 +296,16 @@ void ExpressionEditor::MarkParseError() {
     std::string lexError;
     int lexErrorPos = 0;
     Lex(NewStmtText, tokens, lexError, lexErrorPos);
+    // Line breaks ahead of the expression stand in the box only.
+    const int ahead = static_cast<int>(WholeExpression().find(NewStmtText));
     const auto token = std::find_if(tokens.begin() + 1, tokens.end(), [](const TokenRec& rec) {
         return rec.Position == ParseErrorPos;
     });
-    if (token != tokens.end()) MarkRed(*token);
-    box_.SelStart = ParseErrorPos - 1;
+    if (token != tokens.end()) {
+        token->Position += ahead;
+        MarkRed(*token);
+    }
+    box_.SelStart = ahead + ParseErrorPos - 1;
 }
 
 void ExpressionEditor::MarkName(const std::string& name) {

@@ -23,7 +23,7 @@ std::string Trimmed(const std::string& text) {
 
 CommentMenus::CommentMenus(Form& form)
     : EditMenu(form),
-      mnuNotation(form, "mnuNotation", "&Notation"),
+      mnuNotation(form, "mnuNotation", "Notation"),
       optUQuantifier(form, "optUQuantifier", "Universal Quantifier       ALL([var]):"),
       optEQuantifier(form, "optEQuantifier", "Existential Quantifier     EXIST([var]):"),
       optSum(form, "optSum", "Summation  SUM([var],[start],[end]):"),
