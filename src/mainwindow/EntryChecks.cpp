@@ -1,6 +1,7 @@
 #include "mainwindow/EntryChecks.h"
 
 #include <algorithm>
+#include <map>
 
 #include "document/Statement.h"
 #include "expr/Expression.h"
@@ -29,20 +30,53 @@ bool IsIntroducedByPremise(const std::string& name, int line) {
     return At(line).Rule == Rule::Premise && IsGreen(name, line);
 }
 
-// Is the introduction of a green name of line `line` found at or behind `first`? Closed blocks are
-// stepped over.
-bool IntroductionIsFound(const std::string& name, int line, int first) {
-    int j = line;
-    while (j >= first) {
-        if (IsConclusion(At(j))) {
-            j = At(j).Arg1;
-            if (j < first) return false;
-        }
-        if (IsIntroducedByPremise(name, j) || IsIntroducedByESpec(name, j)) return true;
-        --j;
-    }
-    return false;
+std::vector<std::string> GreenNames(int line) {
+    std::vector<std::string> names = NamesOf(At(line).FreeVars);
+    std::erase_if(names, [&](const std::string& name) { return !IsGreen(name, line); });
+    return names;
 }
+
+// The names that premises and E Specs bring in from a first line on, as seen from the line entered
+// last. Of a closed block only its Premise is seen from behind. Lines are entered in order, so that
+// a whole proof takes one walk.
+class Introductions {
+  public:
+    explicit Introductions(int first) : first_(first) {}
+
+    void Enter(int line) {
+        const Statement& stmt = At(line);
+        if (IsConclusion(stmt)) {
+            ShrinkTo(stmt.Arg1 < first_ ? 0 : seenFrom_[Place(stmt.Arg1)]);
+        } else if (stmt.Rule == Rule::Premise) {
+            for (const std::string& name : GreenNames(line)) Add(name);
+        } else if (stmt.Rule == Rule::ESpec) {
+            Add(stmt.SpecName);
+        }
+        seenFrom_.push_back(names_.size());
+    }
+
+    bool Hold(const std::string& name) const { return times_.contains(name); }
+
+  private:
+    std::size_t Place(int line) const { return static_cast<std::size_t>(line - first_); }
+
+    void Add(const std::string& name) {
+        names_.push_back(name);
+        ++times_[name];
+    }
+
+    void ShrinkTo(std::size_t count) {
+        for (; names_.size() > count; names_.pop_back()) {
+            const auto found = times_.find(names_.back());
+            if (--found->second == 0) times_.erase(found);
+        }
+    }
+
+    int first_;
+    std::vector<std::string> names_;     // in order of introduction
+    std::map<std::string, int> times_;   // how often a name stands in names_
+    std::vector<std::size_t> seenFrom_;  // by line from first_: the length of names_ there
+};
 
 std::string CheckEntryAgainstLaterLines() {
     for (const std::string& name : FreeNames()) {
@@ -62,9 +96,11 @@ std::string CheckEntryAgainstLaterLines() {
 
 // Every green name of a later line must still find its introduction behind the insertion.
 std::string CheckLaterLines() {
+    Introductions seen(InsertLine);
     for (int i = InsertLine; i <= StmtCount; ++i) {
-        for (const std::string& name : NamesOf(At(i).FreeVars)) {
-            if (!IsGreen(name, i) || IntroductionIsFound(name, i, InsertLine)) continue;
+        seen.Enter(i);
+        for (const std::string& name : GreenNames(i)) {
+            if (seen.Hold(name)) continue;
             return "Inconsistent usage of variable '" + name + "' on line " + Line(i) +
                    ". Consider deleting that line.";
         }
