@@ -1,6 +1,7 @@
 #include "mainwindow/TermChecks.h"
 
 #include <algorithm>
+#include <functional>
 #include <string_view>
 #include <unordered_set>
 #include <vector>
@@ -42,13 +43,34 @@ std::string FindName(EnteredTerm& term, const std::vector<int>& lines) {
     return "";
 }
 
+struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const {
+        return std::hash<std::string_view>()(text);
+    }
+};
+
+// Texts that have parsed are kept, so that only the first search through a long proof parses it.
+bool DoesParse(std::string_view text) {
+    static std::unordered_set<std::string, TextHash, std::equal_to<>> known;
+    if (known.contains(text)) return true;
+    if (!ParseExpression(std::string(text)).error.empty()) return false;
+    if (known.size() >= 2 * MaxStatements) known.clear();
+    known.emplace(text);
+    return true;
+}
+
+bool IsMembership(std::string_view text) {
+    return ParseExpression(std::string(text)).nodes.back().Rule == Node::Elt;
+}
+
 // A compound term must stand literally at the left of an element-of statement.
 std::string FindMembership(EnteredTerm& term, const std::vector<int>& lines) {
     const std::string beginning = term.text + " @";
     for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
-        const Expression parsed = ParseExpression(StmtText(*line));
-        if (!parsed.error.empty()) return "Free variable expression not found in active statement";
-        if (parsed.nodes.back().Rule == Node::Elt && parsed.text.starts_with(beginning)) {
+        const std::string_view text = StoredText(*line);
+        if (!DoesParse(text)) return "Free variable expression not found in active statement";
+        if (text.starts_with(beginning) && IsMembership(text)) {
             term.footing = *line;
             return "";
         }
