@@ -1,5 +1,7 @@
 #include "mainwindow/Commands.h"
 
+#include <exception>
+
 #include "document/ProofFile.h"
 #include "document/Statement.h"
 #include "mainwindow/ExpressionEditor.h"
@@ -33,14 +35,18 @@ void NewCommand() {
 }
 
 void ExitCommand() {
-    Proof.RTB.SetFocus();
-    OperationCancelled = false;
-    if (ProofChanged) {
-        OpenFollows = false;
-        ShowModal(SaveChanges);
-        if (OperationCancelled) return;
+    try {
+        Proof.RTB.SetFocus();
+        OperationCancelled = false;
+        if (ProofChanged) {
+            OpenFollows = false;
+            ShowModal(SaveChanges);
+            if (OperationCancelled) return;
+        }
+        EndProgram();
+    } catch (const std::exception&) {
+        MsgBox("Unable to save file", "WARNING");
     }
-    EndProgram();
 }
 
 void HelpCommand() {

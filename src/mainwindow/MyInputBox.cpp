@@ -1,5 +1,7 @@
 #include "mainwindow/MyInputBox.h"
 
+#include <exception>
+
 #include "axioms/Axioms.h"
 #include "expr/Expression.h"
 #include "mainwindow/EntryChecks.h"

@@ -1,5 +1,7 @@
 #include "mainwindow/TestParser.h"
 
+#include <exception>
+
 #include "expr/Parse.h"
 #include "mainwindow/EntryChecks.h"
 #include "mainwindow/ProgramState.h"
@@ -81,7 +83,11 @@ void TestParserForm::Cancel() {
 }
 
 void TestParserForm::Continue() {
-    CheckEntry();
+    try {
+        CheckEntry();
+    } catch (const std::exception&) {
+        Refuse("Unable to process request");
+    }
     if (ParseError.empty()) {
         Hide();
         SetPrompt("");
