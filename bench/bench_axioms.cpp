@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "LargeProofs.h"
+#include "Steps.h"
 #include "axioms/Axioms.h"
 #include "axioms/InductionForm.h"
 #include "axioms/SubsetFrm.h"
@@ -20,14 +21,6 @@
 
 namespace tessaryn {
 namespace {
-
-// What the desktop takes after each command: the changed range, and the formats of a screenful.
-void LookAtScreen() {
-    benchmark::DoNotOptimize(Proof.RTB.TakeChange());
-    const int caret = Proof.RTB.SelStart;
-    benchmark::DoNotOptimize(Proof.RTB.RunsIn(std::max(0, caret - 4000),
-                                              std::min(Proof.RTB.TextLength(), caret + 1000)));
-}
 
 // Runs the command on a large proof, which is put back, untimed, after each round. `lines`: how
 // many statements it writes.

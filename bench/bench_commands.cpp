@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "LargeProofs.h"
+#include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/ProofFile.h"
 #include "document/PutStmt.h"
@@ -18,23 +19,6 @@
 
 namespace tessaryn {
 namespace {
-
-const Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
-
-// What the desktop takes after each command: the changed range, and the formats of a screenful.
-void LookAtScreen() {
-    benchmark::DoNotOptimize(Proof.RTB.TakeChange());
-    const int caret = Proof.RTB.SelStart;
-    benchmark::DoNotOptimize(Proof.RTB.RunsIn(std::max(0, caret - 4000),
-                                              std::min(Proof.RTB.TextLength(), caret + 1000)));
-}
-
-void ClickLine(int line) {
-    const Statement& stmt = At(line);
-    SendClick(Proof.RTB, stmt.StartStmt - ViewOffset(stmt) - 1);
-}
 
 // The proof is put back, untimed, after each round.
 template <class Command>
@@ -59,8 +43,8 @@ void Measure(benchmark::State& state, Command command) {
 void JoinAtEnd(benchmark::State& state) {
     Measure(state, [](int count) {
         StartClickRule(Rule::Join);
-        ClickLine(count - 1);
-        ClickLine(count);
+        ClickStatement(count - 1);
+        ClickStatement(count);
     });
 }
 
@@ -80,8 +64,8 @@ void UndoOfJoin(benchmark::State& state) {
     const int count = static_cast<int>(state.range(0));
     MakeLargeProof(count);
     StartClickRule(Rule::Join);
-    ClickLine(count - 1);
-    ClickLine(count);
+    ClickStatement(count - 1);
+    ClickStatement(count);
     for (auto _ : state) {
         Proof.optUndo.Click();
         LookAtScreen();

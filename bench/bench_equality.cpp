@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/PutStmt.h"
 #include "document/Statement.h"
@@ -18,13 +19,6 @@
 namespace tessaryn {
 namespace {
 
-void Write(const std::string& text) {
-    RuleMode = Rule::Axiom;
-    Arg1Pending = Arg2Pending = 0;
-    NewStmtText = text;
-    PutStmt();
-}
-
 // A conjunction of equations: many nodes of few types, each occurrence in one of them.
 std::string Equations(int count) {
     std::string text = "f(x)=g(x)";
@@ -37,11 +31,6 @@ void Start(int count) {
     StartHeadless();
     Write("t=f(x)");
     Write(Equations(count));
-}
-
-void ClickStatement(int line, int length = 0) {
-    const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
-    SendClick(Proof.RTB, stmt.StartStmt - ViewOffset(stmt) - 1, length);
 }
 
 template <class Rule>

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/PutStmt.h"
 #include "document/Statement.h"
@@ -18,13 +19,6 @@
 namespace tessaryn {
 namespace {
 
-void Write(const std::string& text) {
-    RuleMode = Rule::Axiom;
-    Arg1Pending = Arg2Pending = 0;
-    NewStmtText = text;
-    PutStmt();
-}
-
 // P & [P => P] & [P => P] ... with that many signs.
 std::string Chain(const std::string& sign, const std::string& operand, int signs) {
     std::string text = operand;
@@ -34,10 +28,9 @@ std::string Chain(const std::string& sign, const std::string& operand, int signs
 
 // A click on the place of a statement's text where `sign` stands nearest its middle.
 void ClickMiddle(int line, const std::string& sign) {
-    const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
     const std::string text(StoredText(line));
     const auto at = static_cast<int>(text.find(sign, text.size() / 2));
-    SendClick(Proof.RTB, stmt.StartStmt + at - ViewOffset(stmt) - 1);
+    Click(line, At(line).StartStmt + at);
 }
 
 // Runs a rule again and again on the same proof.

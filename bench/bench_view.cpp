@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "LargeProofs.h"
+#include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Statement.h"
 #include "mainwindow/ProgramState.h"
@@ -16,23 +17,6 @@
 
 namespace tessaryn {
 namespace {
-
-const Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
-
-// What the desktop takes after each command: the changed range, and the formats of a screenful.
-void LookAtScreen() {
-    benchmark::DoNotOptimize(Proof.RTB.TakeChange());
-    const int caret = Proof.RTB.SelStart;
-    benchmark::DoNotOptimize(Proof.RTB.RunsIn(std::max(0, caret - 4000),
-                                              std::min(Proof.RTB.TextLength(), caret + 1000)));
-}
-
-// index: 1-based in ProofText, in a shown statement.
-void Click(int line, int index) {
-    SendClick(Proof.RTB, index - ViewOffset(At(line)) - 1);
-}
 
 void SayContinue() {
     Headless.NextStep = [] {

@@ -59,7 +59,7 @@ InductionDialogue::InductionDialogue()
     on(Menus.optClear.Click, &InductionDialogue::Reset);
     on(cmdReset.Click, &InductionDialogue::Reset);
     on(cmdContinue.Click, &InductionDialogue::Continue);
-    on(cmdCancel.Click, &InductionDialogue::Cancel);
+    on(cmdCancel.Click, &InductionDialogue::Close);
     SaveRTB.Visible = false;
 }
 
@@ -70,17 +70,7 @@ void InductionDialogue::Activated() {
     Reset();
 }
 
-bool InductionDialogue::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    Cancel();
-    return true;
-}
-
-void InductionDialogue::CloseRequested() {
-    Cancel();
-}
-
-void InductionDialogue::Cancel() {
+void InductionDialogue::Close() {
     RuleMode = 0;
     Hide();
 }
@@ -169,7 +159,7 @@ void InductionDialogue::Continue() {
     } else if (!WriteStatement()) {
         RefuseProperty(ParseError);
     } else {
-        Cancel();
+        Close();
     }
 }
 

@@ -16,8 +16,7 @@ struct InductionDialogue : Form {
     InductionDialogue();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
-    void CloseRequested() override;
+    void Close() override;
 
     Label BoundVarLabel{*this, "BoundVarLabel",
                         "For ALL natural numbers (enter name of  variable)..."};
@@ -35,7 +34,6 @@ struct InductionDialogue : Form {
 
   private:
     void Reset();
-    void Cancel();
     void Continue();
     bool TakeBoundVar();
     bool TakeProperty();

@@ -85,19 +85,9 @@ SubsetDialogue::SubsetDialogue()
     };
     on(Menus.optClear.Click, &SubsetDialogue::Clear);
     on(cmdContinue.Click, &SubsetDialogue::Continue);
-    on(cmdCancel.Click, &SubsetDialogue::Cancel);
+    on(cmdCancel.Click, &SubsetDialogue::Close);
     SubsetName.Change = BoundVars.Change = [this] { StatusLine.Caption.clear(); };
-    BindEditButtons();
-}
-
-void SubsetDialogue::BindEditButtons() {
-    Editor.BindButton(cmdUndo, Menus.optUndo);
-    Editor.BindButton(cmdRedo, Menus.optRedo);
-    Editor.BindButton(cmdCut, Menus.optCut);
-    Editor.BindButton(cmdCopy, Menus.optCopy);
-    Editor.BindButton(cmdPaste, Menus.optPaste);
-    Editor.BindButton(cmdDelete, Menus.optDelete);
-    Editor.BindButton(cmdClear, Menus.optClear);
+    Editor.BindButtons(Tools);
 }
 
 void SubsetDialogue::Activated() {
@@ -106,17 +96,7 @@ void SubsetDialogue::Activated() {
     SubsetName.FontSize = BoundVars.FontSize = StmtFontSize;
 }
 
-bool SubsetDialogue::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    Cancel();
-    return true;
-}
-
-void SubsetDialogue::CloseRequested() {
-    Cancel();
-}
-
-void SubsetDialogue::Cancel() {
+void SubsetDialogue::Close() {
     FinishRule(true);
     Hide();
 }
@@ -234,7 +214,7 @@ void SubsetDialogue::Continue() {
     } else if (!WriteStatement()) {
         Refuse(ParseError, SelectExpression);
     } else {
-        Cancel();
+        Close();
     }
 }
 

@@ -21,8 +21,7 @@ struct SubsetDialogue : Form {
     SubsetDialogue();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
-    void CloseRequested() override;
+    void Close() override;
 
     Label SubsetNameLabel{*this, "SubsetNameLabel", "Enter bound variable for name of subset:"};
     TextBox SubsetName{*this, "SubsetName"};
@@ -33,13 +32,7 @@ struct SubsetDialogue : Form {
         "Enter selection criteria (may not refer to name of subset, above):"};
     RichTextBox SelectExpression{*this, "SelectExpression"};
     Label StatusLine{*this, "StatusLine"};
-    Button cmdUndo{*this, "cmdUndo", "Undo"};
-    Button cmdRedo{*this, "cmdRedo", "Redo"};
-    Button cmdCut{*this, "cmdCut", "Cut"};
-    Button cmdCopy{*this, "cmdCopy", "Copy"};
-    Button cmdPaste{*this, "cmdPaste", "Paste"};
-    Button cmdDelete{*this, "cmdDelete", "Delete"};
-    Button cmdClear{*this, "cmdClear", "Clear"};
+    EditButtons Tools{*this};
     Button cmdContinue{*this, "cmdContinue", "Continue..."};
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
     Timer Timer1{*this, "Timer1"};
@@ -47,10 +40,8 @@ struct SubsetDialogue : Form {
     ExpressionEditor Editor{SelectExpression, Menus, Timer1};
 
   private:
-    void BindEditButtons();
     void EmptyEntries();
     void Clear();
-    void Cancel();
     void Continue();
     bool TakeSubsetName();
     bool TakeBoundVars();

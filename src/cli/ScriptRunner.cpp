@@ -53,7 +53,7 @@ bool IsForMainWindow(const std::string& line) {
 // The forms of the start stand in nobody's way: work that goes on behind them closes them.
 bool ClosesStartForm(const std::string& line) {
     if (!Headless.StartingUp || !ModalFormOpen() || !IsForMainWindow(line)) return false;
-    TopForm().CloseRequested();
+    TopForm().Close();
     return true;
 }
 

@@ -20,7 +20,7 @@ namespace tessaryn {
 namespace {
 
 void RequestClose(Form& form) {
-    Dispatch([&form] { form.CloseRequested(); });
+    Dispatch([&form] { form.Close(); });
 }
 
 // Whether a window closes is for its form to say.

@@ -70,7 +70,7 @@ void ListenToSession(QApplication& application) {
         &application, &QGuiApplication::commitDataRequest, &application,
         [](QSessionManager& session) {
             if (!session.allowsInteraction()) return;
-            Dispatch([] { Proof.CloseRequested(); });
+            Dispatch([] { Proof.Close(); });
             if (OperationCancelled) session.cancel();
         },
         Qt::DirectConnection);

@@ -167,6 +167,15 @@ EditMenu::EditMenu(Form& form)
     form.MenuBar = {&mnuEdit};
 }
 
+EditButtons::EditButtons(Form& form, const char* nameOfUndo)
+    : Undo(form, nameOfUndo, "Undo"),
+      Redo(form, "cmdRedo", "Redo"),
+      Cut(form, "cmdCut", "Cut"),
+      Copy(form, "cmdCopy", "Copy"),
+      Paste(form, "cmdPaste", "Paste"),
+      Delete(form, "cmdDelete", "Delete"),
+      Clear(form, "cmdClear", "Clear") {}
+
 EditorMenus::EditorMenus(Form& form, std::span<const PaletteEntry> changes)
     : EditMenu(form),
       mnuNotation(form, "mnuNotation", "Notation"),
@@ -236,10 +245,15 @@ ExpressionEditor::ExpressionEditor(RichTextBox& box, EditMenu& menus, Timer& tim
     timer.Tick = [this] { extension_.Tick(box_, timer_); };
 }
 
-void ExpressionEditor::BindButton(Button& button, MenuItem& twin) {
-    button.Click = twin.Click;
-    if (&twin == &menus_.optUndo) undoButtons_.push_back(&button);
-    if (&twin == &menus_.optRedo) redoButtons_.push_back(&button);
+void ExpressionEditor::BindButtons(EditButtons& buttons) {
+    buttons_ = &buttons;
+    buttons.Undo.Click = menus_.optUndo.Click;
+    buttons.Redo.Click = menus_.optRedo.Click;
+    buttons.Cut.Click = menus_.optCut.Click;
+    buttons.Copy.Click = menus_.optCopy.Click;
+    buttons.Paste.Click = menus_.optPaste.Click;
+    buttons.Delete.Click = menus_.optDelete.Click;
+    buttons.Clear.Click = menus_.optClear.Click;
 }
 
 void ExpressionEditor::BindInsertion(Button& button, const std::string& text) {
@@ -249,8 +263,9 @@ void ExpressionEditor::BindInsertion(Button& button, const std::string& text) {
 void ExpressionEditor::SetUndoEnabled(bool undo, bool redo) {
     menus_.optUndo.Enabled = undo;
     menus_.optRedo.Enabled = redo;
-    for (Button* button : undoButtons_) button->Enabled = undo;
-    for (Button* button : redoButtons_) button->Enabled = redo;
+    if (buttons_ == nullptr) return;
+    buttons_->Undo.Enabled = undo;
+    buttons_->Redo.Enabled = redo;
 }
 
 void ExpressionEditor::DisableUndo() {

@@ -57,6 +57,13 @@ struct EditMenu {
     std::vector<std::pair<const char*, MenuItem*>> ControlKeys;  // the letters that work with Ctrl
 };
 
+// The tool buttons of the editing commands.
+struct EditButtons {
+    explicit EditButtons(Form& form, const char* nameOfUndo = "cmdUndo");
+
+    Button Undo, Redo, Cut, Copy, Paste, Delete, Clear;
+};
+
 // The two menus of a dialogue for expressions: editing commands and palette.
 struct EditorMenus : EditMenu {
     // changes: where the palette of this form differs.
@@ -89,9 +96,9 @@ class ExpressionEditor {
   public:
     ExpressionEditor(RichTextBox& box, EditMenu& menus, Timer& timer, EditorStyle style = {});
 
-    // Gives a tool button the action of its twin in the menu; Undo and Redo follow its enabled
-    // state.
-    void BindButton(Button& button, MenuItem& twin);
+    // Gives the tool buttons the actions that their twins in the menu have; Undo and Redo follow
+    // the enabled state of theirs.
+    void BindButtons(EditButtons& buttons);
 
     // Makes a tool button insert a text, as a palette item does.
     void BindInsertion(Button& button, const std::string& text);
@@ -136,7 +143,7 @@ class ExpressionEditor {
     EditMenu& menus_;
     Timer& timer_;
     EditorStyle style_;
-    std::vector<Button*> undoButtons_, redoButtons_;
+    EditButtons* buttons_ = nullptr;
     std::string boxRedoText_;
     SelectionExtension extension_;
 };

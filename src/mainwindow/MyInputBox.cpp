@@ -52,7 +52,7 @@ void RefuseEntry(const std::string& message, const std::string& reason) {
 
 MyInputBoxForm::MyInputBoxForm() : Form("MyInputBox") {
     Continue.Click = [this] { ContinuePressed(); };
-    Cancel.Click = [this] { CancelPressed(); };
+    Cancel.Click = [this] { Close(); };
     DefaultButton = &Continue;
     Text1.KeyPress = [this](const KeyEvent& key) {
         if (key.key != Key::Enter) return false;
@@ -70,17 +70,7 @@ void MyInputBoxForm::Activated() {
     Text1.SetFocus();
 }
 
-bool MyInputBoxForm::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    CancelPressed();
-    return true;
-}
-
-void MyInputBoxForm::CloseRequested() {
-    CancelPressed();
-}
-
-void MyInputBoxForm::CancelPressed() {
+void MyInputBoxForm::Close() {
     RuleMode = 0;
     ParseError = "Cancelled";
     Hide();

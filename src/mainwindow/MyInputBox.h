@@ -14,8 +14,7 @@ struct MyInputBoxForm : Form {
     MyInputBoxForm();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
-    void CloseRequested() override;
+    void Close() override;
 
     Label Label1{*this, "Label1"};
     TextBox Text1{*this, "Text1"};
@@ -25,7 +24,6 @@ struct MyInputBoxForm : Form {
 
   private:
     void ContinuePressed();
-    void CancelPressed();
 };
 
 inline MyInputBoxForm MyInputBox;

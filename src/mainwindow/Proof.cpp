@@ -132,7 +132,7 @@ bool ProofForm::KeyPressed(const KeyEvent& key) {
     return true;
 }
 
-void ProofForm::CloseRequested() {
+void ProofForm::Close() {
     RunHandler(ExitCommand);
 }
 

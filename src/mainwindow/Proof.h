@@ -20,7 +20,7 @@ struct ProofForm : Form {
     void Load(const std::string& commandLine);
     void Activated() override;
     bool KeyPressed(const KeyEvent& key) override;
-    void CloseRequested() override;
+    void Close() override;
 
     // The display takes the focus first; the tool buttons follow.
     RichTextBox RTB{*this, "RTB"};

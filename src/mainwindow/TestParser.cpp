@@ -48,16 +48,10 @@ TestParserForm::TestParserForm() : Form("TestParser") {
         button.Click = [this, handler] { RunHandler([&] { (this->*handler)(); }); };
     };
     on(cmdContinue, &TestParserForm::Continue);
-    on(cmdCancel, &TestParserForm::Cancel);
+    on(cmdCancel, &TestParserForm::Close);
     on(cmdParse, &TestParserForm::CheckEntry);
     cmdParse.Visible = false;
-    Editor.BindButton(CmdUndo, Menus.optUndo);
-    Editor.BindButton(cmdRedo, Menus.optRedo);
-    Editor.BindButton(cmdCut, Menus.optCut);
-    Editor.BindButton(cmdCopy, Menus.optCopy);
-    Editor.BindButton(cmdPaste, Menus.optPaste);
-    Editor.BindButton(cmdDelete, Menus.optDelete);
-    Editor.BindButton(cmdClear, Menus.optClear);
+    Editor.BindButtons(Tools);
 }
 
 void TestParserForm::Activated() {
@@ -65,17 +59,7 @@ void TestParserForm::Activated() {
     if (!KeepsHint(RuleMode)) StatusLine.Caption.clear();
 }
 
-bool TestParserForm::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    Cancel();
-    return true;
-}
-
-void TestParserForm::CloseRequested() {
-    Cancel();
-}
-
-void TestParserForm::Cancel() {
+void TestParserForm::Close() {
     ParseError = "Cancelled";
     Hide();
     RuleMode = 0;

@@ -16,20 +16,13 @@ struct TestParserForm : Form {
     TestParserForm();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
-    void CloseRequested() override;
+    void Close() override;
 
     RichTextBox RTB{*this, "RTB"};
     Label StatusLine{*this, "StatusLine"};
     Button cmdContinue{*this, "cmdContinue", "Continue..."};
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
-    Button CmdUndo{*this, "CmdUndo", "Undo"};
-    Button cmdRedo{*this, "cmdRedo", "Redo"};
-    Button cmdCut{*this, "cmdCut", "Cut"};
-    Button cmdCopy{*this, "cmdCopy", "Copy"};
-    Button cmdPaste{*this, "cmdPaste", "Paste"};
-    Button cmdDelete{*this, "cmdDelete", "Delete"};
-    Button cmdClear{*this, "cmdClear", "Clear"};
+    EditButtons Tools{*this, "CmdUndo"};
     Button cmdParse{*this, "cmdParse", "Parse"};
     Timer Timer1{*this, "Timer1"};
     EditorMenus Menus{*this};
@@ -37,7 +30,6 @@ struct TestParserForm : Form {
 
   private:
     void Continue();
-    void Cancel();
     void CheckEntry();
     void CheckByMode();
     void Refuse(const std::string& message);

@@ -9,12 +9,6 @@ AboutTessarynForm::AboutTessarynForm() : Form("AboutTessaryn", "About Tessaryn")
     DefaultButton = &cmdOK;
 }
 
-bool AboutTessarynForm::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    Hide();
-    return true;
-}
-
 void AboutCommand() {
     ShowModal(AboutTessaryn);
 }

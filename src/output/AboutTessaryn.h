@@ -8,8 +8,6 @@ namespace tessaryn {
 struct AboutTessarynForm : Form {
     AboutTessarynForm();
 
-    bool KeyPressed(const KeyEvent& key) override;
-
     Label ProgramName{*this, "ProgramName", "Tessaryn 2.0"};
     Label Purpose{*this, "Purpose", "An interactive editor for formal proofs"};
     Button cmdOK{*this, "cmdOK", "OK"};

@@ -42,12 +42,6 @@ void PrintProofForm::Activated() {
     ShowRange();
 }
 
-bool PrintProofForm::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    Hide();
-    return true;
-}
-
 // All statements, with the boxes out of reach, or the range that the form was opened with.
 void PrintProofForm::ShowRange() {
     const bool all = ChkAllStmts.Value;

@@ -11,7 +11,6 @@ struct PrintProofForm : Form {
     PrintProofForm();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
 
     CheckBox ChkAllStmts{*this, "ChkAllStmts", "All Statements"};
     Label Label1{*this, "Label1", "From Line Number:"};

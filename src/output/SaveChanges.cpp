@@ -10,7 +10,7 @@ namespace tessaryn {
 SaveChangesForm::SaveChangesForm() : Form("SaveChanges", "Save changes to current proof?") {
     cmdYes.Click = [this] { Yes(); };
     cmdNo.Click = [this] { No(); };
-    cmdCancel.Click = [this] { Cancel(); };
+    cmdCancel.Click = [this] { Close(); };
     DefaultButton = &cmdYes;
 }
 
@@ -21,17 +21,7 @@ void SaveChangesForm::Activated() {
     cmdYes.SetFocus();
 }
 
-bool SaveChangesForm::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    Cancel();
-    return true;
-}
-
-void SaveChangesForm::CloseRequested() {
-    Cancel();
-}
-
-void SaveChangesForm::Cancel() {
+void SaveChangesForm::Close() {
     OperationCancelled = true;
     Hide();
 }

@@ -17,8 +17,7 @@ struct SaveChangesForm : Form {
     SaveChangesForm();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
-    void CloseRequested() override;
+    void Close() override;
 
     Label FileName{*this, "FileName"};
     Button cmdYes{*this, "cmdYes", "Yes"};
@@ -29,7 +28,6 @@ struct SaveChangesForm : Form {
   private:
     void Yes();
     void No();
-    void Cancel();
     void OpenProofFile();
 };
 

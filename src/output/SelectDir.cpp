@@ -33,12 +33,6 @@ void SelectDirForm::Activated() {
     }
 }
 
-bool SelectDirForm::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    Hide();
-    return true;
-}
-
 void SelectDirForm::Continue() {
     if (SaveDefaultDir(DirectoryList.Path)) {
         Hide();

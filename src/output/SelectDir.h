@@ -9,7 +9,6 @@ struct SelectDirForm : Form {
     SelectDirForm();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
 
     Label Label1{*this, "Label1", "Selected Directory:"};
     Label CurrentDefault{*this, "CurrentDefault"};

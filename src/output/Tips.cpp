@@ -70,10 +70,4 @@ void TipsForm::Activated() {
     cmdClose.SetFocus();
 }
 
-bool TipsForm::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    Hide();
-    return true;
-}
-
 }  // namespace tessaryn

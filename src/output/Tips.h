@@ -11,7 +11,6 @@ struct TipsForm : Form {
     TipsForm();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
 
     Label TipText{*this, "TipText"};
     CheckBox Check1{*this, "Check1", "Show tips on start-up"};

@@ -8,6 +8,12 @@ namespace tessaryn {
 Form::Form(std::string name, std::string caption)
     : Name(std::move(name)), Caption(std::move(caption)) {}
 
+bool Form::KeyPressed(const KeyEvent& key) {
+    if (key.key != Key::Esc) return false;
+    Close();
+    return true;
+}
+
 Control* Form::Find(const std::string& name) const {
     auto found = std::find_if(Controls.begin(), Controls.end(),
                               [&](const Control* control) { return control->Name == name; });

@@ -22,12 +22,13 @@ struct Form {
 
     // Each time the form has been shown, before the user can do anything.
     virtual void Activated() {}
-    // A key, ahead of the control that has the focus. True: dealt with.
-    virtual bool KeyPressed(const KeyEvent&) { return false; }
+    // A key, ahead of the control that has the focus. True: dealt with. Esc closes the form as its
+    // frame does, unless a form has its own use for that key.
+    virtual bool KeyPressed(const KeyEvent& key);
     // A click on the form where no control takes it.
     virtual void Clicked() {}
-    // The user wants the window closed. A form that stays open leaves Visible set.
-    virtual void CloseRequested() { Hide(); }
+    // The user closes the window. A form that stays open leaves Visible set.
+    virtual void Close() { Hide(); }
 
     void Hide() { Visible = false; }
 

@@ -24,7 +24,7 @@ void GeneralizeForm::Activated() {
 }
 
 bool GeneralizeForm::KeyPressed(const KeyEvent& key) {
-    return OccurrenceForm::KeyPressed(key) || (key.ctrl && ActiveControl == &RTB);
+    return Form::KeyPressed(key) || (key.ctrl && ActiveControl == &RTB);
 }
 
 void GeneralizeForm::Close() {

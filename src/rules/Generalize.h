@@ -20,6 +20,7 @@ struct GeneralizeForm : OccurrenceForm {
 
     void Activated() override;
     bool KeyPressed(const KeyEvent& key) override;
+    void Close() override;
 
     Label BoundVarLabel{*this, "BoundVarLabel", "Bound Variable:"};
     TextBox BoundVarTextBox{*this, "BoundVarTextBox"};
@@ -35,7 +36,6 @@ struct GeneralizeForm : OccurrenceForm {
     void SelectAll() override;
     void Reset() override;
     void Continue() override;
-    void Close() override;
 };
 
 inline GeneralizeForm Generalize;

@@ -29,11 +29,6 @@ OccurrenceForm::OccurrenceForm(std::string name, std::string label)
     SaveRTB.Visible = false;
 }
 
-bool OccurrenceForm::KeyPressed(const KeyEvent& key) {
-    if (key.key == Key::Esc) Close();
-    return key.key == Key::Esc;
-}
-
 void OccurrenceForm::ShowStatement(int line, const NodeList& term, const std::string& termText) {
     term_ = term;
     termText_ = termText;

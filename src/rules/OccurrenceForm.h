@@ -11,9 +11,6 @@
 namespace tessaryn {
 
 struct OccurrenceForm : Form {
-    bool KeyPressed(const KeyEvent& key) override;
-    void CloseRequested() override { Close(); }
-
     Label StatementTextLabel;
     RichTextBox RTB{*this, "RTB"};
     RichTextBox SaveRTB{*this, "SaveRTB"};  // RTB as first shown; hidden
@@ -31,7 +28,6 @@ struct OccurrenceForm : Form {
     virtual void SelectAll() = 0;
     virtual void Reset() = 0;
     virtual void Continue() = 0;
-    virtual void Close() = 0;
 
     // Shows statement `line` with the occurrences of a term marked.
     void ShowStatement(int line, const NodeList& term, const std::string& termText);

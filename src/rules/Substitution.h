@@ -22,6 +22,7 @@ struct SubstitutionForm : OccurrenceForm {
     SubstitutionForm() : OccurrenceForm("Substitution", "Statement Text:") {}
 
     void Activated() override;
+    void Close() override;
 
   private:
     void StartPicking();
@@ -29,7 +30,6 @@ struct SubstitutionForm : OccurrenceForm {
     void SelectAll() override;
     void Reset() override;
     void Continue() override;
-    void Close() override;
 };
 
 inline SubstitutionForm Substitution;

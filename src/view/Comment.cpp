@@ -44,15 +44,9 @@ CommentForm::CommentForm() : Form("Comment"), Editor(CommentBox, Menus, Timer1, 
     Editor.BindInsertion(cmdDefine, "Define: ");
     Editor.BindInsertion(cmdSufficient, "Sufficient: ");
     Editor.BindInsertion(cmdAsRequired, "As Required: ");
-    Editor.BindButton(cmdUndo, Menus.optUndo);
-    Editor.BindButton(cmdRedo, Menus.optRedo);
-    Editor.BindButton(cmdCut, Menus.optCut);
-    Editor.BindButton(cmdCopy, Menus.optCopy);
-    Editor.BindButton(cmdPaste, Menus.optPaste);
-    Editor.BindButton(cmdDelete, Menus.optDelete);
-    Editor.BindButton(cmdClear, Menus.optClear);
+    Editor.BindButtons(Tools);
     Continue.Click = [this] { RunHandler([this] { ContinuePressed(); }); };
-    Cancel.Click = [this] { CancelPressed(); };
+    Cancel.Click = [this] { Close(); };
 }
 
 void CommentForm::Activated() {
@@ -67,17 +61,7 @@ void CommentForm::Activated() {
     CommentBox.SelStart = 0;
 }
 
-bool CommentForm::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    CancelPressed();
-    return true;
-}
-
-void CommentForm::CloseRequested() {
-    CancelPressed();
-}
-
-void CommentForm::CancelPressed() {
+void CommentForm::Close() {
     SetPrompt("");
     Hide();
 }

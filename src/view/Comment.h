@@ -19,21 +19,14 @@ struct CommentForm : Form {
     CommentForm();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
-    void CloseRequested() override;
+    void Close() override;
 
     RichTextBox CommentBox{*this, "CommentBox"};
     Button cmdProve{*this, "cmdProve", "&Prove", "Insert \"Prove:\""};
     Button cmdDefine{*this, "cmdDefine", "&Def", "Insert \"Define:\""};
     Button cmdSufficient{*this, "cmdSufficient", "&Suff", "Insert \"Sufficient:\""};
     Button cmdAsRequired{*this, "cmdAsRequired", "&As R", "Insert \"As Required:\""};
-    Button cmdUndo{*this, "cmdUndo", "Undo"};
-    Button cmdRedo{*this, "cmdRedo", "Redo"};
-    Button cmdCut{*this, "cmdCut", "Cut"};
-    Button cmdCopy{*this, "cmdCopy", "Copy"};
-    Button cmdPaste{*this, "cmdPaste", "Paste"};
-    Button cmdDelete{*this, "cmdDelete", "Delete"};
-    Button cmdClear{*this, "cmdClear", "Clear"};
+    EditButtons Tools{*this};
     Button Continue{*this, "Continue", "Continue..."};
     Button Cancel{*this, "Cancel", "Cancel"};
     Timer Timer1{*this, "Timer1"};
@@ -42,7 +35,6 @@ struct CommentForm : Form {
 
   private:
     void ContinuePressed();
-    void CancelPressed();
 };
 
 inline CommentForm Comment;

@@ -49,12 +49,6 @@ void EditCaptionForm::Show(const std::string& text) {
     RTB.SetFocus();
 }
 
-bool EditCaptionForm::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    Hide();
-    return true;
-}
-
 void EditCaptionForm::ContinuePressed() {
     ProofCaption = OnOneLine(RTB.GetText());
     Proof.Caption = ProofTitle();

@@ -10,7 +10,6 @@ struct EditCaptionForm : Form {
     EditCaptionForm();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
 
     RichTextBox RTB{*this, "RTB"};
     Button Clear{*this, "Clear", "Clear"};

@@ -105,12 +105,6 @@ void FindForm::Activated() {
     SearchStringTextBox.SetFocus();
 }
 
-bool FindForm::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    Hide();
-    return true;
-}
-
 void FindForm::ClearHeadings() {
     optProve.Value = optDefine.Value = optSufficient.Value = optAsRequired.Value = false;
 }

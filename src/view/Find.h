@@ -16,7 +16,6 @@ struct FindForm : Form {
     FindForm();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
 
     Label SearchStringLabel{*this, "SearchStringLabel", "Search String (Case Sensitve)"};
     RichTextBox SearchStringTextBox{*this, "SearchStringTextBox"};

@@ -6,7 +6,7 @@ namespace tessaryn {
 
 WarningForm::WarningForm() : Form("Warning", "WARNING") {
     cmdContinue.Click = [this] { Hide(); };
-    cmdCancel.Click = [this] { Cancel(); };
+    cmdCancel.Click = [this] { Close(); };
     DefaultButton = &cmdContinue;
 }
 
@@ -16,17 +16,7 @@ void WarningForm::Activated() {
     cmdContinue.SetFocus();
 }
 
-bool WarningForm::KeyPressed(const KeyEvent& key) {
-    if (key.key != Key::Esc) return false;
-    Cancel();
-    return true;
-}
-
-void WarningForm::CloseRequested() {
-    Cancel();
-}
-
-void WarningForm::Cancel() {
+void WarningForm::Close() {
     OperationCancelled = true;
     Hide();
 }

@@ -11,15 +11,13 @@ struct WarningForm : Form {
     WarningForm();
 
     void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
-    void CloseRequested() override;
+    void Close() override;
 
     Label Message{*this, "Label"};
     Button cmdContinue{*this, "cmdContinue", "Continue..."};
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
   private:
-    void Cancel();
 };
 
 inline WarningForm Warning;

@@ -71,7 +71,7 @@ class Answers {
             "", "2", "n", "c", "k", "a, b", "n, c", "m+k", "P(k)", "Q & Q(m,k)", "ALL(b):ALL(a):",
             "#"};
         if (!accept_ || tries_++ >= 3) {
-            form.CloseRequested();
+            form.Close();
             form.Hide();
             return;
         }

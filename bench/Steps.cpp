@@ -1,0 +1,42 @@
+#include "Steps.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+
+#include "document/PutStmt.h"
+#include "expr/Expression.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "platform/Events.h"
+
+namespace tessaryn {
+
+const Statement& At(int number) {
+    return StmtTable[static_cast<std::size_t>(number)];
+}
+
+void Write(const std::string& text) {
+    RuleMode = Rule::Axiom;
+    Arg1Pending = Arg2Pending = 0;
+    NewStmtText = text;
+    PutStmt();
+}
+
+void Click(int line, int index, int length) {
+    SendClick(Proof.RTB, index - ViewOffset(At(line)) - 1, length);
+}
+
+void ClickStatement(int line, int length) {
+    Click(line, At(line).StartStmt, length);
+}
+
+void LookAtScreen() {
+    benchmark::DoNotOptimize(Proof.RTB.TakeChange());
+    const int caret = Proof.RTB.SelStart;
+    benchmark::DoNotOptimize(Proof.RTB.RunsIn(std::max(0, caret - 4000),
+                                              std::min(Proof.RTB.TextLength(), caret + 1000)));
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,25 @@
+// What several measurements do: statements written, clicked and looked at.
+#pragma once
+
+#include <string>
+
+#include "document/Statement.h"
+
+namespace tessaryn {
+
+// A statement of the proof by its number, from 1.
+const Statement& At(int number);
+
+// Writes a statement as an axiom.
+void Write(const std::string& text);
+
+// A click on a place of a shown statement. index: 1-based in ProofText. length: what is selected.
+void Click(int line, int index, int length = 0);
+
+// A click on the first character of a shown statement.
+void ClickStatement(int line, int length = 0);
+
+// What the desktop takes after each command: the changed range, and the formats of a screenful.
+void LookAtScreen();
+
+}  // namespace tessaryn
