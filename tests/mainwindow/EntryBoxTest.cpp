@@ -59,19 +59,19 @@ TEST(EntryBox, CopiesAndPastesInBothModes) {
         OpenBox("a@b|");
         Proof.optRichTextMode.Checked = rich;
         SelectInBox(0, 3);
-        SendChoose(TestParser.cmdCut);
+        SendChoose(TestParser.Tools.Cut);
         EXPECT_EQ(ClipboardText(), "a@b");
         EXPECT_EQ(ClipboardRtf().empty(), !rich);
-        SendChoose(TestParser.cmdPaste);
+        SendChoose(TestParser.Tools.Paste);
         SelectInBox(4, 0);
-        SendChoose(TestParser.cmdPaste);
+        SendChoose(TestParser.Tools.Paste);
         EXPECT_EQ(Content(), "a@b|a@b") << rich;
         EXPECT_EQ(TestParser.RTB.SelStart, 7);
-        SendChoose(TestParser.CmdUndo);
+        SendChoose(TestParser.Tools.Undo);
         EXPECT_EQ(Content(), "a@b|");
-        SendChoose(TestParser.cmdRedo);
+        SendChoose(TestParser.Tools.Redo);
         EXPECT_EQ(Content(), "a@b|a@b");
-        EXPECT_FALSE(TestParser.cmdRedo.Enabled);
+        EXPECT_FALSE(TestParser.Tools.Redo.Enabled);
     }
 }
 
