@@ -235,14 +235,19 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 // A key goes to the form and the control that has the focus before the widget sees it. One that the
 // widget leaves alone comes by a second time, at the window.
 bool FormWindow::KeyPressed(QObject* watched, QKeyEvent& event) {
+    // Esc held down takes back one thing, not one after the other to the end of the program.
+    if (event.isAutoRepeat() && event.key() == Qt::Key_Escape) return true;
     const auto found = controls_.find(watched);
     if (found == controls_.end() && window_->focusWidget() != nullptr) return false;
     Control* focus = found == controls_.end() ? nullptr : found->second;
     const auto key = KeyOf(event);
     if (key && DispatchKey(form_, focus, *key)) return true;
+    // A key without a meaning is still any key to a form in which nothing takes keys.
+    if (!key && focus == nullptr && DispatchKey(form_, nullptr, KeyEvent{})) return true;
     const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     auto* button = qobject_cast<QAbstractButton*>(watched);
-    if (!enter || button == nullptr) return false;
+    // Enter on a check box or an option is for the default button.
+    if (!enter || button == nullptr || button->isCheckable()) return false;
     button->click();
     return true;
 }

@@ -166,6 +166,18 @@ TEST(FormWindow, KeyboardAcceptsAndCancels) {
         QTest::keyClick(&Find<QPushButton>(window, "cancel"), Qt::Key_Return);
     }),
               "cancelled");
+    form.tick.Value = false;
+    EXPECT_EQ(form.Run([](FormWindow& window) {
+                      auto& tick = Find<QCheckBox>(window, "tick");
+                      tick.setFocus();
+                      QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(),
+                                     true);
+                      QApplication::sendEvent(&tick, &held);
+                      QTest::keyClick(&tick, Qt::Key_Return);
+                  })
+                  .substr(0, 8),
+              "accepted");
+    EXPECT_FALSE(form.tick.Value);
     EXPECT_EQ(form.Run([](FormWindow& window) { window.Window().close(); }), "");
     EXPECT_FALSE(form.Visible);
 }

@@ -43,6 +43,7 @@ TEST(StartUp, ClosesOnAnyKeyOrClick) {
     StartProgram();
     EXPECT_TRUE(Closes(StartUp, [](QWidget& window) { QTest::keyClick(&window, Qt::Key_X); }));
     EXPECT_TRUE(Closes(StartUp, [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); }));
+    EXPECT_TRUE(Closes(StartUp, [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Print); }));
     EXPECT_TRUE(Closes(StartUp, [](QWidget& window) {
         QTest::mouseClick(window.findChild<QLabel*>(), Qt::LeftButton);
     }));
