@@ -40,8 +40,12 @@ void WatchInput(std::function<void()> onInput) {
 }
 
 QPoint PlaceOfInput() {
+    if (!KeyWasLast) return QCursor::pos();
+    if (const QWidget* dialogue = QApplication::activeModalWidget()) {
+        return dialogue->frameGeometry().bottomLeft();
+    }
     const QWidget* focus = QApplication::focusWidget();
-    if (!KeyWasLast || focus == nullptr) return QCursor::pos();
+    if (focus == nullptr) return QCursor::pos();
     const QRect caret = focus->inputMethodQuery(Qt::ImCursorRectangle).toRect();
     return focus->mapToGlobal(caret.isNull() ? focus->rect().bottomLeft() : caret.bottomLeft());
 }

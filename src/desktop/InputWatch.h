@@ -1,4 +1,5 @@
-// Where the user's last input took place: at the pointer or, after a key, at the caret.
+// Where the user's last input took place: at the pointer or, after a key, at the caret. In a
+// dialogue that is below the window, so that nothing hides the message that it shows.
 #pragma once
 
 #include <QPoint>
