@@ -13,6 +13,9 @@
 #include <string>
 
 #include "desktop/PaintedText.h"
+#include "document/ProofFile.h"
+#include "mainwindow/ProgramState.h"
+#include "output/Settings.h"
 #include "platform/Platform.h"
 
 namespace tessaryn {
@@ -51,9 +54,8 @@ QFont PrintedFont(const CharFormat& format) {
 }
 
 PrinterState AskForPdf(QPrinter& printer) {
-    CommonDialog choice;
-    choice.Filter = "PDF (*.pdf)|*.pdf";
-    choice.OverwritePrompt = true;
+    const std::string name = ProofFileName.empty() ? "" : WithExtension(ProofFileName, "pdf");
+    CommonDialog choice{name, "PDF (*.pdf)|*.pdf", DefaultDir, true, false};
     if (!ShowSave(choice)) return PrinterState::Cancelled;
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(ToQt(choice.FileName));

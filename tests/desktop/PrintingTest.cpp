@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -12,17 +13,24 @@
 #include "desktop/Desktop.h"
 #include "mainwindow/ProgramState.h"
 #include "output/Printing.h"
+#include "output/Settings.h"
 #include "view/Display.h"
 
 using namespace tessaryn;
 
 namespace {
 
+// By the last file dialogue, when it came up.
+QString DirectoryShown;
+QString NameShown;
+
 // Answers the file dialogue that comes next; "" cancels it.
 void AnswerFileDialogue(const QString& path) {
     QTimer::singleShot(50, qApp, [path] {
         auto* dialogue = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         if (dialogue == nullptr) return AnswerFileDialogue(path);
+        DirectoryShown = dialogue->directory().path();
+        NameShown = dialogue->selectedFiles().value(0);
         dialogue->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
         QDialog& answered = *dialogue;
         path.isEmpty() ? answered.reject() : answered.accept();
@@ -65,7 +73,15 @@ TEST(Printing, PutsAllPagesIntoAPdf) {
     EXPECT_GE(PagesOf(file), 13);
     EXPECT_LE(PagesOf(file), 17);
 
+    // The proof's name is suggested; a new proof begins in the default directory.
+    ASSERT_TRUE(QDir(directory.path()).mkdir(QStringLiteral("begin")));
+    DefaultDir = directory.filePath(QStringLiteral("begin")).toStdString();
     AnswerFileDialogue(QString());
     EXPECT_EQ(PrintWorkArea(), PrintResult::Cancelled);
+    EXPECT_EQ(DirectoryShown.toStdString(), DefaultDir);
+    ProofFileName = directory.filePath(QStringLiteral("sets.proof")).toStdString();
+    AnswerFileDialogue(QString());
+    EXPECT_EQ(PrintWorkArea(), PrintResult::Cancelled);
+    EXPECT_EQ(NameShown, directory.filePath(QStringLiteral("sets.pdf")));
     ForgetWindows();
 }
