@@ -2,9 +2,38 @@
 
 #include <algorithm>
 
+#include "expr/Parse.h"
+#include "expr/Same.h"
+#include "mainwindow/MyInputBox.h"
 #include "rules/Operands.h"
 
 namespace tessaryn {
+namespace {
+
+// The names in the tables; nothing if the entry is no list of `count` different names.
+std::vector<std::string> EnteredNames(std::size_t count) {
+    std::vector<std::string> names;
+    const bool isList = ParseError.empty() && ParseTable.size() == 2 * count &&
+                        (count == 1 || Root(ParseTable).Rule == Node::Ntuple);
+    for (std::size_t i = 1; isList && i <= count; ++i) {
+        if (ParseTable[i].Rule != Node::Atom) return {};
+        names.push_back(ParseTable[i].Name);
+    }
+    return names;
+}
+
+void RefuseNames(std::size_t count) {
+    if (count == 1) {
+        return RefuseEntry("Invalid bound variable",
+                           "Enter one name that begins with a small letter or a digit.");
+    }
+    RefuseEntry("Invalid list of bound variables",
+                "Enter " + std::to_string(count) +
+                    " different names, each beginning with a small letter or a digit, separated "
+                    "by commas.");
+}
+
+}  // namespace
 
 std::string CommaList(const std::vector<std::string>& names) {
     std::string list;
@@ -18,19 +47,18 @@ std::string AskForNamesText(std::size_t count) {
                             " bound variables, separated by commas";
 }
 
-const char* InvalidNamesText(std::size_t count) {
-    return count == 1 ? "Invalid bound variable" : "Invalid list of bound variables";
-}
-
-std::vector<std::string> EnteredNames(std::size_t count) {
-    std::vector<std::string> names;
-    const bool isList =
-        ParseTable.size() == 2 * count && (count == 1 || Root(ParseTable).Rule == Node::Ntuple);
-    for (std::size_t i = 1; isList && i <= count; ++i) {
-        if (ParseTable[i].Rule != Node::Atom) return {};
-        names.push_back(ParseTable[i].Name);
+std::string RenamedAsEntered(const std::vector<std::string>& oldNames, const char* alreadyUsed) {
+    NewStmtText = MyInputBox.Text1.Text;
+    Parse();
+    const std::vector<std::string> newNames = EnteredNames(oldNames.size());
+    if (newNames.empty()) {
+        RefuseNames(oldNames.size());
+        return "";
     }
-    return names;
+    const std::string text = ReplaceNames(StmtText2, TokenTable2, oldNames, newNames);
+    if (Same(StmtText2, text)) return text;
+    RefuseEntry(alreadyUsed);
+    return "";
 }
 
 std::string ReplaceNames(std::string text, const TokenList& tokens,

@@ -11,12 +11,13 @@ namespace tessaryn {
 // "a, b"
 std::string CommaList(const std::vector<std::string>& names);
 
-// What MyInputBox asks for, and its answer to a wrong entry.
+// What MyInputBox asks for.
 std::string AskForNamesText(std::size_t count);
-const char* InvalidNamesText(std::size_t count);
 
-// The entered names, from the parse in the tables; nothing if it is no list of `count` names.
-std::vector<std::string> EnteredNames(std::size_t count);
+// Its answer: StmtText2 with the entered names in the place of the old ones. "" after a refusal,
+// with the message `alreadyUsed` if the statement would not be the same but for the names of bound
+// variables.
+std::string RenamedAsEntered(const std::vector<std::string>& oldNames, const char* alreadyUsed);
 
 // The text with each token that is one of the old names replaced by the new one in its place.
 std::string ReplaceNames(std::string text, const TokenList& tokens,

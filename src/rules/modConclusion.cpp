@@ -8,7 +8,8 @@
 // No click. The user may rename the bound variables. The block is indented and stops being active.
 #include "rules/modConclusion.h"
 
-#include <algorithm>
+#include <string>
+#include <vector>
 
 #include "document/PutStmt.h"
 #include "document/Statement.h"
@@ -36,9 +37,13 @@ Statement& At(int number) {
     return StmtTable[static_cast<std::size_t>(number)];
 }
 
-void Refuse(const std::string& message) {
-    Beep(message);
+void Refuse(const std::string& message, const std::string& reason) {
+    Beep(reason);
     SetPrompt(message);
+}
+
+void Refuse(const std::string& message) {
+    Refuse(message, message);
 }
 
 // The innermost open premise, if the line above the insertion point is in force; 0 otherwise.
@@ -201,8 +206,9 @@ bool BuildStatement(int premise, int line) {
     Parse();
     if (!ParseError.empty()) {
         Refuse("Conclusion Rule: Inconsistent usage of same variable name in lines " +
-               std::to_string(premise) + " and " + std::to_string(line - 1) +
-               ". Try letters a-j for bound variables, k-z for free variables.");
+                   std::to_string(premise) + " and " + std::to_string(line - 1) +
+                   ". Try letters a-j for bound variables, k-z for free variables.",
+               ParseError);
         return false;
     }
     const std::string fault = InsertMode ? CheckLaterLines(premise, line) : "";
@@ -227,17 +233,9 @@ void ResetConclusion() {
 }
 
 void ContinueConclusion() {
-    const std::vector<std::string> oldNames = BoundNames();
-    const char* invalid = InvalidNamesText(oldNames.size());
-    NewStmtText = MyInputBox.Text1.Text;
-    Parse();
-    if (!ParseError.empty()) return RefuseEntry(invalid);
-    const std::vector<std::string> newNames = EnteredNames(oldNames.size());
-    if (newNames.empty()) return RefuseEntry(invalid);
-    const std::string text = ReplaceNames(StmtText2, TokenTable2, oldNames, newNames);
-    if (!Same(StmtText2, text)) {
-        return RefuseEntry("New bound variable already used in premise or last statement");
-    }
+    const std::string text = RenamedAsEntered(
+        BoundNames(), "New bound variable already used in premise or last statement");
+    if (text.empty()) return;
     NewStmtText = text;
     Parse();
     if (!ParseError.empty()) return RefuseEntry(ParseError);

@@ -3,12 +3,7 @@
 //
 // One click, on any active statement that begins with ALL. Then the names are edited in MyInputBox.
 #include <string>
-#include <vector>
 
-#include "expr/Parse.h"
-#include "expr/Same.h"
-#include "mainwindow/MyInputBox.h"
-#include "rules/Operands.h"
 #include "rules/Rules.h"
 #include "rules/UniversalPrefix.h"
 #include "rules/VariableNames.h"
@@ -24,17 +19,9 @@ void Rename() {
 }
 
 void ContinueRename() {
-    const std::size_t count = ConclusionUVars.size();
-    NewStmtText = MyInputBox.Text1.Text;
-    Parse();
-    if (!ParseError.empty()) return RefuseEntry(InvalidNamesText(count));
-    const std::vector<std::string> newNames = EnteredNames(count);
-    if (newNames.empty()) return RefuseEntry(InvalidNamesText(count));
-    const std::string text = ReplaceNames(StmtText2, TokenTable2, ConclusionUVars, newNames);
-    if (!Same(StmtText2, text)) {
-        return RefuseEntry("New bound variable already used in statement");
-    }
-    WriteEdited(text);
+    const std::string text =
+        RenamedAsEntered(ConclusionUVars, "New bound variable already used in statement");
+    if (!text.empty()) WriteEdited(text);
 }
 
 }  // namespace tessaryn

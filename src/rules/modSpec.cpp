@@ -122,7 +122,8 @@ void ContinueESpec() {
     NewStmtText = MyInputBox.Text1.Text;
     Parse();
     if (!ParseError.empty() || ParseTable.size() != 2 || Root(ParseTable).Rule != Node::Atom) {
-        return RefuseEntry("Invalid variable name");
+        return RefuseEntry("Invalid variable name",
+                           "Enter one name that begins with a small letter or a digit.");
     }
     const std::string name = Root(ParseTable).Name;
     if (const std::string fault = CheckNewName(name); !fault.empty()) return RefuseEntry(fault);

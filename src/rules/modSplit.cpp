@@ -2,6 +2,7 @@
 // The conjuncts of a right operand stay together.
 //
 // One click, on any active conjunction.
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -12,13 +13,12 @@
 #include "mainwindow/RuleModes.h"
 #include "rules/Operands.h"
 #include "rules/Rules.h"
-#include "view/Undo.h"
 
 namespace tessaryn {
 namespace {
 
-// The conjuncts of the conjunction in the tables, from the last to the first.
-std::vector<std::string> ConjunctsFromTheRight() {
+// The conjuncts of the conjunction in the tables, in the order of the text.
+std::vector<std::string> Conjuncts() {
     const NodeTexts texts(NewStmtText, TokenTable, ParseTable);
     std::vector<std::string> pieces;
     int node = RootIndex(ParseTable);
@@ -27,6 +27,7 @@ std::vector<std::string> ConjunctsFromTheRight() {
         node = NodeAt(ParseTable, node).Ptr1;
     }
     pieces.push_back(texts[node]);
+    std::ranges::reverse(pieces);
     return pieces;
 }
 
@@ -40,17 +41,9 @@ void Split() {
     if (Root(ParseTable).Rule != Node::LAnd) {
         return BeepAtLine(line, "is no conjunction: Split needs & as its outermost sign.");
     }
-    const std::vector<std::string> pieces = ConjunctsFromTheRight();
-    if (!StatementsFit(static_cast<int>(pieces.size()))) return FinishRule(false);
-    BackUpUndo();
+    Arg1Pending = line;
     Arg2Pending = 0;
-    for (auto piece = pieces.rbegin(); piece != pieces.rend(); ++piece) {
-        NewStmtText = *piece;
-        if (!ParseOrReport()) return FinishRule(false);
-        Arg1Pending = line;
-        PutStmt();
-    }
-    FinishRule(true);
+    FinishRule(WriteStatements(Conjuncts()));
 }
 
 }  // namespace tessaryn
