@@ -54,6 +54,9 @@ void ProofDisplay::Sync() {
         // A selection that has come to take in a line's end still shows that line.
         const int line = index_.LineAt(std::max(0, caret_ - 1));
         EnsureVisible(std::min(caret_, index_.End(box_.GetText(), line)));
+    } else if (moved && start < end) {
+        EnsureVisible(end);  // what has been found is to be read, not only its start
+        EnsureVisible(start);
     }
     if (changed || moved) {
         RestartCaret();

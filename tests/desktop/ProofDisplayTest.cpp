@@ -217,7 +217,7 @@ TEST(ProofDisplay, ScrollsNoFurtherThanNeededToWhatTheLogicShows) {
     EXPECT_EQ(bar->value(), scrolled);
 }
 
-TEST(ProofDisplay, ScrollsBackToTheLineStarts) {
+TEST(ProofDisplay, ScrollsSidewaysToASelectionAndBackToTheLineStarts) {
     const std::string text = std::string(500, 'P') + "\r\n1\tP & Q\r\n";
     Displayed shown(text);
     const QScrollBar* bar = shown.display.horizontalScrollBar();
@@ -230,6 +230,11 @@ TEST(ProofDisplay, ScrollsBackToTheLineStarts) {
     shown.box.SelStart = At(text, "Q");
     shown.display.Sync();
     EXPECT_EQ(bar->value(), 0);
+    shown.box.SelStart = 300;
+    shown.box.SelLength = 20;
+    shown.display.Sync();
+    EXPECT_LT(shown.display.CaretRect(320).right(), shown.display.viewport()->width());
+    EXPECT_GT(shown.display.CaretRect(300).left(), 0);
 }
 
 // A proof of the greatest length: only the lines in sight are laid out and formatted, at first and
