@@ -204,8 +204,9 @@ bool LoadTipWish() {
     return true;
 }
 
-void Warn(const std::string& text) {
+void Warn(const std::string& text, const std::string& reason) {
     Warning.Message.Caption = text;
+    Warning.Reason = reason;
     ShowModal(Warning);
 }
 
@@ -238,7 +239,8 @@ void GetFontSize() {
     if (const std::optional<int> size = StoredTextSize()) {
         SetTextSize(*size);
     } else {
-        Warn("Unable to find Font Size Files");
+        Warn("Unable to find Font Size Files",
+             "The text is of medium size until you choose another in the menu View.");
     }
 }
 
@@ -267,7 +269,8 @@ void LoadRecentMenu() {
     if (const std::optional<Names> names = StoredRecentFiles()) {
         FillRecentMenu(*names);
     } else {
-        Warn("Unable to find Recent Files");
+        Warn("Unable to find Recent Files",
+             "The menu File lists proofs again once you have opened or saved one.");
     }
 }
 

@@ -12,7 +12,7 @@ WarningForm::WarningForm() : Form("Warning", "WARNING") {
 
 void WarningForm::Activated() {
     OperationCancelled = false;
-    Beep("Continue goes on, Cancel leaves the proof as it is.");
+    Beep(Reason);
     cmdContinue.SetFocus();
 }
 

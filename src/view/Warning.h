@@ -1,6 +1,8 @@
-// A question with Continue and Cancel. The caller sets Message and shows the form modally;
-// afterwards OperationCancelled tells whether the user cancelled.
+// A question with Continue and Cancel. The caller sets Message and Reason and shows the form
+// modally; afterwards OperationCancelled tells whether the user cancelled.
 #pragma once
+
+#include <string>
 
 #include "platform/Form.h"
 #include "platform/Platform.h"
@@ -16,8 +18,7 @@ struct WarningForm : Form {
     Label Message{*this, "Label"};
     Button cmdContinue{*this, "cmdContinue", "Continue..."};
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
-
-  private:
+    std::string Reason;  // of the beep with which it shows
 };
 
 inline WarningForm Warning;

@@ -16,6 +16,7 @@ namespace {
 bool ConfirmOthers(int others) {
     Warning.Message.Caption = "This deletition will result in  " + std::to_string(others) +
                               " other statement(s) being deleted.";
+    Warning.Reason = "Continue deletes them all, Cancel leaves the proof as it is.";
     ShowModal(Warning);
     return !OperationCancelled;
 }

@@ -162,6 +162,7 @@ TEST_F(Settings, MissingAndDamagedFilesAreReportedAndDoNoHarm) {
                   "choose optSmallText\nsave \"" +
                   In("new.proof") + "\"\nexpect no form\n"),
               "");
+    EXPECT_NE(Headless.Beeps[0].find("medium size"), std::string::npos);
     EXPECT_EQ(Get("UserFontSize.bin"), Magic + "\x0A\0"s);
     EXPECT_EQ(Get("RecentFiles.bin").substr(0, 12), Magic + "\x01\0"s);
     // A script that has nothing to say to the forms of the start does not meet them.
