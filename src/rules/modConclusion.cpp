@@ -9,6 +9,7 @@
 #include "rules/modConclusion.h"
 
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "document/PutStmt.h"
@@ -140,13 +141,16 @@ std::string WalkLaterLines(int line, Visit visit) {
     return "";
 }
 
-// Is a name green on a line above the premise, up to the next open one?
-bool IsGreenAbove(const std::string& name, int premise) {
+// The names that are green on an active line above the premise, up to the next open one.
+std::unordered_set<std::string> GreenNamesAbove(int premise) {
+    std::unordered_set<std::string> green;
     for (int j = premise - 1; j > 0 && !IsOpenPremise(At(j));) {
-        if (IsGreen(name, j)) return true;
+        for (const std::string& name : NamesOf(At(j).FreeVars)) {
+            if (IsGreen(name, j)) green.insert(name);
+        }
         j = IsConclusion(At(j)) ? At(j).Arg1 - 1 : j - 1;
     }
-    return false;
+    return green;
 }
 
 std::string CheckReferences(int premise, int line) {
@@ -164,8 +168,9 @@ std::string CheckLaterLines(int premise, int line) {
     std::string message = CheckReferences(premise, line);
     if (message.empty()) message = WalkLaterLines(line, IsGreen);
     if (!message.empty()) return message;
+    const std::unordered_set<std::string> greenAbove = GreenNamesAbove(premise);
     return WalkLaterLines(line, [&](const std::string& name, int i) {
-        return HoldsName(At(i).FixedVars, name) && IsGreenAbove(name, premise);
+        return greenAbove.contains(name) && HoldsName(At(i).FixedVars, name);
     });
 }
 

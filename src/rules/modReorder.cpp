@@ -89,7 +89,10 @@ void ContinueReorder() {
     const std::vector<std::string> names =
         NamesInOrder(WithoutBlanks(MyInputBox.Text1.Text), fault);
     if (fault.empty()) fault = CheckMissing(names);
-    if (!fault.empty()) return RefuseEntry(fault);
+    if (!fault.empty()) {
+        return RefuseEntry(fault, fault + ": put the quantifiers into any order, as in " +
+                                      Quantifiers(ConclusionUVars) + ".");
+    }
     WriteEdited(Quantifiers(names) + StmtText2.substr(BodyStart()));
 }
 
