@@ -10,6 +10,8 @@
 
 #include "desktop/Desktop.h"
 #include "desktop/PaintedText.h"
+#include "mainwindow/ExpressionEditor.h"
+#include "view/Display.h"
 
 namespace tessaryn {
 
@@ -253,10 +255,23 @@ bool EditBox::canInsertFromMimeData(const QMimeData* source) const {
     return source->hasText();
 }
 
+// The middle button and Shift+Insert come here. As with Paste, the text has the font of statements
+// wherever it goes, and "@" becomes the element sign.
 void EditBox::insertFromMimeData(const QMimeData* source) {
     if (isReadOnly() || !source->hasText()) return;
-    textCursor().insertText(source->text(), TextFormat(box_.InsertionFormat()));
-    SendIfEdited();
+    const std::string text = source->text().toStdString();
+    Dispatch([&] {
+        box_.SelText = "";
+        box_.SelFontName = StatementFont;
+        std::size_t start = 0;
+        for (auto at = text.find('@'); at != text.npos; at = text.find('@', start)) {
+            box_.TypeText(text.substr(start, at - start));
+            InsertElementSign(box_);
+            start = at + 1;
+        }
+        box_.TypeText(text.substr(start));
+        if (box_.Change) box_.Change();
+    });
 }
 
 }  // namespace tessaryn

@@ -22,6 +22,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
+#include "view/Display.h"
 
 using namespace tessaryn;
 
@@ -118,6 +119,23 @@ TEST(EditBox, TypedAtShowsEpsilonAndReadsBackAsTheSignOfTheSurface) {
         EXPECT_EQ(form.box.FormatAt(5).Font, "Courier New");
         EXPECT_EQ(form.box.GetSelStart(), 6);
         EXPECT_EQ(form.changes, 6);  // "@" is the logic's own doing
+        form.Hide();
+        SyncWindows();
+    });
+}
+
+TEST(EditBox, TakesElementSignsFromElsewhere) {
+    EntryForm form;
+    form.Run([&](FormWindow& window) {
+        auto& editor = Find<QTextEdit>(window, "box");
+        Type(editor, QStringLiteral("x@"));
+        QTest::keyClick(&editor, Qt::Key_Left);
+        QTest::keyClick(&editor, Qt::Key_Right);
+        QGuiApplication::clipboard()->setText(QStringLiteral("e@s"));
+        editor.paste();
+        EXPECT_EQ(editor.toPlainText(), QStringLiteral("x\u03B5e\u03B5s"));
+        EXPECT_EQ(ConvertEpsilon(form.box), "x@e@s");
+        EXPECT_EQ(form.changes, 2);
         form.Hide();
         SyncWindows();
     });
