@@ -6,8 +6,8 @@
 
 namespace tessaryn {
 
-// What `box` takes as the reason to refuse an entry before or right behind its parse: a "#", or a
-// use of the names that only a comparison knows. "" if there is none.
+// Why every box refuses an entry, ahead of its parse and right behind it: a "#", or a name that the
+// comparison of expressions takes in a way of its own. "" if it does not.
 std::string ForbiddenCharacter(const std::string& entry);  // "Invalid character '#'"
 std::string ForbiddenName();                               // in TokenTable: "Invalid name 'SUM'"
 

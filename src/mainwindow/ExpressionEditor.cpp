@@ -273,6 +273,7 @@ void ExpressionEditor::DisableUndo() {
 }
 
 void ExpressionEditor::Start() {
+    extension_.ButtonUp(timer_);  // the last use may have ended in the middle of a drag
     Empty();
     box_.SetFocus();
     DisableUndo();
