@@ -1,101 +1,192 @@
-// The rules that rewrite a statement at one sign, against truth tables: whatever sign is clicked,
-// what is written means the same.
+// The rules that work on one sign or term of a statement, against finite models: whatever is
+// clicked, a rewrite means the same as the statement, and what E Gen and Substitute write follows.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
+#include "cli/Keyboard.h"
 #include "document/Statement.h"
 #include "expr/Parse.h"
+#include "expr/RandomText.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
 #include "platform/Events.h"
+#include "rules/Generalize.h"
+#include "rules/Operands.h"
+#include "rules/Substitution.h"
 
 namespace tessaryn {
 namespace {
 
-using Truths = std::map<std::string, bool>;
-
-bool Value(const NodeList& nodes, int n, const Truths& truths) {
-    const ParseRec& node = nodes[static_cast<std::size_t>(n)];
-    if (node.Rule == Node::Prop) return truths.at(node.Name);
-    const bool p = Value(nodes, node.Ptr1, truths);
-    if (node.Rule == Node::LNeg) return !p;
-    const bool q = Value(nodes, node.Ptr2, truths);
-    switch (node.Rule) {
-        case Node::LAnd:
-            return p && q;
-        case Node::LOr:
-            return p || q;
-        case Node::Imply:
-            return !p || q;
-        default:
-            return p == q;
-    }
-}
-
-std::string TruthTable(const std::string& text) {
-    const NodeList nodes = ParseExpression(text).nodes;
-    std::string table;
-    for (unsigned row = 0; row < 16; ++row) {
-        const Truths truths = {{"P", (row & 1U) != 0},
-                               {"Q", (row & 2U) != 0},
-                               {"R", (row & 4U) != 0},
-                               {"S", (row & 8U) != 0}};
-        table += Value(nodes, static_cast<int>(nodes.size()) - 1, truths) ? '1' : '0';
-    }
-    return table;
-}
-
-class Random {
+// A world of two things, 0 and 1, which are the truth values as well. What a name, a function or a
+// predicate stands for in it is drawn by lot, always the same for one number.
+class Model {
   public:
-    explicit Random(unsigned seed) : state_(seed) {}
+    explicit Model(int number) : number_(std::to_string(number)) {}
 
-    std::size_t Below(std::size_t limit) {
-        state_ = state_ * 1664525U + 1013904223U;
-        return (state_ >> 8) % limit;
-    }
-
-    std::string Formula(int depth) {
-        static const char* const names[] = {"P", "Q", "R", "S"};
-        static const char* const signs[] = {"&", "|", "=>", "<=>"};
-        if (depth == 0 || Below(6) == 0) return names[Below(4)];
-        if (Below(4) == 0) return (Below(2) == 0 ? "~[" : "~~[") + Formula(depth - 1) + "]";
-        if (Below(8) == 0) return Converses(Formula(depth - 1), Formula(0));
-        return "[" + Formula(depth - 1) + "]" + signs[Below(4)] + "[" + Formula(depth - 1) + "]";
+    bool IsTrue(const Expression& statement) {
+        nodes_ = &statement.nodes;
+        return Value(RootIndex(statement.nodes)) == 1;
     }
 
   private:
-    static std::string Converses(const std::string& p, const std::string& q) {
-        return "[[" + p + "]=>[" + q + "]]&[[" + q + "]=>[" + p + "]]";
+    // FNV-1a, so that every machine draws the same.
+    int Draw(const std::string& what) const {
+        unsigned hash = 2166136261U;
+        for (const char c : number_ + " " + what) {
+            hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
+        }
+        return static_cast<int>((hash >> 13) % 2);
     }
 
-    unsigned state_;
+    int Value(int n) {
+        const ParseRec& node = NodeAt(*nodes_, n);
+        const auto left = [&] { return Value(node.Ptr1); };
+        const auto right = [&] { return Value(node.Ptr2); };
+        switch (node.Rule) {
+            case Node::Atom:
+                return bound_.contains(node.Name) ? bound_[node.Name] : Draw(node.Name);
+            case Node::Prop:
+                return Draw(node.Name);
+            case Node::Pred:
+                return Draw(NodeAt(*nodes_, node.Ptr1).Name + "(" + std::to_string(right()));
+            case Node::LNeg:
+                return 1 - left();
+            case Node::LAnd:
+                return left() & right();
+            case Node::LOr:
+                return left() | right();
+            case Node::Imply:
+                return (1 - left()) | right();
+            case Node::Iff:
+            case Node::EQ:
+                return left() == right() ? 1 : 0;
+            case Node::ALL:
+            case Node::EXIST: {
+                const std::string& variable = NodeAt(*nodes_, node.Ptr1).Name;
+                bound_[variable] = 0;
+                const int first = right();
+                bound_[variable] = 1;
+                const int second = right();
+                bound_.erase(variable);
+                return node.Rule == Node::ALL ? first & second : first | second;
+            }
+            default:
+                return Draw(std::to_string(node.Rule) + " " + std::to_string(left()) + " " +
+                            (node.Ptr2 == 0 ? "" : std::to_string(right())));
+        }
+    }
+
+    std::string number_;
+    std::map<std::string, int> bound_;  // of bound variables
+    const NodeList* nodes_ = nullptr;
+};
+
+// The lines of the proof that are true in a model, one bit each.
+unsigned TrueLines(int number) {
+    Model model(number);
+    unsigned lines = 0;
+    for (int line = 1; line <= StmtCount; ++line) {
+        if (model.IsTrue(ParseExpression(StmtText(line)))) lines |= 1U << line;
+    }
+    return lines;
+}
+
+// Is the last line true in each model in which the others are, and, if it is to mean the same, in
+// no other?
+bool LastLineHolds(bool sameMeaning) {
+    for (int number = 1; number <= 24; ++number) {
+        const unsigned lines = TrueLines(number);
+        const unsigned last = 1U << StmtCount;
+        const bool othersHold = (lines | last) == 2 * last - 2;
+        if (othersHold != ((lines & last) != 0) && (othersHold || sameMeaning)) return false;
+    }
+    return true;
+}
+
+// Clicks on each place of line 1 while a rule is pending; counts what is written.
+struct Clicks {
+    void At(MenuItem& rule, bool sameMeaning) {
+        const int count = StmtCount;
+        const Statement first = StmtTable[1];
+        for (int place = first.StartStmt - 1; place < first.EndStmt; ++place) {
+            rule.Click();
+            if (prepare) prepare();
+            SendClick(Proof.RTB, place);
+            RuleMode = 0;
+            if (StmtCount == count) continue;
+            ++written[StmtTable.back().Rule];
+            ASSERT_TRUE(LastLineHolds(sameMeaning)) << ProofText;
+            Proof.optUndo.Click();
+        }
+    }
+
+    std::function<void()> prepare;  // what is done ahead of the click
+    std::map<int, int> written;     // by rule
 };
 
 TEST(Rewrites, KeepTheMeaning) {
-    std::map<int, int> written;
-    for (unsigned seed = 1; seed <= 60; ++seed) {
-        ASSERT_EQ(Build(EnterPremise(Random(seed).Formula(4))), "");
-        const std::string text = StmtText(1);
-        const std::string table = TruthTable(text);
-        for (const MenuItem* rule :
-             {&Proof.optImplies, &Proof.optImliesOr, &Proof.optContrapositive, &Proof.optDeMorgan,
-              &Proof.optIff, &Proof.optDNegRemove}) {
-            for (int place = StmtTable[1].StartStmt - 1; place < StmtTable[1].EndStmt; ++place) {
-                rule->Click();
-                const int number = RuleMode;
-                SendClick(Proof.RTB, place);
-                if (StmtCount == 1) continue;
-                ASSERT_EQ(TruthTable(StmtText(2)), table) << rule->Name << " on " << text;
-                ++written[number];
-                Proof.optUndo.Click();
-            }
+    Random random(20261123);
+    Clicks clicks;
+    for (int round = 0; round < 400; ++round) {
+        std::string formula = RandomFormula(random, 4);
+        const std::string no = round % 6 == 0 ? "" : "~";
+        if (round % 3 == 0) formula = "[[" + formula + "]=>P]&[P=>" + no + "[" + formula + "]]";
+        if (round % 3 == 1) formula = "Q|~~[" + formula + "]";
+        if (!Build(EnterPremise(formula)).empty() || StmtCount != 1) continue;
+        for (MenuItem* rule : {&Proof.optImplies, &Proof.optImliesOr, &Proof.optContrapositive,
+                               &Proof.optDeMorgan, &Proof.optIff, &Proof.optDNegRemove,
+                               &Proof.optQuantifierSwitch, &Proof.optSymmetry}) {
+            clicks.At(*rule, true);
+            if (HasFatalFailure()) return;
         }
     }
-    EXPECT_EQ(written.size(), 6U);
-    for (const auto& [rule, count] : written) EXPECT_GT(count, 20) << "rule " << rule;
+    EXPECT_EQ(clicks.written.size(), 8U);
+    for (const auto& [rule, count] : clicks.written) EXPECT_GT(count, 10) << RuleName(rule);
+}
+
+// Names are few, so that those that are put in meet others of the statement.
+TEST(RulesOnTerms, WriteWhatFollows) {
+    Random random(20261123);
+    const auto oneOf = [&](std::vector<std::string> texts) {
+        return texts[random() % texts.size()];
+    };
+    const auto name = [&] { return oneOf({"x", "y", "z", "a", "f", "1"}); };
+    Clicks clicks;
+    for (int round = 0; round < 300; ++round) {
+        const std::string equation =
+            name() + "=" + oneOf({name(), "f(" + name() + ")", name() + "+x"});
+        const std::string formula =
+            oneOf({"", "ALL(x):", "EXIST(y):"}) + "[" + RandomFormula(random, 3) + "]";
+        const std::string script = EnterPremise(formula) + EnterPremise(equation);
+        if (!Build(script).empty() || StmtCount != 2) continue;
+        Headless.NextStep = [&] {
+            Form& form = TopForm();
+            if (&form == &Generalize) ReplaceByTyping(Generalize.BoundVarTextBox, name());
+            auto& box = static_cast<OccurrenceForm&>(form);
+            if (random() % 2 == 0) SendChoose(box.cmdSelectAll);
+            for (int click = 0; click < 6; ++click) {
+                SendClick(box.RTB, static_cast<int>(random() % box.RTB.GetText().size()));
+            }
+            if (!SendChoose(box.cmdContinue) || form.Visible) SendChoose(box.cmdCancel);
+            return true;
+        };
+        clicks.prepare = nullptr;
+        clicks.At(Proof.optEGen, false);
+        clicks.prepare = [&] {
+            const Statement& stmt = StmtTable[2];
+            SendClick(Proof.RTB, stmt.StartStmt - 1 + static_cast<int>(random() % 3));
+        };
+        clicks.At(Proof.optSubstitution, false);
+        if (HasFatalFailure()) return;
+    }
+    Headless.NextStep = nullptr;
+    for (const int rule : {Rule::EGen, Rule::Substitute})
+        EXPECT_GT(clicks.written[rule], 100) << RuleName(rule);
 }
 
 }  // namespace
