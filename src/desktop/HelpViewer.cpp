@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTextBrowser>
@@ -69,7 +70,7 @@ class HelpWindow : public QWidget {
         parts->addWidget(&pages_);
         parts->addWidget(&text_);
         parts->setStretchFactor(1, 1);
-        parts->setSizes({240, 760});
+        parts->setSizes({290, 710});
         pages_.setAccessibleName(QStringLiteral("Pages"));
         text_.setAccessibleName(QStringLiteral("Page"));
         text_.setOpenLinks(false);
@@ -80,7 +81,7 @@ class HelpWindow : public QWidget {
         connect(&text_, &QTextBrowser::anchorClicked, this,
                 [this](const QUrl& link) { Open(text_.source().resolved(link)); });
         connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
-        resize(1000, 700);
+        resize(QSize(1000, 700).boundedTo(screen()->availableSize()));
         pages_.setCurrentRow(0);
     }
 
