@@ -81,18 +81,25 @@ bool ReferencesFit(const std::vector<Statement>& table, int line) {
            (at(stmt.Arg1).Rule == Rule::Premise && at(stmt.Arg1).Arg1 == line);
 }
 
+// What stands ahead of statement 1: nothing, or an introduction with its line ends.
+bool IntroductionFits(std::int64_t length) {
+    return length == 0 || length >= 4;
+}
+
+// The blocks follow each other from the introduction to the end of the text. A block written later
+// would not stand right behind the last one otherwise, and its file could not be read back.
 bool IsSound(const StoredProof& proof) {
     const auto textLength = static_cast<std::int64_t>(proof.text.size());
     const int count = static_cast<int>(proof.table.size()) - 1;
-    if (count == 0) return true;
+    if (count == 0) return IntroductionFits(textLength);
     int start = proof.table[1].StartLine;
-    if (start < 1) return false;
+    if (!IntroductionFits(std::int64_t{start} - 1)) return false;
     for (int line = 1; line <= count; ++line) {
         const Statement& stmt = proof.table[static_cast<std::size_t>(line)];
         if (!IndexesFit(stmt, start, textLength) || !ReferencesFit(proof.table, line)) return false;
         start = stmt.EndRule + 5;
     }
-    return true;
+    return start == textLength + 1;
 }
 
 // Converts the text from Windows-1252, moving the indexes to where their characters went.

@@ -25,8 +25,8 @@ struct StoredProof {
 std::string WriteProof();
 
 // Reads the bytes of a proof file. Nothing if it is damaged: bytes missing, an index outside the
-// text or out of order, a reference that cannot be, a rule without a name. Bytes behind the text
-// are not read. Strings that are no UTF-8 are converted from Windows-1252, and the indexes with
+// text or out of order, text that belongs to no block, a reference that cannot be, a rule without a
+// name. Bytes behind the text are not read. Strings that are no UTF-8 are converted from Windows-1252, and the indexes with
 // them.
 std::optional<StoredProof> ReadProof(std::string_view bytes);
 

@@ -184,7 +184,14 @@ TEST_F(ProofFileTest, DamageIsRefused) {
         {"Conclusion of another line", [] { StmtTable[4].Arg1 = 2; }},
         {"Conclusion of an open premise", [] { StmtTable[1].Arg1 = 0; }},
         {"first block ahead of the text", [] { StmtTable[1].StartLine = 0; }},
+        {"no room for an introduction's line ends",
+         [] {
+             ProofText.insert(0, "abc");
+             for (Statement& stmt : StmtTable) ShiftIndexes(stmt, 3);
+         }},
         {"gap between blocks", [] { StmtTable[2].StartLine += 1; }},
+        {"text behind the last block", [] { ProofText += "\r\n"; }},
+        {"last block cut short", [] { StmtTable[6].EndRule -= 1; }},
         {"comment ahead of its block", [] { StmtTable[3].EndUserComment = 1; }},
         {"comment over the number", [] { StmtTable[3].EndUserComment = StmtTable[3].StartStmt; }},
         {"text ahead of the number", [] { StmtTable[3].StartStmt = StmtTable[3].StartLine; }},
@@ -204,6 +211,7 @@ TEST_F(ProofFileTest, DamageIsRefused) {
         EXPECT_FALSE(ReadProof(bytes)) << what;
     }
     EXPECT_FALSE(ReadProof(std::string("Tessaryn 1\xFF\xFF\0\0\0\0", 16))) << "negative count";
+    EXPECT_FALSE(ReadProof(std::string("Tessaryn 1\0\0\0\0\1\0P", 17))) << "count 0 of a proof";
 }
 
 // No bytes may crash the reader, nor leave a document that later commands can't live with.
