@@ -4,6 +4,7 @@
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Invariants.h"
+#include "document/ProofFile.h"
 #include "document/PutStmt.h"
 #include "document/Statement.h"
 #include "expr/Expression.h"
@@ -240,6 +241,7 @@ TEST(RandomCommands, KeepTheDocumentInStep) {
             walk.Step();
             ASSERT_EQ(CheckDocument(), "") << "seed " << seed << ", step " << step;
             ASSERT_EQ(WithoutGlyphs(Proof.RTB.GetText()), WithoutGlyphs(DisplayFromRecords()));
+            ASSERT_TRUE(ReadProof(WriteProof())) << "what can be saved can be opened";
             if (StmtCount > 0 && step % 4 == 0) {
                 CheckFlagStmts(static_cast<int>(walk.Random(static_cast<std::size_t>(StmtCount))) +
                                1);
