@@ -23,7 +23,7 @@ struct Statement {
     int Rule = 0;  // rule number that made it
     int Arg1 = 0;  // line references; 0 none. Of a closed Premise: the line of its Conclusion
     int Arg2 = 0;  //
-    std::string SpecName;   // rules 3 and 4: the name brought in
+    std::string SpecName;   // rule 3: the name brought in; of rule 4 without meaning
     std::string FreeVars;   // name list: the free variables
     std::string FixedVars;  // name list: those of them already in use outside the innermost premise
     std::string SpareVars;  // name list: drawn bold; the writer leaves it ""

@@ -10,7 +10,7 @@ namespace tessaryn {
 inline int RuleMode = 0;     // the pending rule or click action; 0 none
 inline int Arg1Pending = 0;  // line numbers that PutStmt records; 0 none
 inline int Arg2Pending = 0;
-inline std::string SpecName;      // the name that rules 3 and 4 bring in
+inline std::string SpecName;      // the name that E Spec brings in
 inline std::string BoundVarName;  // the variable of the leading quantifier of a clicked statement
 inline bool FirstClick = false;   // a two-click rule waits for its first click
 inline bool ArbOrLeft = false;    // rule 22: the entered expression goes on the left
