@@ -121,8 +121,8 @@ std::string FaultBefore(const Builder& b, int rule, int end, const std::string& 
     return "10. Expecting algebracic expression before " + shown;
 }
 
-// The operator p stands behind the group at o + 1. Of "@" the right operand is looked at also when
-// the left one is wrong, and its message then wins.
+// The operator p stands behind the group at o + 1. Behind a list without its brackets, as in
+// "a,b@P", the right operand is looked at as well, and its message then wins.
 void BuildBinary(Builder& b, int k) {
     const int o = b.tokens[k].TPtr;
     const int p = b.tokens[o + 1].TPtr + 1;
@@ -135,7 +135,8 @@ void BuildBinary(Builder& b, int k) {
         return Fail(b, "8. Expecting expression on both sides of " + shown, p);
     if (std::string fault = FaultBefore(b, rule, p - 1, shown); !fault.empty()) {
         Fail(b, std::move(fault), p);
-        if (rule != Node::Elt) return;
+        const bool bareList = rule == Node::Elt && b.nodes[left].Rule == Node::Ntuple;
+        if (!bareList) return;
     }
     if (JoinsFormulas(rule) && !IsLogical(b.nodes[right].Rule))
         return Fail(b, "12. Expecting logical expression after " + shown, p);

@@ -295,8 +295,10 @@ void Reference::BuildBinary(int k) {
     } else if (logical) {
         if (!IsLogical(left)) return set("11. Expecting logical expression before " + d, Pos(p));
     } else if (rule == 22) {
-        if (!IsAlgebraic(left) && !(left == 8 && tok(p - 1) == ")" && Pos(p - 1) != 0))
+        const bool written = tok(p - 1) == ")" && Pos(p - 1) != 0;
+        if (!IsAlgebraic(left) && !(left == 8 && written))
             set("10. Expecting algebraic expression before " + d, Pos(p));
+        if (!IsAlgebraicOrNtuple(left)) return;
     } else if (!IsAlgebraic(left)) {
         return set("10. Expecting algebracic expression before " + d, Pos(p));
     }
