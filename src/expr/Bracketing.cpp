@@ -24,8 +24,7 @@ struct Link {
     int partner = 0;  // of a bracket; else 0
     int node = 0;     // of the brackets round a name; else 0
     int kind = 0;
-    int source =
-        0;  // the lexed token that it is, or against which it was set: ascends in the chain
+    int source = 0;  // the lexed token that it is or was set against: ascends in the chain
     int inLine = 0;  // the operator after this one in its pass, 0 none
     int index = 0;   // in the finished table
 };

@@ -1,63 +1,46 @@
 #include "expr/Kind.h"
 
+#include <array>
+#include <string_view>
+
 namespace tessaryn {
 
 namespace {
 
-int KindOfName(const std::string& token) {
-    if (token[0] < 'A' || token[0] > 'Z') return Node::Atom;
-    if (token == "ALL") return Node::ALL;
-    return token == "EXIST" ? Node::EXIST : Node::Prop;
+bool IsCapital(char c) {
+    return c >= 'A' && c <= 'Z';
 }
+
+// The first character of a sign and its length tell which one it is.
+using SignTable = std::array<std::array<unsigned char, 4>, 256>;
+
+SignTable MakeSignTable() {
+    SignTable table{};
+    const auto put = [&table](std::string_view sign, int kind) {
+        table[static_cast<unsigned char>(sign[0])][sign.size()] = static_cast<unsigned char>(kind);
+    };
+    for (int type = Node::Atom; type <= Node::Complement; type++) {
+        const std::string_view sign = NodeOp[type];
+        if (!sign.empty() && !IsCapital(sign[0])) put(sign, type);
+    }
+    put(":", Kind::Colon);
+    put("(", Kind::RoundOpen);
+    put(")", Kind::RoundClose);
+    put("[", Kind::SquareOpen);
+    put("]", Kind::SquareClose);
+    return table;
+}
+
+const SignTable signTable = MakeSignTable();
 
 }  // namespace
 
 int KindOf(const std::string& token) {
-    const size_t length = token.size();
-    switch (token[0]) {
-        case '(':
-            return Kind::RoundOpen;
-        case ')':
-            return Kind::RoundClose;
-        case '[':
-            return Kind::SquareOpen;
-        case ']':
-            return Kind::SquareClose;
-        case ':':
-            return Kind::Colon;
-        case '^':
-            return Node::Expo;
-        case '_':
-            return Node::ANeg;
-        case '*':
-            return Node::Mult;
-        case '/':
-            return Node::Div;
-        case '+':
-            return Node::Add;
-        case '-':
-            return Node::Subt;
-        case ',':
-            return Node::Ntuple;
-        case '~':
-            return Node::LNeg;
-        case '@':
-            return Node::Elt;
-        case '`':
-            return Node::Complement;
-        case '&':
-            return length == 1 ? Node::LAnd : Node::Intersection;
-        case '|':
-            return length == 1 ? Node::LOr : Node::Union;
-        case '=':
-            return length == 1 ? Node::EQ : Node::Imply;
-        case '>':
-            return length == 1 ? Node::GT : Node::GE;
-        case '<':
-            return length == 1 ? Node::LT : length == 2 ? Node::LE : Node::Iff;
-        default:
-            return KindOfName(token);
-    }
+    if (IsCapital(token[0]))
+        return token == "ALL" ? Node::ALL : token == "EXIST" ? Node::EXIST : Node::Prop;
+    if (token.size() > 3) return Node::Atom;
+    const int sign = signTable[static_cast<unsigned char>(token[0])][token.size()];
+    return sign != 0 ? sign : Node::Atom;
 }
 
 }  // namespace tessaryn

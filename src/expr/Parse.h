@@ -4,13 +4,12 @@
 // in a bracket pair of its own, also where brackets were written; the pairs put in have Position 0.
 // Any bracket has the node of its group in DPtr. So the parts of a formula lie at fixed places:
 //
-//   name at j             its wrapper's brackets at j - 1 and j + 1
-//   ALL(x):body at i      "(" at i - 1, written "(" i + 1, x at i + 3, written ")" i + 5, ":" i +
-//   6,
-//                         first bracket of the body i + 7, its last TPtr(i + 7)
-//   ~P at i               "(" at i - 1, operand from i + 1 to TPtr(i + 1)
-//   P & Q, & at i         left operand from TPtr(i - 1) to i - 1, right one from i + 1 to TPtr(i +
-//   1) f(x), f at i          "(" at i - 2, written "(" i + 2 to TPtr(i + 2)
+//   name at j         its wrapper's brackets at j - 1 and j + 1
+//   f(x), f at i      "(" at i - 2, written "(" i + 2, its partner TPtr(i + 2)
+//   ~P, ~ at i        "(" at i - 1, operand from i + 1 to TPtr(i + 1)
+//   P & Q, & at i     left operand from TPtr(i - 1) to i - 1, right from i + 1 to TPtr(i + 1)
+//   ALL(x):P at i     "(" at i - 1, x in written brackets from i + 1 to i + 5, x at i + 3,
+//                     ":" at i + 6, body from i + 7 to TPtr(i + 7)
 //
 // Token 1 encloses the whole; DPtr of 1 is the root.
 //
