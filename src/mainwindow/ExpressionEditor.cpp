@@ -128,7 +128,7 @@ void InsertElementSign(RichTextBox& box) {
 void SelectionExtension::MouseMoved(RichTextBox& box, Timer& timer) {
     if (!PointerBeyondRightEdge(box)) {
         ButtonUp(timer);
-    } else if (!done) {
+    } else if (!ExtendDone) {
         timer.Enabled = true;
     }
 }
@@ -139,7 +139,7 @@ void SelectionExtension::Tick(RichTextBox& box, Timer& timer) {
     const std::string& text = box.GetText();
     const auto last = static_cast<std::size_t>(end) - 1;
     if (last + 1 >= text.size() || text[last] == '\n') {
-        done = true;
+        ExtendDone = true;
         timer.Enabled = false;
     } else {
         box.SelLength = box.SelLength + 1;
@@ -148,7 +148,7 @@ void SelectionExtension::Tick(RichTextBox& box, Timer& timer) {
 
 void SelectionExtension::ButtonUp(Timer& timer) {
     timer.Enabled = false;
-    done = false;
+    ExtendDone = false;
 }
 
 // --- menus

@@ -38,7 +38,7 @@ struct SelectionExtension {
     void MouseMoved(RichTextBox& box, Timer& timer);
     void Tick(RichTextBox& box, Timer& timer);
     void ButtonUp(Timer& timer);
-    bool done = false;  // has reached a line end; stays until the button comes up
+    bool ExtendDone = false;  // has reached a line end; stays until the button comes up
 };
 
 struct PaletteEntry;

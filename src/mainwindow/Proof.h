@@ -84,7 +84,6 @@ struct ProofForm : Form {
     std::string CommandLineFile;      // proof named on the command line, until it is opened
     bool DoubleClickPending = false;  // a double click awaits its button-up
     int DoubleClickCaret = 0;         // caret to restore at that button-up, 0-based
-    bool ExtendDone = false;          // selection extension has reached a line end
 
   private:
     void BuildMenus();    // MenuTable.cpp
