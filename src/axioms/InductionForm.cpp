@@ -157,7 +157,8 @@ void InductionDialogue::Continue() {
         RefuseVar("The property binds or applies " + var_ +
                   ", or binds n: take other names for these.");
     } else if (!WriteStatement()) {
-        RefuseProperty(ParseError);
+        StatusLine.Caption = ParseError;
+        RTB.SetFocus();
     } else {
         Close();
     }

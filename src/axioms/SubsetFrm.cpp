@@ -212,7 +212,8 @@ void SubsetDialogue::Continue() {
                "ALL or EXIST binds a name in the criterion that has another meaning in the new "
                "line: bind another name there.");
     } else if (!WriteStatement()) {
-        Refuse(ParseError, SelectExpression);
+        StatusLine.Caption = ParseError;
+        SelectExpression.SetFocus();
     } else {
         Close();
     }

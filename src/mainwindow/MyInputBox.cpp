@@ -44,10 +44,14 @@ const InputMode* FindMode(int ruleMode) {
 
 }  // namespace
 
-void RefuseEntry(const std::string& message, const std::string& reason) {
+void ShowEntryFault(const std::string& message) {
     MyInputBox.Label2.Caption = message;
-    Beep(reason.empty() ? message : reason);
     MyInputBox.Text1.SetFocus();
+}
+
+void RefuseEntry(const std::string& message, const std::string& reason) {
+    ShowEntryFault(message);
+    Beep(reason.empty() ? message : reason);
 }
 
 MyInputBoxForm::MyInputBoxForm() : Form("MyInputBox") {

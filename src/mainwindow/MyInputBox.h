@@ -32,4 +32,7 @@ inline MyInputBoxForm MyInputBox;
 // goes with the beep where the message alone does not tell what to enter.
 void RefuseEntry(const std::string& message, const std::string& reason = "");
 
+// The same for what has beeped with its own reason already, such as the statement writer.
+void ShowEntryFault(const std::string& message);
+
 }  // namespace tessaryn

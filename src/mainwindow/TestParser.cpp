@@ -25,7 +25,7 @@ std::string CheckAxiom() {
 }
 
 // What a mode tests behind a successful parse, and for some rules the writing of the statement.
-// Gives "" or the message of the refusal.
+// Gives the message of the refusal, or "" with ParseError from the writing.
 struct EntryMode {
     int ruleMode;
     std::string (*accept)();
@@ -112,6 +112,7 @@ void TestParserForm::CheckByMode() {
         if (mode.ruleMode != RuleMode) continue;
         const std::string fault = mode.accept();
         if (!fault.empty()) Refuse(fault);
+        StatusLine.Caption = ParseError;  // a failed writing has beeped by itself
         return;
     }
 }

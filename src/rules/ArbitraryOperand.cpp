@@ -41,8 +41,7 @@ std::string WriteWithOperand(const std::string& text) {
     NewStmtText = text;
     Parse();
     if (!ParseError.empty()) return "Incompatible antecedent and consequent";
-    if (!WriteStatement()) return ParseError;
-    RuleMode = 0;
+    if (WriteStatement()) RuleMode = 0;
     return "";
 }
 

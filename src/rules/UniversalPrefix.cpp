@@ -50,7 +50,8 @@ void EditPrefix(const std::string& captionStart, int line, const std::string& pr
 void WriteEdited(const std::string& text) {
     NewStmtText = text;
     Parse();
-    if (!ParseError.empty() || !WriteStatement()) return RefuseEntry(ParseError);
+    if (!ParseError.empty()) return RefuseEntry(ParseError);
+    if (!WriteStatement()) return ShowEntryFault(ParseError);
     RuleMode = 0;
     MyInputBox.Hide();
 }

@@ -29,7 +29,8 @@ std::string AcceptReflexTerm() {
     Arg1Pending = term.isName ? 0 : term.footing;
     Arg2Pending = 0;
     NewStmtText = term.text + "=" + term.text;
-    return WriteStatement() ? "" : ParseError;
+    WriteStatement();
+    return "";
 }
 
 }  // namespace tessaryn

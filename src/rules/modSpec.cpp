@@ -131,7 +131,7 @@ void ContinueESpec() {
     NewStmtText = Specified(Body(), name);
     Parse();
     if (!ParseError.empty()) return RefuseEntry("PARSER ERROR: " + ParseError);
-    if (!WriteStatement()) return RefuseEntry(ParseError);
+    if (!WriteStatement()) return ShowEntryFault(ParseError);
     RuleMode = 0;
     MyInputBox.Hide();
 }
@@ -147,8 +147,7 @@ std::string AcceptUSpec() {
     if (!ParseError.empty()) {
         return "Invalid substitution for function name '" + BoundVarName + "'";
     }
-    if (!WriteStatement()) return ParseError;
-    RuleMode = 0;
+    if (WriteStatement()) RuleMode = 0;
     return "";
 }
 

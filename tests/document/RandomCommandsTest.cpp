@@ -287,6 +287,15 @@ TEST(Limits, TheLastStatementIsRefusedBeforeAnythingIsWritten) {
     EXPECT_FALSE(WriteStatement());
     EXPECT_EQ(ParseError, "Unable to process request");
     EXPECT_EQ(StmtCount, MaxStatements);
+
+    // From a box: one beep, whose reason is the writer's.
+    RuleMode = 37;
+    TestParser.RTB.SetText("P");
+    const std::size_t beeps = Headless.Beeps.size();
+    TestParser.cmdContinue.Click();
+    EXPECT_EQ(TestParser.StatusLine.Caption, "Unable to process request");
+    ASSERT_EQ(Headless.Beeps.size(), beeps + 1);
+    EXPECT_EQ(Headless.Beeps.back(), "A proof holds at most 32767 statements.");
 }
 
 }  // namespace
