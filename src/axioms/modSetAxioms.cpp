@@ -5,6 +5,7 @@
 //
 // No click.
 #include <iterator>
+#include <stdexcept>
 #include <string>
 
 #include "axioms/Axioms.h"
@@ -40,11 +41,16 @@ void AskForAxiomOrder(int rule) {
 
 void ContinueAxiomScheme() {
     const AxiomScheme& scheme = SchemeOf(RuleMode);
-    const int order = EnteredNumber(MyInputBox.Text1.Text);
+    const std::string wanted = "Enter a whole number from " + std::to_string(scheme.least) +
+                               " to " + std::to_string(MaxAxiomOrder) + ".";
+    int order = 0;
+    try {
+        order = EnteredNumber(MyInputBox.Text1.Text);
+    } catch (const std::out_of_range&) {
+        return RefuseEntry("Unable to process request", wanted);
+    }
     if (order < scheme.least || order > MaxAxiomOrder) {
-        return RefuseEntry(order < scheme.least ? scheme.refusal : "Invalid number",
-                           "Enter a whole number from " + std::to_string(scheme.least) + " to " +
-                               std::to_string(MaxAxiomOrder) + ".");
+        return RefuseEntry(order < scheme.least ? scheme.refusal : "Invalid number", wanted);
     }
     NewStmtText = SchemeText(scheme, order);
     Arg1Pending = Arg2Pending = 0;
