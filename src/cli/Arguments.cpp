@@ -52,6 +52,13 @@ std::string Arguments::Text() {
     return literal.get<std::string>();
 }
 
+std::string Arguments::Path() {
+    std::string path = Text();
+    // The system would take what stands ahead of it for the whole name.
+    if (path.find('\0') != path.npos) throw ActionFailed{"no path can hold \\u0000"};
+    return path;
+}
+
 int Arguments::Number() {
     const std::string word = Word();
     int number = 0;

@@ -46,6 +46,7 @@ class Arguments {
 
     std::string Word();
     std::string Text();
+    std::string Path();
     int Number();
     bool Take(std::string_view word);  // takes the next word if it is this one
     void End() const;                  // nothing may follow

@@ -136,13 +136,13 @@ void QueueFile(ScriptRun&, Arguments& arguments) {
     if (arguments.Take("cancel")) {
         Headless.Files.push_back(std::nullopt);
     } else {
-        Headless.Files.push_back(arguments.Text());
+        Headless.Files.push_back(arguments.Path());
     }
     arguments.End();
 }
 
 void ChooseWithFile(const std::string& item, Arguments& arguments) {
-    const std::string path = arguments.Text();
+    const std::string path = arguments.Path();
     arguments.End();
     Control& control = ChoosableControl(item);
     Headless.Files.push_back(path);

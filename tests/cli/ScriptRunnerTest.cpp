@@ -58,6 +58,7 @@ TEST(ScriptRunner, RefusesWhatItCannotRead) {
                            {"echo \"\\ud800\"", "the string is not written as JSON has it"},
                            {"echo \"a\"\"b\"", "a blank is missing behind the string"},
                            {"echo \"a\" b", "nothing may follow here: b"},
+                           {"save \"a\\u0000b\"", "no path can hold \\u0000"},
                            {"choose", "a word is missing"},
                            {"choose \"optNew\"", "expected a word, not a string"},
                            {"expect count two", "expected a number, not two"},
