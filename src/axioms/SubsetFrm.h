@@ -32,9 +32,9 @@ struct SubsetDialogue : Form {
         "Enter selection criteria (may not refer to name of subset, above):"};
     RichTextBox SelectExpression{*this, "SelectExpression"};
     Label StatusLine{*this, "StatusLine"};
-    EditButtons Tools{*this};
     Button cmdContinue{*this, "cmdContinue", "Continue..."};
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
+    EditButtons Tools{*this};
     Timer Timer1{*this, "Timer1"};
     EditorMenus Menus;
     ExpressionEditor Editor{SelectExpression, Menus, Timer1};

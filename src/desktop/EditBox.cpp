@@ -17,6 +17,8 @@ namespace tessaryn {
 
 namespace {
 
+constexpr int CaretWidth = 2;  // pixels
+
 // What the editor's document comes to as the content of a surface.
 struct EditorContent {
     std::string text;
@@ -121,6 +123,7 @@ void EditBox::Sync() {
         setReadOnly(box_.ReadOnly);
         if (box_.ReadOnly) {
             setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+            if (!hasFocus()) setCursorWidth(0);
         }
     }
     if (shown_ != box_.ContentRevision()) ShowContent();
@@ -155,6 +158,18 @@ void EditBox::Select(int startUnit, int endUnit) {
     cursor.setPosition(endUnit, QTextCursor::KeepAnchor);
     setTextCursor(cursor);
     ensureCursorVisible();
+}
+
+// --- focus: the toolkit leaves the caret of a read-only editor standing when the focus goes
+
+void EditBox::focusInEvent(QFocusEvent* event) {
+    setCursorWidth(CaretWidth);
+    QTextEdit::focusInEvent(event);
+}
+
+void EditBox::focusOutEvent(QFocusEvent* event) {
+    QTextEdit::focusOutEvent(event);
+    if (isReadOnly()) setCursorWidth(0);
 }
 
 // --- keyboard

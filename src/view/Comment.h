@@ -22,13 +22,13 @@ struct CommentForm : Form {
     void Close() override;
 
     RichTextBox CommentBox{*this, "CommentBox"};
+    Button Continue{*this, "Continue", "Continue..."};
+    Button Cancel{*this, "Cancel", "Cancel"};
     Button cmdProve{*this, "cmdProve", "&Prove", "Insert \"Prove:\""};
     Button cmdDefine{*this, "cmdDefine", "&Def", "Insert \"Define:\""};
     Button cmdSufficient{*this, "cmdSufficient", "&Suff", "Insert \"Sufficient:\""};
     Button cmdAsRequired{*this, "cmdAsRequired", "&As R", "Insert \"As Required:\""};
     EditButtons Tools{*this};
-    Button Continue{*this, "Continue", "Continue..."};
-    Button Cancel{*this, "Cancel", "Cancel"};
     Timer Timer1{*this, "Timer1"};
     CommentMenus Menus{*this};
     ExpressionEditor Editor;

@@ -12,9 +12,9 @@ struct EditCaptionForm : Form {
     void Activated() override;
 
     RichTextBox RTB{*this, "RTB"};
-    Button Clear{*this, "Clear", "Clear"};
     Button Continue{*this, "Continue", "Continue..."};
     Button Cancel{*this, "Cancel", "Cancel"};
+    Button Clear{*this, "Clear", "Clear"};
 
   private:
     void Show(const std::string& text);

@@ -19,10 +19,15 @@
 #include <QTimer>
 #include <stdexcept>
 
+#include "axioms/InductionForm.h"
+#include "axioms/SubsetFrm.h"
 #include "desktop/Desktop.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
+#include "mainwindow/TestParser.h"
+#include "view/Comment.h"
 #include "view/Display.h"
+#include "view/EditCaption.h"
 
 using namespace tessaryn;
 
@@ -198,6 +203,29 @@ TEST(FormWindow, KeyboardAcceptsAndCancels) {
     EXPECT_FALSE(form.tick.Value);
     EXPECT_EQ(form.Run([](FormWindow& window) { window.Window().close(); }), "");
     EXPECT_FALSE(form.Visible);
+}
+
+TEST(FormWindow, TabGoesFromTheTextToContinue) {
+    const struct {
+        Form& form;
+        const char* text;
+        Control& accept;
+    } rows[] = {
+        {TestParser, "RTB", TestParser.cmdContinue},
+        {Comment, "CommentBox", Comment.Continue},
+        {EditCaption, "RTB", EditCaption.Continue},
+        {SubsetFrm, "SelectExpression", SubsetFrm.cmdContinue},
+        {InductionForm, "RTB", InductionForm.cmdContinue},
+    };
+    for (const auto& row : rows) {
+        FormWindow& window = WindowOf(row.form);
+        const auto* next = Find<QTextEdit>(window, row.text).nextInFocusChain();
+        while (next->isHidden() || next->focusPolicy() == Qt::NoFocus) {
+            next = next->nextInFocusChain();
+        }
+        EXPECT_EQ(next, window.WidgetOf(row.accept)) << row.form.Name;
+    }
+    ForgetWindows();
 }
 
 TEST(FormWindow, ShowsWhatTheLogicHasSet) {

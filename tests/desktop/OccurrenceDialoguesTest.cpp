@@ -83,8 +83,10 @@ TEST_F(OccurrenceDialogues, GeneralizeWorksByKeysAlone) {
         EXPECT_TRUE(dialogue.button("cmdSelectAll")->isEnabled());
         QTest::keyClick(name, Qt::Key_Return);  // presses no button
         EXPECT_EQ(ConvertEpsilon(Generalize.RTB), "x+f(x)=y");
+        EXPECT_EQ(dialogue.statement->cursorWidth(), 0);  // one caret, where the focus is
         QTest::keyClick(name, Qt::Key_Tab);
         EXPECT_EQ(dialogue.window->focusWidget(), dialogue.statement);
+        EXPECT_GT(dialogue.statement->cursorWidth(), 0);
         for (int i = 0; i < 4; ++i) QTest::keyClick(dialogue.statement, Qt::Key_Right);
         QTest::keyClick(dialogue.statement, Qt::Key_Return);
         EXPECT_EQ(ConvertEpsilon(Generalize.RTB), "x+f(c)=y");
