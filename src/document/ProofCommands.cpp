@@ -141,6 +141,7 @@ void OpenCommand() {
 
 void SaveAsCommand() {
     Proof.RTB.SetFocus();
+    if (RuleMode != 0) SetPrompt("");  // what it asks for is not waited for any more
     RuleMode = 0;
     CommonDialog& dialog = Proof.CommonDialog1;
     if (!dialog.FileName.empty()) dialog.FileName = WithProofExtension(dialog.FileName);

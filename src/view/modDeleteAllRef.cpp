@@ -31,8 +31,8 @@ void ForgetMarks() {
 void DeleteAllRef() {
     RuleMode = 0;
     int first = StmtToDelete();
-    if (first == 0) return;
     SetPrompt("");
+    if (first == 0) return;
     int count = 0;
     FlagStmts(first, count);
     if (count > 1 && !ConfirmOthers(count - 1)) return ForgetMarks();
