@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QEvent>
+#include <QPointer>
 #include <QWidget>
 #include <utility>
 
@@ -11,6 +12,7 @@ namespace tessaryn {
 namespace {
 
 bool KeyWasLast = false;
+QPointer<QWidget> PressedIn;  // the window of the last press of a mouse button
 
 class Watch : public QObject {
   public:
@@ -21,6 +23,8 @@ class Watch : public QObject {
         if (key || event->type() == QEvent::MouseButtonPress) {
             KeyWasLast = key;
             onInput_();
+            const auto* widget = qobject_cast<QWidget*>(watched);
+            if (!key && widget != nullptr) PressedIn = widget->window();
         }
         return QObject::eventFilter(watched, event);
     }
@@ -40,10 +44,12 @@ void WatchInput(std::function<void()> onInput) {
 }
 
 QPoint PlaceOfInput() {
-    if (!KeyWasLast) return QCursor::pos();
-    if (const QWidget* dialogue = QApplication::activeModalWidget()) {
+    // A dialogue that has come up meanwhile may well lie under the pointer.
+    const QWidget* dialogue = QApplication::activeModalWidget();
+    if (dialogue != nullptr && (KeyWasLast || dialogue != PressedIn)) {
         return dialogue->frameGeometry().bottomLeft();
     }
+    if (!KeyWasLast) return QCursor::pos();
     const QWidget* focus = QApplication::focusWidget();
     if (focus == nullptr) return QCursor::pos();
     const QRect caret = focus->inputMethodQuery(Qt::ImCursorRectangle).toRect();

@@ -1,5 +1,6 @@
-// Where the user's last input took place: at the pointer or, after a key, at the caret. In a
-// dialogue that is below the window, so that nothing hides the message that it shows.
+// Where the user's last input took place: at the pointer or, after a key, at the caret. With a
+// dialogue open that was not clicked in, it is below the dialogue, so that nothing hides what that
+// shows.
 #pragma once
 
 #include <QPoint>

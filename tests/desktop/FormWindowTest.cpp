@@ -22,6 +22,7 @@
 #include "axioms/InductionForm.h"
 #include "axioms/SubsetFrm.h"
 #include "desktop/Desktop.h"
+#include "desktop/InputWatch.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
 #include "mainwindow/TestParser.h"
@@ -203,6 +204,25 @@ TEST(FormWindow, KeyboardAcceptsAndCancels) {
     EXPECT_FALSE(form.tick.Value);
     EXPECT_EQ(form.Run([](FormWindow& window) { window.Window().close(); }), "");
     EXPECT_FALSE(form.Visible);
+}
+
+// A dialogue that has come up at a click may lie under the pointer.
+TEST(FormWindow, NoteHidesNothingOfADialogue) {
+    QWidget elsewhere;
+    elsewhere.show();
+    QTest::mouseClick(&elsewhere, Qt::LeftButton);
+    EntryForm form;
+    form.Run([&](FormWindow& window) {
+        const QPoint below = window.Window().frameGeometry().bottomLeft();
+        EXPECT_EQ(PlaceOfInput(), below);
+        auto& entry = Find<QLineEdit>(window, "name");
+        QTest::mouseClick(&entry, Qt::LeftButton);
+        EXPECT_EQ(PlaceOfInput(), QCursor::pos());
+        QTest::keyClick(&entry, Qt::Key_A);
+        EXPECT_EQ(PlaceOfInput(), below);
+        form.Hide();
+        SyncWindows();
+    });
 }
 
 TEST(FormWindow, TabGoesFromTheTextToContinue) {
