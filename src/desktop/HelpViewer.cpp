@@ -14,6 +14,7 @@
 #include <QUrl>
 #include <QWidget>
 
+#include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
 #include "platform/Platform.h"
 
@@ -61,6 +62,7 @@ QStringList LinkedPages(const QString& path) {
 class HelpWindow : public QWidget {
   public:
     explicit HelpWindow(const QString& directory) : directory_(directory) {
+        setFont(TellingFont());
         setAttribute(Qt::WA_DeleteOnClose);
         setWindowTitle(QStringLiteral("Tessaryn Manual"));
         auto* parts = new QSplitter(this);
@@ -70,11 +72,12 @@ class HelpWindow : public QWidget {
         parts->addWidget(&pages_);
         parts->addWidget(&text_);
         parts->setStretchFactor(1, 1);
-        parts->setSizes({290, 710});
         pages_.setAccessibleName(QStringLiteral("Pages"));
         text_.setAccessibleName(QStringLiteral("Page"));
         text_.setOpenLinks(false);
         FillPages();
+        const int list = pages_.sizeHintForColumn(0) + 30;
+        parts->setSizes({list, 1000 - list});
         connect(&pages_, &QListWidget::currentRowChanged, this, [this](int row) {
             Open(QUrl::fromLocalFile(pages_.item(row)->data(Qt::UserRole).toString()));
         });

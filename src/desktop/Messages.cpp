@@ -1,5 +1,6 @@
 // Beeps with their reasons, and message boxes.
 #include <QApplication>
+#include <QFontInfo>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
@@ -11,6 +12,7 @@
 #include "desktop/InputWatch.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
+#include "view/Display.h"
 
 namespace tessaryn {
 
@@ -19,7 +21,7 @@ namespace {
 constexpr int ShownFor = 5000;    // milliseconds, and more for a long reason
 constexpr int PerCharacter = 40;  // milliseconds
 constexpr int FadeFor = 600;      // milliseconds
-constexpr int WidestNote = 460;   // pixels
+constexpr int WidestNote = 85;    // average characters
 
 // Tells why a command was refused, beside the place of the input. Takes neither focus nor clicks.
 class Note : public QLabel {
@@ -49,10 +51,11 @@ class Note : public QLabel {
     void Tell(const QString& reason, const QPoint& place) {
         fade_.stop();
         setWindowOpacity(1.0);
+        setFont(TellingFont());
         setText(reason);
         setAccessibleName(reason);
         const int natural = fontMetrics().horizontalAdvance(reason) + 2 * margin() + 4;
-        const int width = std::min(natural, WidestNote);
+        const int width = std::min(natural, fontMetrics().averageCharWidth() * WidestNote);
         resize(width, heightForWidth(width));
         move(Beside(place));
         show();
@@ -106,6 +109,12 @@ Answer AnswerOf(int button, Buttons buttons) {
 }
 
 }  // namespace
+
+QFont TellingFont() {
+    QFont font = QApplication::font();
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * std::max(1.0, RuleFontSize / 10.0));
+    return font;
+}
 
 void Beep(const std::string& reason) {
     QApplication::beep();

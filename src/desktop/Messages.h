@@ -1,9 +1,14 @@
 // The note that tells why a command was refused.
 #pragma once
 
+#include <QFont>
 #include <QString>
 
 namespace tessaryn {
+
+// The font of what tells the user something beside the proof: the desktop's own, and larger with
+// the text size Large.
+QFont TellingFont();
 
 void FadeNote();      // lets it go; the user has moved on
 QString NoteShown();  // its text, "" if there is none

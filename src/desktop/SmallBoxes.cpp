@@ -3,6 +3,7 @@
 #include <QAccessible>
 
 #include "desktop/Desktop.h"
+#include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
 
 namespace tessaryn {
@@ -24,11 +25,15 @@ StatusView::StatusView(RichTextBox& box, QWidget* parent) : QLabel(parent), box_
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setTextInteractionFlags(Qt::NoTextInteraction);
-    setMinimumHeight(fontMetrics().lineSpacing() + 8);
     Sync();
+    setMinimumHeight(fontMetrics().lineSpacing() + 8);
 }
 
 void StatusView::Sync() {
+    if (const QFont wanted = TellingFont(); font() != wanted) {
+        setFont(wanted);
+        setMinimumHeight(fontMetrics().lineSpacing() + 8);
+    }
     const bool centred = box_.GetSelAlignment() == Alignment::Center;
     setAlignment(Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft));
     const QString shown = ToQt(box_.GetText()).trimmed();
