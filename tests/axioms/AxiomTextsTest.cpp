@@ -10,6 +10,7 @@
 #include "Workbench.h"
 #include "axioms/EnteredNumber.h"
 #include "axioms/SchemeText.h"
+#include "cli/HeadlessPlatform.h"
 #include "expr/Blanks.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
@@ -31,6 +32,16 @@ TEST(EnteredNumber, TakesTheLongestNumberAtTheHead) {
     for (const auto& [text, number] : rows) EXPECT_EQ(EnteredNumber(text), number) << text;
     for (const char* text : {"32768", "32767.5", "-32769", "99999999999999999999", "1e999"}) {
         EXPECT_THROW(EnteredNumber(text), std::out_of_range) << text;
+    }
+}
+
+TEST(EnteredNumber, RefusalsTellWhatToEnter) {
+    for (const char* entry : {"40000", "100", "x"}) {
+        EXPECT_EQ(Build(std::string("choose optPowerSet\nset Text1 \"") + entry +
+                        "\"\nchoose Continue\n"),
+                  "");
+        ASSERT_FALSE(Headless.Beeps.empty()) << entry;
+        EXPECT_EQ(Headless.Beeps.back(), "Enter a whole number from 1 to 99.") << entry;
     }
 }
 
