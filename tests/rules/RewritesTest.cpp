@@ -1,4 +1,4 @@
-// The rules that work on one sign or term of a statement, against finite models: whatever is
+// The rules that work on one sign or term of a statement, against small worlds: whatever is
 // clicked, a rewrite means the same as the statement, and what E Gen and Substitute write follows.
 #include <gtest/gtest.h>
 
@@ -16,87 +16,23 @@
 #include "mainwindow/RuleModes.h"
 #include "platform/Events.h"
 #include "rules/Generalize.h"
-#include "rules/Operands.h"
+#include "rules/Structure.h"
 #include "rules/Substitution.h"
 
 namespace tessaryn {
 namespace {
 
-// A world of two things, 0 and 1, which are the truth values as well. What a name, a function or a
-// predicate stands for in it is drawn by lot, always the same for one number.
-class Model {
-  public:
-    explicit Model(int number) : number_(std::to_string(number)) {}
-
-    bool IsTrue(const Expression& statement) {
-        nodes_ = &statement.nodes;
-        return Value(RootIndex(statement.nodes)) == 1;
-    }
-
-  private:
-    // FNV-1a, so that every machine draws the same.
-    int Draw(const std::string& what) const {
-        unsigned hash = 2166136261U;
-        for (const char c : number_ + " " + what) {
-            hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
-        }
-        return static_cast<int>((hash >> 13) % 2);
-    }
-
-    int Value(int n) {
-        const ParseRec& node = NodeAt(*nodes_, n);
-        const auto left = [&] { return Value(node.Ptr1); };
-        const auto right = [&] { return Value(node.Ptr2); };
-        switch (node.Rule) {
-            case Node::Atom:
-                return bound_.contains(node.Name) ? bound_[node.Name] : Draw(node.Name);
-            case Node::Prop:
-                return Draw(node.Name);
-            case Node::Pred:
-                return Draw(NodeAt(*nodes_, node.Ptr1).Name + "(" + std::to_string(right()));
-            case Node::LNeg:
-                return 1 - left();
-            case Node::LAnd:
-                return left() & right();
-            case Node::LOr:
-                return left() | right();
-            case Node::Imply:
-                return (1 - left()) | right();
-            case Node::Iff:
-            case Node::EQ:
-                return left() == right() ? 1 : 0;
-            case Node::ALL:
-            case Node::EXIST: {
-                const std::string& variable = NodeAt(*nodes_, node.Ptr1).Name;
-                bound_[variable] = 0;
-                const int first = right();
-                bound_[variable] = 1;
-                const int second = right();
-                bound_.erase(variable);
-                return node.Rule == Node::ALL ? first & second : first | second;
-            }
-            default:
-                return Draw(std::to_string(node.Rule) + " " + std::to_string(left()) + " " +
-                            (node.Ptr2 == 0 ? "" : std::to_string(right())));
-        }
-    }
-
-    std::string number_;
-    std::map<std::string, int> bound_;  // of bound variables
-    const NodeList* nodes_ = nullptr;
-};
-
-// The lines of the proof that are true in a model, one bit each.
+// The lines of the proof that are true in a world of two things, one bit each.
 unsigned TrueLines(int number) {
-    Model model(number);
+    Structure world(static_cast<unsigned>(number), 2);
     unsigned lines = 0;
     for (int line = 1; line <= StmtCount; ++line) {
-        if (model.IsTrue(ParseExpression(StmtText(line)))) lines |= 1U << line;
+        if (world.Holds(ParseExpression(StmtText(line)))) lines |= 1U << line;
     }
     return lines;
 }
 
-// Is the last line true in each model in which the others are, and, if it is to mean the same, in
+// Is the last line true in each world in which the others are, and, if it is to mean the same, in
 // no other?
 bool LastLineHolds(bool sameMeaning) {
     for (int number = 1; number <= 24; ++number) {

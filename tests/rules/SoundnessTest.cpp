@@ -19,6 +19,7 @@
 #include "mainwindow/RuleModes.h"
 #include "mainwindow/TestParser.h"
 #include "platform/Events.h"
+#include "rules/Structure.h"
 #include "view/InsertMode.h"
 #include "view/Warning.h"
 
@@ -28,73 +29,6 @@ namespace {
 // Some things have P and others Q, none both, so that a mixed-up name is soon a contradiction.
 const std::vector<std::string> Axioms = {"EXIST(a):P(a)", "EXIST(a):Q(a)", "ALL(a):[Q(a) => ~P(a)]",
                                          "ALL(a):EXIST(b):R(a,b)", "ALL(a):[P(a) => S(a)]"};
-
-unsigned Mix(unsigned seed, const std::string& text) {
-    for (const char c : text) seed = (seed ^ static_cast<unsigned char>(c)) * 16777619U;
-    seed ^= seed >> 15;
-    seed *= 2246822519U;
-    return seed ^ (seed >> 13);
-}
-
-// A few things, numbered from 0, and predicates drawn by lot.
-class Structure {
-  public:
-    Structure(unsigned seed, int size) : seed_(seed), size_(size) {}
-
-    bool Holds(const Expression& expression) { return Holds(expression.nodes, Root(expression)); }
-
-    // Does a test succeed for all values of the names, or for some?
-    bool Try(const std::vector<std::string>& names, bool all, const std::function<bool()>& test,
-             std::size_t first = 0) {
-        if (first == names.size()) return test();
-        const std::map<std::string, int> before = values;
-        bool result = all;
-        for (int value = 0; value < size_ && result == all; ++value) {
-            values[names[first]] = value;
-            result = Try(names, all, test, first + 1);
-        }
-        values = before;
-        return result;
-    }
-
-    std::map<std::string, int> values;
-
-  private:
-    static std::size_t Root(const Expression& expression) { return expression.nodes.size() - 1; }
-
-    std::string ValueOf(const NodeList& nodes, int n) {
-        const ParseRec& node = nodes[static_cast<std::size_t>(n)];
-        if (node.Rule == Node::Atom) return std::to_string(values.at(node.Name));
-        return ValueOf(nodes, node.Ptr1) + "," + ValueOf(nodes, node.Ptr2);
-    }
-
-    bool Holds(const NodeList& nodes, std::size_t n) {
-        const ParseRec& node = nodes[n];
-        const auto left = static_cast<std::size_t>(node.Ptr1);
-        const auto right = static_cast<std::size_t>(node.Ptr2);
-        switch (node.Rule) {
-            case Node::Prop:
-                return (Mix(seed_, node.Name) & 1U) != 0;
-            case Node::Pred:
-                return (Mix(seed_, nodes[left].Name + ValueOf(nodes, node.Ptr2)) & 1U) != 0;
-            case Node::EQ:
-                return ValueOf(nodes, node.Ptr1) == ValueOf(nodes, node.Ptr2);
-            case Node::LNeg:
-                return !Holds(nodes, left);
-            case Node::LAnd:
-                return Holds(nodes, left) && Holds(nodes, right);
-            case Node::Imply:
-                return !Holds(nodes, left) || Holds(nodes, right);
-            default:
-                EXPECT_TRUE(node.Rule == Node::ALL || node.Rule == Node::EXIST);
-                return Try({nodes[left].Name}, node.Rule == Node::ALL,
-                           [&] { return Holds(nodes, right); });
-        }
-    }
-
-    unsigned seed_;
-    int size_;
-};
 
 // The lines from `line` to `end`, with the values that the names ahead of them have.
 bool LinesHold(Structure& structure, const std::vector<Expression>& lines, int line, int end) {
