@@ -7,28 +7,21 @@
 
 using tessaryn::LineIndex;
 
-TEST(LineIndex, FindsLinesAndTheirEnds) {
-    const std::string text = "1\tP & Q\r\n\r\n\xCE\xB5\xCE\xB5\r\nlast";
-    LineIndex index;
-    index.Rebuild(text);
-    ASSERT_EQ(index.Count(), 4);
-    EXPECT_EQ(index.End(text, 0), 7);
-    EXPECT_EQ(index.Start(1), 9);
-    EXPECT_EQ(index.End(text, 1), 9);
-    EXPECT_EQ(index.LineAt(8), 0);  // on the LF
-    EXPECT_EQ(index.LineAt(9), 1);
-    EXPECT_EQ(index.LineAt(static_cast<int>(text.size())), 3);
-    EXPECT_EQ(index.WidestLine(), LineIndex::TabColumns + 5);
-}
-
 TEST(LineIndex, AfterAnyEditIsAsIfBuiltAnew) {
     std::mt19937 random(7);
     const auto below = [&](int limit) {
         return std::uniform_int_distribution(0, limit - 1)(random);
     };
     const std::string alphabet[] = {"a", "\r\n", "\t", "long word", "\xC3\xA9", "\n", "\r"};
-    std::string text;
+    std::string text = "1\tP & Q\r\n\r\n\xCE\xB5\xCE\xB5\r\nlast";
     LineIndex edited;
+    edited.Rebuild(text);
+    ASSERT_EQ(edited.Count(), 4);
+    EXPECT_EQ(edited.End(text, 0), 7);
+    EXPECT_EQ(edited.Start(1), 9);
+    EXPECT_EQ(edited.End(text, 1), 9);
+    EXPECT_EQ(edited.LineAt(8), 0);  // on the LF
+    EXPECT_EQ(edited.WidestLine(), LineIndex::TabColumns + 5);
     for (int step = 0; step < 2000; ++step) {
         const int start = below(static_cast<int>(text.size()) + 1);
         const int removed = below(std::min(12, static_cast<int>(text.size()) - start + 1));
@@ -41,6 +34,7 @@ TEST(LineIndex, AfterAnyEditIsAsIfBuiltAnew) {
         ASSERT_EQ(edited.Count(), fresh.Count()) << "step " << step;
         for (int line = 0; line < fresh.Count(); ++line) {
             ASSERT_EQ(edited.Start(line), fresh.Start(line)) << "step " << step;
+            ASSERT_EQ(edited.LineAt(fresh.Start(line)), line) << "step " << step;
         }
         ASSERT_EQ(edited.WidestLine(), fresh.WidestLine()) << "step " << step;
     }

@@ -1,16 +1,12 @@
 // The dialogues in which occurrences are picked, by mouse and by keyboard.
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTextEdit>
-#include <QTimer>
-#include <functional>
 
-#include "desktop/Desktop.h"
-#include "desktop/FormWindow.h"
+#include "ShownForm.h"
 #include "document/PutStmt.h"
 #include "document/Statement.h"
 #include "expr/Parse.h"
@@ -24,44 +20,13 @@ using namespace tessaryn;
 
 namespace {
 
-struct Dialogue {
-    QTextEdit* statement;
-    std::function<QPushButton*(const char*)> button;
-    QWidget* window;
-};
-
 class OccurrenceDialogues : public testing::Test {
   protected:
     void SetUp() override {
-        // No loop runs after the end of a program until the application has started anew.
-        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
-        QApplication::exec();
-        ForgetWindows();
         StartProgram();
         RuleMode = Rule::Axiom;
         NewStmtText = "x+f(x)=y";
         PutStmt();
-    }
-    void TearDown() override { ForgetWindows(); }
-
-    // Shows the form, acts once it is up, and closes it if that has left it open.
-    static void Run(Form& form, const std::function<void(const Dialogue&)>& act) {
-        bool acted = false;
-        QTimer::singleShot(0, &WindowOf(form), [&] {
-            acted = true;
-            QWidget* window = &WindowOf(form).Window();
-            window->activateWindow();
-            QApplication::processEvents();
-            act({window->findChild<QTextEdit*>("RTB"),
-                 [window](const char* name) {
-                     return window->findChild<QPushButton*>(QString::fromLatin1(name));
-                 },
-                 window});
-            form.Hide();
-            SyncWindows();
-        });
-        ShowModal(form);
-        EXPECT_TRUE(acted);
     }
 };
 
@@ -76,30 +41,32 @@ TEST_F(OccurrenceDialogues, GeneralizeWorksByKeysAlone) {
     Arg1Pending = 1;
     GenExpression = "x";
     GenParseTable = ParseExpression("x").nodes;
-    Run(Generalize, [](const Dialogue& dialogue) {
-        auto* name = dialogue.window->findChild<QLineEdit*>("BoundVarTextBox");
-        EXPECT_EQ(dialogue.window->focusWidget(), name);
+    ClosedBy(Generalize, [](QWidget& window) {
+        auto* name = &Find<QLineEdit>(window, "BoundVarTextBox");
+        auto* statement = &Find<QTextEdit>(window, "RTB");
+        const auto button = [&](const char* of) { return &Find<QPushButton>(window, of); };
+        EXPECT_EQ(window.focusWidget(), name);
         QTest::keyClicks(name, "c");
-        EXPECT_TRUE(dialogue.button("cmdSelectAll")->isEnabled());
+        EXPECT_TRUE(button("cmdSelectAll")->isEnabled());
         QTest::keyClick(name, Qt::Key_Return);  // presses no button
         EXPECT_EQ(ConvertEpsilon(Generalize.RTB), "x+f(x)=y");
-        EXPECT_EQ(dialogue.statement->cursorWidth(), 0);  // one caret, where the focus is
+        EXPECT_EQ(statement->cursorWidth(), 0);  // one caret, where the focus is
         QTest::keyClick(name, Qt::Key_Tab);
-        EXPECT_EQ(dialogue.window->focusWidget(), dialogue.statement);
-        EXPECT_GT(dialogue.statement->cursorWidth(), 0);
-        for (int i = 0; i < 4; ++i) QTest::keyClick(dialogue.statement, Qt::Key_Right);
-        QTest::keyClick(dialogue.statement, Qt::Key_Return);
+        EXPECT_EQ(window.focusWidget(), statement);
+        EXPECT_GT(statement->cursorWidth(), 0);
+        for (int i = 0; i < 4; ++i) QTest::keyClick(statement, Qt::Key_Right);
+        QTest::keyClick(statement, Qt::Key_Return);
         EXPECT_EQ(ConvertEpsilon(Generalize.RTB), "x+f(c)=y");
-        EXPECT_EQ(dialogue.statement->toPlainText(), "x+f(c)=y");
+        EXPECT_EQ(statement->toPlainText(), "x+f(c)=y");
         EXPECT_TRUE(name->isHidden());
 
         // Reset disables the button that has the focus, and asks for the name again.
-        dialogue.button("cmdReset")->setFocus();
-        QTest::keyClick(dialogue.button("cmdReset"), Qt::Key_Return);
-        EXPECT_EQ(dialogue.window->focusWidget(), name);
+        button("cmdReset")->setFocus();
+        QTest::keyClick(button("cmdReset"), Qt::Key_Return);
+        EXPECT_EQ(window.focusWidget(), name);
         QTest::keyClicks(name, "d");
-        QTest::mouseClick(dialogue.button("cmdSelectAll"), Qt::LeftButton);
-        QTest::mouseClick(dialogue.button("cmdContinue"), Qt::LeftButton);
+        QTest::mouseClick(button("cmdSelectAll"), Qt::LeftButton);
+        QTest::mouseClick(button("cmdContinue"), Qt::LeftButton);
         EXPECT_EQ(Line(2), "EXIST(d):d+f(d)=y");
     });
 }
@@ -110,17 +77,18 @@ TEST_F(OccurrenceDialogues, SubstitutionTakesAClickOnTheCharacter) {
     SubstSource = "(a+b)";
     SubstTarget = "x";
     SubstTargetTable = ParseExpression("x").nodes;
-    Run(Substitution, [](const Dialogue& dialogue) {
-        QTextCursor ahead = dialogue.statement->textCursor();
+    ClosedBy(Substitution, [](QWidget& window) {
+        auto* statement = &Find<QTextEdit>(window, "RTB");
+        QTextCursor ahead = statement->textCursor();
         ahead.setPosition(4);
-        const QRect place = dialogue.statement->cursorRect(ahead);
+        const QRect place = statement->cursorRect(ahead);
         // The right half of the character is nearer to the place behind it, and means it all the
         // same.
-        const int width = dialogue.statement->fontMetrics().averageCharWidth();
-        QTest::mouseClick(dialogue.statement->viewport(), Qt::LeftButton, {},
+        const int width = statement->fontMetrics().averageCharWidth();
+        QTest::mouseClick(statement->viewport(), Qt::LeftButton, {},
                           place.center() + QPoint(width - 2, 0));
-        EXPECT_EQ(dialogue.statement->toPlainText(), "x+f((a+b))=y");
-        QTest::mouseClick(dialogue.button("cmdContinue"), Qt::LeftButton);
+        EXPECT_EQ(statement->toPlainText(), "x+f((a+b))=y");
+        QTest::mouseClick(&Find<QPushButton>(window, "cmdContinue"), Qt::LeftButton);
         EXPECT_EQ(Line(2), "x+f(a+b)=y");
     });
 }

@@ -37,7 +37,8 @@ void AnswerFileDialogue(const QString& path) {
     });
 }
 
-PrintResult PrintWorkArea() {
+PrintResult PrintTo(const QString& path) {
+    AnswerFileDialogue(path);
     int width = 0;
     int height = 0;
     const PrintResult ready = WYSIWYG_RTF(WorkArea.RTB, Inch, Inch, Inch, Inch, width, height);
@@ -63,25 +64,20 @@ int PagesOf(const QString& path) {
 
 TEST(Printing, PutsAllPagesIntoAPdf) {
     if (!QPrinterInfo::defaultPrinter().isNull()) GTEST_SKIP() << "there is a printer";
-    ForgetWindows();
     StartProgram();
     const QTemporaryDir directory;
     const QString file = directory.filePath(QStringLiteral("my proof.pdf"));
     FillWorkArea(500);  // one line in seven takes six rows: some 860 rows of 61 to a page
-    AnswerFileDialogue(file);
-    EXPECT_EQ(PrintWorkArea(), PrintResult::Done);
+    EXPECT_EQ(PrintTo(file), PrintResult::Done);
     EXPECT_GE(PagesOf(file), 13);
     EXPECT_LE(PagesOf(file), 17);
 
     // The proof's name is suggested; a new proof begins in the default directory.
     ASSERT_TRUE(QDir(directory.path()).mkdir(QStringLiteral("begin")));
     DefaultDir = directory.filePath(QStringLiteral("begin")).toStdString();
-    AnswerFileDialogue(QString());
-    EXPECT_EQ(PrintWorkArea(), PrintResult::Cancelled);
+    EXPECT_EQ(PrintTo(QString()), PrintResult::Cancelled);
     EXPECT_EQ(DirectoryShown.toStdString(), DefaultDir);
     ProofFileName = directory.filePath(QStringLiteral("sets.proof")).toStdString();
-    AnswerFileDialogue(QString());
-    EXPECT_EQ(PrintWorkArea(), PrintResult::Cancelled);
+    EXPECT_EQ(PrintTo(QString()), PrintResult::Cancelled);
     EXPECT_EQ(NameShown, directory.filePath(QStringLiteral("sets.pdf")));
-    ForgetWindows();
 }

@@ -6,7 +6,6 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTest>
-#include <ctime>
 #include <string>
 #include <vector>
 
@@ -34,6 +33,13 @@ struct Displayed {
     void Log(const std::string& event) {
         events +=
             event + " " + std::to_string(box.SelStart) + "+" + std::to_string(box.SelLength) + ";";
+    }
+
+    // As the logic does.
+    void ShowPlace(int position, int length = 0) {
+        box.SelStart = position;
+        box.SelLength = length;
+        display.Sync();
     }
 
     // The middle of a character, `aside` pixels to the right of it.
@@ -122,55 +128,42 @@ TEST(ProofDisplay, DoubleClickAddsOnlyWhatTheFirstClickLeft) {
         ++FormsShown;
         shown.events += "form;";
     };
-    QTest::qWait(QApplication::doubleClickInterval() + 50);
     shown.Mouse(QTest::mouseClick, place);
     shown.Mouse(QTest::mouseDClick, place);
     shown.Mouse(QTest::mouseRelease, place);
     EXPECT_EQ(shown.events.find("double"), std::string::npos);
 }
 
-// A new statement leaves the caret behind its block, where a click would hit nothing.
 TEST(ProofDisplay, HoldsBackAClickThatADoubleClickWouldUndo) {
     Displayed shown("12\tP\r\n\tPremise\r\n");
     shown.box.AwaitsDoubleClick = [](int position) { return position < 3; };
     const auto click = [&](int position) {
+        shown.events.clear();
         shown.Mouse(QTest::mouseClick, shown.PlaceOf(position));
     };
+    QApplication::setDoubleClickInterval(3600000);
     click(3);
     EXPECT_EQ(shown.events, "click 3+0;up;") << "elsewhere it is sent at once";
-    shown.events.clear();
     click(1);
+    QTest::qWait(1);
     EXPECT_EQ(shown.events, "");
-    QTest::qWait(QApplication::doubleClickInterval() + 50);
-    EXPECT_EQ(shown.events, "click 1+0;up;");
-
-    shown.events.clear();
-    click(1);
-    shown.Mouse(QTest::mouseDClick, shown.PlaceOf(1));
-    shown.Mouse(QTest::mouseRelease, shown.PlaceOf(1));
-    QTest::qWait(QApplication::doubleClickInterval() + 50);
-    EXPECT_EQ(shown.events, "click 1+0;double 1+0;up;");
-
-    shown.events.clear();
-    click(1);
     QTest::keyClick(&shown.display, Qt::Key_Right);
     EXPECT_EQ(shown.events, "click 1+0;up;") << "ahead of the next input";
     EXPECT_EQ(shown.box.SelStart, 2);
-}
 
-TEST(ProofDisplay, EnterBehindABlockMeansItsStatement) {
-    Displayed shown("1\tP\r\n\tPremise\r\n\r\n");
-    shown.display.activateWindow();
-    shown.box.SelStart = 13;
-    shown.display.Sync();
-    QTest::keyClick(&shown.display, Qt::Key_Return);
-    EXPECT_EQ(shown.events, "click 12+0;up;");
+    QApplication::setDoubleClickInterval(1);
+    click(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown.events == "click 1+0;up;"; }, 60000));
+    click(1);
+    shown.Mouse(QTest::mouseDClick, shown.PlaceOf(1));
+    shown.Mouse(QTest::mouseRelease, shown.PlaceOf(1));
+    QTest::qWait(20);
+    EXPECT_EQ(shown.events, "click 1+0;double 1+0;up;");
 }
 
 TEST(ProofDisplay, KeyboardMovesSelectsAndClicks) {
     const std::string text = "1\tP & Q\r\n\r\n2\tR \xC3\xA9\r\n";
     Displayed shown(text);
-    shown.display.activateWindow();
     const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(&shown.display, key, modifiers);
         return shown.box.GetSelStart();
@@ -190,11 +183,10 @@ TEST(ProofDisplay, KeyboardMovesSelectsAndClicks) {
     EXPECT_EQ(shown.box.GetText(), text);
 
     press(Qt::Key_Home, Qt::ControlModifier);
-    press(Qt::Key_Right);
-    press(Qt::Key_Right);
+    press(Qt::Key_End);
     shown.events.clear();
     press(Qt::Key_Return);
-    EXPECT_EQ(shown.events, "click 2+0;up;");
+    EXPECT_EQ(shown.events, "click 6+0;up;") << "behind a block it means its statement";
 }
 
 TEST(ProofDisplay, ScrollsNoFurtherThanNeededToWhatTheLogicShows) {
@@ -203,17 +195,14 @@ TEST(ProofDisplay, ScrollsNoFurtherThanNeededToWhatTheLogicShows) {
     Displayed shown(text);
     QScrollBar* bar = shown.display.verticalScrollBar();
     const int place = At(text, "\n100\t") + 1;
-    shown.box.SelStart = place;
-    shown.display.Sync();
+    shown.ShowPlace(place);
     EXPECT_NEAR(shown.display.CaretRect(place).bottom(), shown.display.viewport()->height(), 2);
     // By way of the end, the line comes to stand at the top.
     shown.box.SelStart = shown.box.TextLength();
-    shown.box.SelStart = place;
-    shown.display.Sync();
+    shown.ShowPlace(place);
     EXPECT_LT(shown.display.CaretRect(place).top(), 10);
     const int scrolled = bar->value();
-    shown.box.SelStart = At(text, "\n105\t") + 1;
-    shown.display.Sync();
+    shown.ShowPlace(At(text, "\n105\t") + 1);
     EXPECT_EQ(bar->value(), scrolled);
 }
 
@@ -221,70 +210,52 @@ TEST(ProofDisplay, ScrollsSidewaysToASelectionAndBackToTheLineStarts) {
     const std::string text = std::string(500, 'P') + "\r\n1\tP & Q\r\n";
     Displayed shown(text);
     const QScrollBar* bar = shown.display.horizontalScrollBar();
-    shown.box.SelStart = 490;
-    shown.display.Sync();
+    shown.ShowPlace(490);
     EXPECT_GT(bar->value(), 1000);
-    shown.box.SelStart = 300;
-    shown.display.Sync();
+    shown.ShowPlace(300);
     EXPECT_NEAR(shown.display.CaretRect(300).left(), 6, 1) << "no further than needed";
-    shown.box.SelStart = At(text, "Q");
-    shown.display.Sync();
+    shown.ShowPlace(At(text, "Q"));
     EXPECT_EQ(bar->value(), 0);
-    shown.box.SelStart = 300;
-    shown.box.SelLength = 20;
-    shown.display.Sync();
+    shown.ShowPlace(300, 20);
     EXPECT_LT(shown.display.CaretRect(320).right(), shown.display.viewport()->width());
     EXPECT_GT(shown.display.CaretRect(300).left(), 0);
 }
 
 // A proof of the greatest length: only the lines in sight are laid out and formatted, at first and
-// after a change, and a change far below costs no painting at all.
+// after a change, and a change far below lays out none.
 TEST(ProofDisplay, CostsOnlyWhatIsInSight) {
     constexpr int Statements = 32000;
+    const std::string block = "1\tALL(x):[x @ S => EXIST(y):f(x)=y]\r\n\t\tPremise\r\n\r\n";
+    const int length = static_cast<int>(block.size());
     std::string text;
     std::vector<RichTextBox::Block> blocks;
     for (int n = 1; n <= Statements; ++n) {
-        const std::string block = std::to_string(n) +
-                                  "\tALL(x):[x @ S => EXIST(y):[y @ T & f(x)=y]]\r\n\t\tPremise"
-                                  "\r\n\r\n";
         text += block;
-        blocks.push_back({static_cast<int>(block.size()), static_cast<std::uint64_t>(n)});
+        blocks.push_back({length, static_cast<std::uint64_t>(n)});
     }
     int formatted = 0;
-    const auto formatter = [&](int index) {
+    const auto formatter = [&](int) {
         ++formatted;
-        return std::vector<FormatRun>{{0, blocks[static_cast<std::size_t>(index)].length, {}}};
+        return std::vector<FormatRun>{{0, length, {}}};
     };
     Displayed shown("");
     shown.box.SetBlocks(text, blocks, formatter);
-
-    // Processor time: the machine may be busy with other things.
-    const auto milliseconds = [](std::clock_t since) {
-        return 1000.0 * static_cast<double>(std::clock() - since) / CLOCKS_PER_SEC;
-    };
-    std::clock_t began = std::clock();
     shown.display.Sync();
     shown.display.grab();
-    EXPECT_LT(milliseconds(began), 1000);
     EXPECT_LT(formatted, 60);
     EXPECT_LT(shown.display.LinesLaidOut(), 60);
 
-    began = std::clock();
     QScrollBar* bar = shown.display.verticalScrollBar();
     for (int page = 0; page < 100; ++page) {
         bar->setValue(bar->maximum() / 100 * page);
         shown.display.grab();
     }
-    EXPECT_LT(milliseconds(began), 100 * 50);  // 20 a second, on any machine
     EXPECT_LT(formatted, 60 * 101);
-
     bar->setValue(0);
     shown.display.grab();
     const int laidOut = shown.display.LinesLaidOut();
     blocks.push_back({3, 1});
     shown.box.SetBlocks(text + "Q\r\n", blocks, formatter);
-    began = std::clock();
     shown.display.Sync();
-    EXPECT_LT(milliseconds(began), 100);
     EXPECT_EQ(shown.display.LinesLaidOut(), laidOut);
 }

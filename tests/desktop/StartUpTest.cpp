@@ -8,11 +8,9 @@
 #include <QLabel>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QTreeView>
 
-#include "desktop/Desktop.h"
-#include "desktop/FormWindow.h"
+#include "ShownForm.h"
 #include "desktop/PaintedText.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -21,35 +19,16 @@
 
 using namespace tessaryn;
 
-namespace {
-
-// Shows a form, does something in its window, and tells whether that closed it.
-template <class Step>
-bool Closes(Form& form, Step step) {
-    bool closed = false;
-    QTimer::singleShot(20, qApp, [&] {
-        step(WindowOf(form).Window());
-        closed = !form.Visible;
-        form.Hide();
-        SyncWindows();
-    });
-    Dispatch([&form] { ShowModal(form); });
-    return closed;
-}
-
-}  // namespace
-
 TEST(StartUp, ClosesOnAnyKeyOrClick) {
     StartProgram();
-    EXPECT_TRUE(Closes(StartUp, [](QWidget& window) { QTest::keyClick(&window, Qt::Key_X); }));
-    EXPECT_TRUE(Closes(StartUp, [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); }));
-    EXPECT_TRUE(Closes(StartUp, [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Print); }));
-    EXPECT_TRUE(Closes(StartUp, [](QWidget& window) {
+    for (const Qt::Key key : {Qt::Key_X, Qt::Key_Escape, Qt::Key_Print}) {
+        EXPECT_TRUE(ClosedBy(StartUp, [&](QWidget& window) { QTest::keyClick(&window, key); }));
+    }
+    EXPECT_TRUE(ClosedBy(StartUp, [](QWidget& window) {
         QTest::mouseClick(window.findChild<QLabel*>(), Qt::LeftButton);
     }));
     EXPECT_FALSE(
-        Closes(SelectDir, [](QWidget& window) { QTest::mouseClick(&window, Qt::LeftButton); }));
-    ForgetWindows();
+        ClosedBy(SelectDir, [](QWidget& window) { QTest::mouseClick(&window, Qt::LeftButton); }));
 }
 
 TEST(SelectDir, TreeGoesToTheDirectoryAndTellsWhereTheUserGoes) {
@@ -60,24 +39,24 @@ TEST(SelectDir, TreeGoesToTheDirectoryAndTellsWhereTheUserGoes) {
     ASSERT_TRUE(QDir(directory.path()).mkpath(QStringLiteral("first")));
     ASSERT_TRUE(QDir(directory.path()).mkpath(QStringLiteral("second ü")));
     DefaultDir = directory.filePath(QStringLiteral("first")).toStdString();
-    Closes(SelectDir, [&](QWidget& window) {
+    ClosedBy(SelectDir, [&](QWidget& window) {
         auto& tree = *window.findChild<QTreeView*>();
         const auto shows = [&](const char* name) {
             return tree.currentIndex().data().toString() == QString::fromUtf8(name) &&
                    tree.viewport()->rect().contains(tree.visualRect(tree.currentIndex()));
         };
         // The tree reads the disk in the background: what comes late must not push the place away.
-        EXPECT_TRUE(QTest::qWaitFor([&] {
+        const auto read = [&] {
             return shows("first") &&
                    tree.indexBelow(tree.currentIndex()).data().toString() == ToQt("second ü");
-        }));
+        };
+        EXPECT_TRUE(QTest::qWaitFor(read, 60000));
         EXPECT_EQ(SelectDir.CurrentDefault.Caption, DefaultDir);
         QTest::keyClick(&tree, Qt::Key_Down);
         EXPECT_TRUE(shows("second ü"));
         EXPECT_EQ(ToQt(SelectDir.CurrentDefault.Caption),
                   directory.filePath(QStringLiteral("second ü")));
     });
-    ForgetWindows();
 }
 
 TEST(RecentFiles, NameStandsInTheMenuAsItIs) {
@@ -90,5 +69,4 @@ TEST(RecentFiles, NameStandsInTheMenuAsItIs) {
         found = found || action->text() == QStringLiteral("/home/Q&&A  files/x.proof");
     }
     EXPECT_TRUE(found);
-    ForgetWindows();
 }

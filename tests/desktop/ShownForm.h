@@ -1,0 +1,40 @@
+// Modal forms of the tests: shown, used in their windows, closed.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTimer>
+#include <functional>
+
+#include "desktop/Desktop.h"
+#include "desktop/FormWindow.h"
+
+namespace tessaryn {
+
+// Shows a form, does something in its window, and tells whether that has closed it.
+inline bool ClosedBy(Form& form, const std::function<void(QWidget&)>& act) {
+    bool acted = false;
+    bool closed = false;
+    QObject context;
+    QTimer::singleShot(0, &context, [&] {
+        acted = true;
+        QWidget& window = WindowOf(form).Window();
+        window.activateWindow();
+        QApplication::processEvents();
+        act(window);
+        closed = !form.Visible;
+        form.Hide();
+        SyncWindows();
+    });
+    Dispatch([&form] { ShowModal(form); });
+    EXPECT_TRUE(acted);
+    return closed;
+}
+
+template <class Widget>
+Widget& Find(QWidget& window, const char* name) {
+    return *window.findChild<Widget*>(QString::fromLatin1(name));
+}
+
+}  // namespace tessaryn
