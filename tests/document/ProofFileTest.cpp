@@ -17,6 +17,7 @@
 #include "document/Invariants.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "output/WrittenProof.h"
 #include "platform/Files.h"
 #include "view/Undo.h"
 
@@ -53,32 +54,23 @@ class ProofFileTest : public testing::Test {
 
 const char* const BlockProof = "choose optSplit\nclick 1\nchoose optConclusion\n";
 
-// A closed block, an open one, a folded line.
+// A closed block, an open one with a comment, a folded line.
 std::string BuildVariedProof() {
     return Build(EnterPremise("P & Q") + BlockProof +
                  EnterPremise("ALL(a):[Pppppppppp(a) & Qqqqqqqqqqqqq(a)]\r\n=> R(x)") +
+                 "click 5\nset CommentBox \"why\"\nchoose Continue\n"
                  "choose optJoin\nclick 4\nclick 5\n");
 }
 
 TEST_F(ProofFileTest, PremiseByteForByte) {
     ASSERT_EQ(Build(EnterPremise("P")), "");
     const std::string expected(
-        "Tessaryn 1"
-        "\x01\x00"
-        "\x00\x00"
-        "\x01\x00\x00\x00\x00\x00"
-        "\x00\x00\x00\x00\x00\x00\x00\x00"
-        "\xFF\xFF"
-        "\x01\x00\x00\x00"
-        "\x00\x00\x00\x00"
-        "\x03\x00\x00\x00"
-        "\x03\x00\x00\x00"
-        "\x07\x00\x00\x00"
-        "\x0D\x00\x00\x00"
-        "\x01\x00\x00\x00"
-        "\x00\x00"
-        "\x00\x00"
-        "\xFF\xFF"
+        "Tessaryn 1\x01\x00\x00\x00"
+        "\x01\x00\x00\x00\x00\x00"                          // rule, lines
+        "\x00\x00\x00\x00\x00\x00\x00\x00\xFF\xFF"          // names, visible
+        "\x01\x00\x00\x00\x00\x00\x00\x00\x03\x00\x00\x00"  // indexes
+        "\x03\x00\x00\x00\x07\x00\x00\x00\x0D\x00\x00\x00"
+        "\x01\x00\x00\x00\x00\x00\x00\x00\xFF\xFF"  // on the display
         "\x11\x00"
         "1\tP\r\n\tPremise\r\n\r\n",
         83);
@@ -122,13 +114,8 @@ TEST_F(ProofFileTest, EmptyProofs) {
 }
 
 TEST_F(ProofFileTest, LongTextGetsALongLength) {
-    ASSERT_EQ(Build(EnterPremise("P")), "");
-    const std::string comment(70000, 'c');
-    ProofText = comment + "\r\n\r\n" + ProofText;
-    ShiftIndexes(StmtTable[1], 70004);
-    StmtTable[1].StartLine = 1;
-    StmtTable[1].EndUserComment = 70000;
-    ASSERT_EQ(CheckDocument(), "");
+    StartProof();
+    AddLine("P", Rule::Premise, std::string(70000, 'c'));
     const std::string bytes = WriteProof();
     const std::string length("\xFF\xFF\x85\x11\x01\x00", 6);  // 70,021
     EXPECT_NE(bytes.find(length + "ccc"), std::string::npos);
@@ -193,7 +180,7 @@ TEST_F(ProofFileTest, DamageIsRefused) {
         {"text behind the last block", [] { ProofText += "\r\n"; }},
         {"last block cut short", [] { StmtTable[6].EndRule -= 1; }},
         {"comment ahead of its block", [] { StmtTable[3].EndUserComment = 1; }},
-        {"comment over the number", [] { StmtTable[3].EndUserComment = StmtTable[3].StartStmt; }},
+        {"comment over the number", [] { StmtTable[5].EndUserComment += 1; }},
         {"text ahead of the number", [] { StmtTable[3].StartStmt = StmtTable[3].StartLine; }},
         {"empty text", [] { StmtTable[3].EndStmt = StmtTable[3].StartStmt - 1; }},
         {"annotation ahead of the text", [] { StmtTable[3].StartRule = StmtTable[3].StartStmt; }},
@@ -296,9 +283,9 @@ TEST_F(ProofFileTest, SavingKeepsLinksAndPermissions) {
 }
 
 TEST(Encoding, ReadsOneByteTextWhereUtf8Fails) {
-    EXPECT_EQ(ToUtf8("a\xC3\xA4"), "aä");
-    EXPECT_EQ(ToUtf8("\xE4"), "ä");
-    EXPECT_EQ(ToUtf8("\x80\x99"), "€™");
+    EXPECT_EQ(ToUtf8("aä"), "aä");
+    EXPECT_EQ(ToUtf8("\xE4\x80\x99"), "䀙") << "which is UTF-8";
+    EXPECT_EQ(ToUtf8("\xE4\x80"), "ä€");
     for (const char* bad : {"\xC0\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xE2\x82", "\x80"}) {
         EXPECT_FALSE(IsUtf8(bad));
         EXPECT_TRUE(IsUtf8(ToUtf8(bad)));

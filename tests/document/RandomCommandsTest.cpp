@@ -1,7 +1,6 @@
 // Long random walks through the commands: whatever the user does, records, text and display agree.
 #include <gtest/gtest.h>
 
-#include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Invariants.h"
 #include "document/ProofFile.h"
@@ -14,6 +13,7 @@
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "mainwindow/TestParser.h"
+#include "output/WrittenProof.h"
 #include "platform/Events.h"
 #include "view/Comment.h"
 #include "view/Delete.h"
@@ -30,6 +30,23 @@ namespace {
 class Walk {
   public:
     explicit Walk(unsigned seed) : seed_(seed) {
+        // Each as often as users choose it, more or less.
+        const std::pair<std::size_t, std::vector<MenuItem*>> frequencies[] = {
+            {14, {&Proof.optPremise, &Proof.optJoin}},
+            {12, {&Proof.optConclusion}},
+            {8, {&Proof.optSplit, &Proof.optDetachment}},
+            {7, {&Proof.optSpec, &Proof.optCopyStatement, &Proof.optUndo}},
+            {5, {&Proof.optInsert, &Proof.optRedo}},
+            {3, {&Proof.optAxiom, &Proof.DeleteAllRef}},
+            {2, {&Proof.optHideDetails, &Proof.optShowDetails, &Proof.optShowLastDetails}},
+            {2, {&Proof.optShowAllStmts, &Proof.optToggleHighlight}},
+            {2, {&Proof.optFind, &Proof.optRepeatFind}},
+            {1, {&Proof.DelAllSubsequent, &Proof.optShowHighlights}},
+            {1, {&Proof.optIntro, &Proof.optCaption}},
+        };
+        for (const auto& [times, items] : frequencies) {
+            for (MenuItem* item : items) commands_.insert(commands_.end(), times, item);
+        }
         StartHeadless();
         Headless.NextStep = [this] {
             AnswerForm();
@@ -39,39 +56,7 @@ class Walk {
 
     void Step() {
         if (ProofText.size() > 12000) StartHeadlessAgain();
-        const std::pair<int, MenuItem*> commands[] = {{14, &Proof.optPremise},
-                                                      {3, &Proof.optAxiom},
-                                                      {15, &Proof.optJoin},
-                                                      {8, &Proof.optSplit},
-                                                      {8, &Proof.optDetachment},
-                                                      {12, &Proof.optConclusion},
-                                                      {7, &Proof.optSpec},
-                                                      {7, &Proof.optCopyStatement},
-                                                      {5, &Proof.optInsert},
-                                                      {7, &Proof.optUndo},
-                                                      {5, &Proof.optRedo},
-                                                      {3, &Proof.DeleteAllRef},
-                                                      {1, &Proof.DelAllSubsequent},
-                                                      {2, &Proof.optHideDetails},
-                                                      {2, &Proof.optShowDetails},
-                                                      {2, &Proof.optShowLastDetails},
-                                                      {2, &Proof.optShowAllStmts},
-                                                      {1, &Proof.optShowHighlights},
-                                                      {2, &Proof.optToggleHighlight},
-                                                      {1, &Proof.optIntro},
-                                                      {1, &Proof.optCaption},
-                                                      {2, &Proof.optFind},
-                                                      {2, &Proof.optRepeatFind}};
-        std::size_t sum = 0;
-        for (const auto& command : commands) sum += static_cast<std::size_t>(command.first);
-        std::size_t choice = Random(sum);
-        for (const auto& [weight, item] : commands) {
-            if (choice < static_cast<std::size_t>(weight)) {
-                SendChoose(*item);
-                break;
-            }
-            choice -= static_cast<std::size_t>(weight);
-        }
+        SendChoose(*commands_[Random(commands_.size())]);
         if (Find.Visible) UseFind();
         for (std::size_t clicks = Random(3); clicks > 0; --clicks) ClickSomewhere();
     }
@@ -150,6 +135,7 @@ class Walk {
     }
 
     unsigned seed_;
+    std::vector<MenuItem*> commands_;
 };
 
 std::string DisplayFromRecords() {
@@ -254,21 +240,8 @@ TEST(RandomCommands, KeepTheDocumentInStep) {
 }
 
 TEST(Limits, TheLastStatementIsRefusedBeforeAnythingIsWritten) {
-    ASSERT_EQ(Build(EnterPremise("P & Q & R")), "");
-    const Statement first = StmtTable[1];
-    while (StmtCount < MaxStatements - 2) {
-        Statement next = first;
-        const std::string number = std::to_string(++StmtCount);
-        const int start = static_cast<int>(ProofText.size());
-        const int more = static_cast<int>(number.size()) - 1;
-        ShiftIndexes(next, start);
-        next.StartStmt += more;
-        next.EndStmt += more;
-        next.StartRule += more;
-        next.EndRule += more;
-        StmtTable.push_back(next);
-        ProofText += number + "\tP & Q & R\r\n\tPremise\r\n\r\n";
-    }
+    StartProof();
+    while (StmtCount < MaxStatements - 2) AddLine("P & Q & R", Rule::Premise);
     RelayoutViewer();
     ProofChanged = false;
     RuleMode = 15;

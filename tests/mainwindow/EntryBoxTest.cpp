@@ -34,10 +34,7 @@ std::string Content() {
 }
 
 TEST(EntryBox, MarksTheFaultUntilTheNextTry) {
-    const struct {
-        const char* entry;
-        const char* marked;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"x @ s & ALL", "x @ s & {ALL}"},
         {"\r\n\r\nP <=> x", "\r\n\r\nP {<=>} x"},
         {"P & Q)", "P & Q{)}"},

@@ -8,8 +8,8 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
-#include "cli/ScriptRunner.h"
 #include "mainwindow/Proof.h"
 #include "output/Tips.h"
 #include "platform/Files.h"
@@ -24,6 +24,13 @@ using namespace std::string_literals;
 const std::string Magic = "Tessaryn 1";
 const std::string NoTip = "\xFF\xFF"s;
 
+const std::pair<const char*, std::string> Delivered[] = {
+    {"DefaultDir.bin", Magic + "\0\0\0\0"s},
+    {"RecentFiles.bin", Magic + "\0\0"s},
+    {"UserFontSize.bin", Magic + "\x0C\0"s},
+    {"UserOption.bin", "\0\0"s},
+};
+
 std::string Counted(const std::string& text) {
     return std::string{static_cast<char>(text.size()), '\0'} + text;
 }
@@ -34,9 +41,7 @@ class Settings : public testing::Test {
         : directory_(testing::TempDir() + "tessaryn settings ü " + std::to_string(::getpid())) {
         fs::remove_all(directory_);
         fs::create_directories(directory_);
-        Put("DefaultDir.bin", Magic + "\0\0\0\0"s);
-        Put("RecentFiles.bin", Magic + "\0\0"s);
-        Put("UserFontSize.bin", Magic + "\x0C\0"s);
+        for (const auto& [file, bytes] : Delivered) Put(file, bytes);
         Put("UserOption.bin", NoTip);
     }
     ~Settings() override { fs::remove_all(directory_); }
@@ -46,13 +51,11 @@ class Settings : public testing::Test {
         ReplaceFile(In(file), bytes);
     }
     std::string Get(const std::string& file) const { return ReadWholeFile(In(file)).value_or("-"); }
-    // Replaces a file by a directory, which can be neither read nor written.
-    void Block(const std::string& file) const {
-        fs::remove_all(In(file));
-        fs::create_directory(In(file));
-    }
-    // "" or what went wrong.
-    std::string Run(const std::string& script) const {
+    // Runs a script that calls the directory DIR. "" or what went wrong.
+    std::string Run(std::string script) const {
+        for (auto at = script.find("DIR"); at != script.npos; at = script.find("DIR", at)) {
+            script.replace(at, 3, directory_);
+        }
         ScriptOptions options;
         options.settingsDir = directory_;
         options.checkDocument = true;
@@ -64,21 +67,17 @@ class Settings : public testing::Test {
 
 TEST_F(Settings, ChangesAreWrittenAtOnceAndComeBack) {
     EXPECT_EQ(Run("expect form StartUp\nkey Esc\nexpect no form\n"
-                  "choose optLargeText\nchoose optShowTip\n"
-                  "choose optSelectDir\nexpect control CurrentDefault \"\"\n"
+                  "choose optLargeText\nchoose optShowTip\nchoose optSelectDir\n"
+                  "expect control CurrentDefault \"\"\n"
                   "set DirectoryList \"/\"\nexpect control CurrentDefault \"/\"\n"
-                  "set DirectoryList \"" +
-                  directory_ + "\"\nchoose cmdContinue\nexpect no form\n"),
+                  "set DirectoryList \"DIR\"\nchoose cmdContinue\nexpect no form\n"),
               "");
     EXPECT_EQ(Get("UserFontSize.bin"), Magic + "\x0E\0"s);
     EXPECT_EQ(Get("UserOption.bin"), "\0\0"s);
     EXPECT_EQ(Get("DefaultDir.bin"), Magic + "\0\0"s + Counted(directory_));
 
     EXPECT_EQ(Run("key Esc\nexpect form Tips\nexpect control Check1 \"true\"\nchoose Check1\n"
-                  "choose cmdClose\nchoose optSelectDir\n"
-                  "expect control CurrentDefault \"" +
-                  directory_ +
-                  "\"\n"
+                  "choose cmdClose\nchoose optSelectDir\nexpect control CurrentDefault \"DIR\"\n"
                   "set DirectoryList \"/\"\nchoose cmdContinue\nchoose optOpen\n"),
               "");
     EXPECT_EQ(StmtFontSize, 14);
@@ -97,38 +96,29 @@ TEST_F(Settings, ChangesAreWrittenAtOnceAndComeBack) {
 
 TEST_F(Settings, RecentFilesMoveUpAndTheOldestDrops) {
     std::string script;
-    for (const char* name : {"a", "b", "c", "d", "e", "f"}) {
-        script += "save \"" + In(name) + ".proof\"\n";
-    }
+    for (const char name : "abcdef"s) script += "save \"DIR/"s + name + ".proof\"\n";
     EXPECT_EQ(Run(script), "");
-    const auto entry = [&](const char* name) { return Counted(In(name) + ".proof"); };
-    EXPECT_EQ(Get("RecentFiles.bin"),
-              Magic + "\x05\0"s + entry("f") + entry("e") + entry("d") + entry("c") + entry("b"));
+    const auto recent = [&](const char* names) {
+        std::string file = Magic + "\x05\0"s;
+        for (; *names != 0; ++names) file += Counted(In(*names + ".proof"s));
+        return file;
+    };
+    EXPECT_EQ(Get("RecentFiles.bin"), recent("fedcb"));
     // The fourth comes to the head; what is there already stays.
-    EXPECT_EQ(Run("key Esc\nexpect control optFile4 \"" + In("c.proof") +
-                  "\"\nchoose optFile4\n"
-                  "expect title \" Tessaryn 2.0  -  " +
-                  In("c.proof") +
-                  "\"\n"
-                  "expect control optFile1 \"" +
-                  In("c.proof") + "\"\nchoose optSave\n"),
+    EXPECT_EQ(Run("key Esc\nexpect control optFile4 \"DIR/c.proof\"\nchoose optFile4\n"
+                  "expect title \" Tessaryn 2.0  -  DIR/c.proof\"\n"
+                  "expect control optFile1 \"DIR/c.proof\"\nchoose optSave\n"),
               "");
-    EXPECT_EQ(Get("RecentFiles.bin"),
-              Magic + "\x05\0"s + entry("c") + entry("f") + entry("e") + entry("d") + entry("b"));
+    EXPECT_EQ(Get("RecentFiles.bin"), recent("cfedb"));
     // With unsaved changes the question comes between; a file that is gone is refused.
     fs::remove(In("f.proof"));
-    EXPECT_EQ(Run("choose optPremise\nset RTB \"P\"\nchoose cmdContinue\nchoose optFile3\n"
-                  "expect form SaveChanges\nchoose cmdNo\nexpect count 0\n"
-                  "expect title \" Tessaryn 2.0  -  " +
-                  In("e.proof") +
-                  "\"\n"
+    EXPECT_EQ(Run(EnterPremise("P") +
+                  "choose optFile3\nexpect form SaveChanges\nchoose cmdNo\nexpect count 0\n"
+                  "expect title \" Tessaryn 2.0  -  DIR/e.proof\"\n"
                   "choose optFile3\nexpect beep\n"
                   "expect status \"Open: Unable to open proof file\"\n"
-                  "file \"" +
-                  In("d.proof") +
-                  "\"\nchoose optOpen\n"
-                  "expect title \" Tessaryn 2.0  -  " +
-                  In("d.proof") + "\"\n"),
+                  "file \"DIR/d.proof\"\nchoose optOpen\n"
+                  "expect title \" Tessaryn 2.0  -  DIR/d.proof\"\n"),
               "");
 }
 
@@ -159,8 +149,7 @@ TEST_F(Settings, MissingAndDamagedFilesAreReportedAndDoNoHarm) {
                   "expect status \"WARNING: Unable to get Recent Files or Default Directory\"\n"
                   "expect form StartUp\nkey Enter\nexpect no form\n"
                   "expect title \" Tessaryn 2.0  -  (Untitled)\"\n"
-                  "choose optSmallText\nsave \"" +
-                  In("new.proof") + "\"\nexpect no form\n"),
+                  "choose optSmallText\nsave \"DIR/new.proof\"\nexpect no form\n"),
               "");
     EXPECT_NE(Headless.Beeps[0].find("medium size"), std::string::npos);
     EXPECT_EQ(Get("UserFontSize.bin"), Magic + "\x0A\0"s);
@@ -168,24 +157,21 @@ TEST_F(Settings, MissingAndDamagedFilesAreReportedAndDoNoHarm) {
     // A script that has nothing to say to the forms of the start does not meet them.
     fs::remove(In("UserOption.bin"));
     fs::remove(In("UserFontSize.bin"));
-    EXPECT_EQ(Run("choose optPremise\nset RTB \"P\"\nchoose cmdContinue\nexpect count 1\n"), "");
+    EXPECT_EQ(Run(EnterPremise("P") + "expect count 1\n"), "");
 }
 
 TEST_F(Settings, FilesThatCannotBeWrittenAreReported) {
-    for (const char* file :
-         {"DefaultDir.bin", "RecentFiles.bin", "UserFontSize.bin", "UserOption.bin"}) {
-        Block(file);
+    for (const auto& row : Delivered) {  // a directory can be neither read nor written
+        fs::remove(In(row.first));
+        fs::create_directory(In(row.first));
     }
     EXPECT_EQ(Run("choose optLargeText\nexpect message \"Unable to save user font file\"\n"
                   "choose optShowTip\nexpect beep\nexpect status \"Unable to process request\"\n"
                   "choose optSelectDir\nchoose cmdContinue\nexpect beep\nexpect form SelectDir\n"
                   "key Esc\nexpect no form\n"
-                  "save \"" +
-                  In("x.proof") +
-                  "\"\n"
+                  "save \"DIR/x.proof\"\n"
                   "expect message \"Unable to save recent file name\"\n"
-                  "expect title \" Tessaryn 2.0  -  " +
-                  In("x.proof") + "\"\n"),
+                  "expect title \" Tessaryn 2.0  -  DIR/x.proof\"\n"),
               "");
     EXPECT_EQ(DefaultDir, "");
     EXPECT_EQ(StmtFontSize, 14);
@@ -198,19 +184,15 @@ TEST_F(Settings, DirectoryIsTheProgramsOwnOrTheUsers) {
     setenv("XDG_CONFIG_HOME", config.c_str(), 1);
     const std::string own = config + "/tessaryn";
     EXPECT_EQ(FindAppPath(directory_), own);
-    EXPECT_EQ(ReadWholeFile(own + "/DefaultDir.bin"), Magic + "\0\0\0\0"s);
-    EXPECT_EQ(ReadWholeFile(own + "/RecentFiles.bin"), Magic + "\0\0"s);
-    EXPECT_EQ(ReadWholeFile(own + "/UserFontSize.bin"), Magic + "\x0C\0"s);
-    EXPECT_EQ(ReadWholeFile(own + "/UserOption.bin"), "\0\0"s);
+    for (const auto& [file, bytes] : Delivered) EXPECT_EQ(ReadWholeFile(own + "/" + file), bytes);
     fs::remove(own + "/UserOption.bin");  // what is gone later is reported, not made again
     EXPECT_EQ(FindAppPath(""), own);
     EXPECT_FALSE(fs::exists(own + "/UserOption.bin"));
     unsetenv("XDG_CONFIG_HOME");
 }
 
-TEST(Tips, TableStartsAtOneAndHasFourteen) {
+TEST(Tips, TableIsReadFromItsStartToItsEnd) {
     EXPECT_TRUE(TipFor(0).starts_with("A typical proof cycle"));
-    EXPECT_TRUE(TipFor(0.5).starts_with("If there are a fixed number"));
     EXPECT_TRUE(TipFor(0.99999).starts_with("To prove an implication"));
 }
 

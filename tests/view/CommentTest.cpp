@@ -1,8 +1,6 @@
 // Comments that are long or hold what the program itself writes into its text.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "Workbench.h"
 #include "document/Invariants.h"
 #include "document/ProofFile.h"
@@ -57,9 +55,7 @@ TEST(Comments, SurviveEditingSavingReopeningAndUndo) {
 
 // The editing box hands on what it was given, whatever is in it. TABs pass for indentation.
 TEST(Comments, PassTheBoxUnchanged) {
-    struct {
-        std::string given, back;
-    } const rows[] = {
+    const std::pair<std::string, std::string> rows[] = {
         {Long(), Long()},
         {"a\tb \\'e4 {x}\r\n\r\n\tc @ d", "ab \\'e4 {x}\r\n\r\nc @ d"},
     };

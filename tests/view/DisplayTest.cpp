@@ -4,11 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "Workbench.h"
-#include "cli/HeadlessPlatform.h"
-#include "document/Statement.h"
-#include "mainwindow/ExpressionEditor.h"
 #include "mainwindow/Proof.h"
-#include "mainwindow/TestParser.h"
+#include "output/WrittenProof.h"
 
 namespace tessaryn {
 namespace {
@@ -52,28 +49,23 @@ TEST(Display, StatementFields) {
 }
 
 TEST(Display, ClosedBlockAndTriangle) {
-    ASSERT_EQ(Build(EnterPremise("P & Q") + "choose optSplit\nclick 1\nchoose optConclusion\n"),
-              "");
+    const std::string block =
+        EnterPremise("P & Q") + "choose optSplit\nclick 1\nchoose optConclusion\n";
+    ASSERT_EQ(Build(block), "");
     const std::string open = Look();
     EXPECT_NE(open.find("1|C12 808080 b\n"), std::string::npos) << "grey inside the block";
     EXPECT_NE(open.find("\n4|W10 000000\n |C12 000000\nConclusion, 1|C10 808080\n"),
               std::string::npos)
         << open;
-    for (int line = 1; line <= 3; ++line) StmtTable[static_cast<std::size_t>(line)].Visible = false;
-    RelayoutViewer();
-    ResetFonts();
+    ASSERT_EQ(Build(block + "click 4 rule\n"), "");
     EXPECT_NE(Look().find("\n5|W10 000000\n |C12 000000\nConclusion, 1|C10 808080\n"),
               std::string::npos);
     EXPECT_NE(ProofText.find("\t4 Conclusion, 1"), std::string::npos) << "the text keeps its 4";
 }
 
 TEST(Display, CommentsAndIntroductionAreBlueWithElementSigns) {
-    ASSERT_EQ(Build(EnterPremise("P")), "");
-    ProofText = "In @ s\r\n\r\n@ é\r\n\r\n" + ProofText;
-    IntroEnd = 6;
-    ShiftIndexes(StmtTable[1], 18);
-    StmtTable[1].StartLine = 11;
-    StmtTable[1].EndUserComment = 14;
+    StartProof("", "In @ s");
+    AddLine("P", Rule::Premise, "@ é");
     RelayoutViewer();
     ResetFonts();
     EXPECT_EQ(Look().substr(0, 86),
@@ -123,26 +115,6 @@ TEST(SurfaceText, ElementSignsGoToAndFro) {
     ReformatWA(Black);
     EXPECT_EQ(surface.GetText(), "the e ee");
     EXPECT_EQ(ConvertEpsilon(surface), "the @ e@");
-}
-
-TEST(SurfaceText, CopyAndPasteKeepElementSigns) {
-    StartHeadless();
-    TestParser.Editor.Start();
-    RichTextBox& box = TestParser.RTB;
-    for (const bool rich : {true, false}) {
-        Proof.optRichTextMode.Checked = rich;
-        box.SetText("x@s & e");
-        ConvertAmpersand(box, 1, box.TextLength());
-        box.SelStart = 0;
-        box.SelLength = 3;
-        Copy(box);
-        EXPECT_EQ(Headless.ClipText, "x@s");
-        EXPECT_EQ(Headless.ClipRtf.empty(), !rich);
-        box.SelStart = box.TextLength();
-        Paste(box);
-        EXPECT_EQ(ConvertEpsilon(box), "x@s & ex@s");
-        EXPECT_EQ(box.GetSelStart(), 10);
-    }
 }
 
 }  // namespace
