@@ -4,24 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "cli/Script.h"
 #include "cli/ScriptRunner.h"
 
 namespace tessaryn {
-
-inline std::string Quoted(const std::string& text) {
-    std::string quoted = "\"";
-    for (const char c : text) {
-        if (c == '\r') {
-            quoted += "\\r";
-        } else if (c == '\n') {
-            quoted += "\\n";
-        } else {
-            if (c == '"' || c == '\\') quoted += '\\';
-            quoted += c;
-        }
-    }
-    return quoted + "\"";
-}
 
 inline std::string EnterPremise(const std::string& text) {
     return "choose optPremise\nset RTB " + Quoted(text) + "\nchoose cmdContinue\n";
