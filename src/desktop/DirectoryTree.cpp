@@ -14,8 +14,8 @@ DirectoryTree::DirectoryTree(DirectoryBox& box, QWidget* parent) : QTreeView(par
     setModel(&model_);
     for (int column = 1; column < model_.columnCount(); ++column) hideColumn(column);
     header()->hide();
-    // The tree fills in and sorts itself by and by, in no order that could be told beforehand. Until
-    // the user takes over, the directory stays in sight.
+    // The tree fills in and sorts itself by and by, in no order that could be told beforehand.
+    // Until the user takes over, the directory stays in sight.
     const auto follow = [this] {
         if (following_) scrollTo(currentIndex(), PositionAtCenter);
     };

@@ -26,8 +26,8 @@ std::string WriteProof();
 
 // Reads the bytes of a proof file. Nothing if it is damaged: bytes missing, an index outside the
 // text or out of order, text that belongs to no block, a reference that cannot be, a rule without a
-// name. Bytes behind the text are not read. Strings that are no UTF-8 are converted from Windows-1252, and the indexes with
-// them.
+// name. Bytes behind the text are not read. Strings that are no UTF-8 are converted from
+// Windows-1252, and the indexes with them.
 std::optional<StoredProof> ReadProof(std::string_view bytes);
 
 // Writes the document to ProofFileName, with the hourglass up. On failure the old file is whole,
