@@ -32,6 +32,12 @@ void ClickStatement(int line, int length) {
     Click(line, At(line).StartStmt, length);
 }
 
+void KeptProof::PutBack() const {
+    StmtTable = statements_;
+    ProofText = text_;
+    StmtCount = count_;
+}
+
 void LookAtScreen() {
     benchmark::DoNotOptimize(Proof.RTB.TakeChange());
     const int caret = Proof.RTB.SelStart;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "document/Statement.h"
 
@@ -18,6 +19,20 @@ void Click(int line, int index, int length = 0);
 
 // A click on the first character of a shown statement.
 void ClickStatement(int line, int length = 0);
+
+// The proof as it stood when this was made, to be put back after each round.
+class KeptProof {
+  public:
+    KeptProof() : statements_(StmtTable), text_(ProofText), count_(StmtCount) {}
+
+    void PutBack() const;
+    int Count() const { return count_; }
+
+  private:
+    std::vector<Statement> statements_;
+    std::string text_;
+    int count_;
+};
 
 // What the desktop takes after each command: the changed range, and the formats of a screenful.
 void LookAtScreen();

@@ -26,17 +26,13 @@ namespace {
 // many statements it writes.
 template <class Command>
 void Measure(benchmark::State& state, int lines, Command command) {
-    const int count = StmtCount;
-    const auto table = StmtTable;
-    const auto text = ProofText;
+    const KeptProof proof;
     for (auto _ : state) {
         command();
         LookAtScreen();
         state.PauseTiming();
-        if (StmtCount != count + lines) state.SkipWithError("the command was refused");
-        StmtTable = table;
-        ProofText = text;
-        StmtCount = count;
+        if (StmtCount != proof.Count() + lines) state.SkipWithError("the command was refused");
+        proof.PutBack();
         if (InsertMode) InsertLine = 1;
         state.ResumeTiming();
     }

@@ -25,15 +25,12 @@ template <class Command>
 void Measure(benchmark::State& state, Command command) {
     const int count = static_cast<int>(state.range(0));
     MakeLargeProof(count);
-    const auto table = StmtTable;
-    const auto text = ProofText;
+    const KeptProof proof;
     for (auto _ : state) {
         command(count);
         LookAtScreen();
         state.PauseTiming();
-        StmtTable = table;
-        ProofText = text;
-        StmtCount = count;
+        proof.PutBack();
         Headless.Beeps.clear();
         state.ResumeTiming();
     }

@@ -36,16 +36,13 @@ void Start(int count) {
 template <class Rule>
 void Measure(benchmark::State& state, Rule rule) {
     Start(static_cast<int>(state.range(0)));
-    const auto table = StmtTable;
-    const std::string text = ProofText;
+    const KeptProof proof;
     for (auto _ : state) {
         rule();
         benchmark::DoNotOptimize(Proof.RTB.TakeChange());
-        if (StmtCount != 3) state.SkipWithError("no statement was written");
+        if (StmtCount != proof.Count() + 1) state.SkipWithError("no statement was written");
         state.PauseTiming();
-        StmtTable = table;
-        ProofText = text;
-        StmtCount = 2;
+        proof.PutBack();
         state.ResumeTiming();
     }
     state.SetComplexityN(state.range(0));

@@ -36,17 +36,13 @@ void ClickMiddle(int line, const std::string& sign) {
 // Runs a rule again and again on the same proof.
 template <class Rule>
 void Measure(benchmark::State& state, Rule rule) {
-    const auto table = StmtTable;
-    const std::string text = ProofText;
-    const int count = StmtCount;
+    const KeptProof proof;
     for (auto _ : state) {
         rule();
         benchmark::DoNotOptimize(Proof.RTB.TakeChange());
-        if (StmtCount != count + 1) state.SkipWithError("no statement was written");
+        if (StmtCount != proof.Count() + 1) state.SkipWithError("no statement was written");
         state.PauseTiming();
-        StmtTable = table;
-        ProofText = text;
-        StmtCount = count;
+        proof.PutBack();
         state.ResumeTiming();
     }
     state.SetComplexityN(state.range(0));

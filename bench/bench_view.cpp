@@ -32,15 +32,12 @@ void Measure(benchmark::State& state, Prepare prepare, Command command) {
     MakeLargeProof(count);
     SayContinue();
     prepare(count);
-    const auto table = StmtTable;
-    const auto text = ProofText;
+    const KeptProof proof;
     for (auto _ : state) {
         command(count);
         LookAtScreen();
         state.PauseTiming();
-        StmtTable = table;
-        StmtCount = count;
-        ProofText = text;
+        proof.PutBack();
         Headless.Beeps.clear();
         ResetFonts();
         LookAtScreen();

@@ -49,6 +49,21 @@ QBoxLayout* Answers(const FormWindow& window, std::initializer_list<const char*>
     return row;
 }
 
+// The tool buttons of the editing commands.
+void AddEditButtons(QBoxLayout& row, const FormWindow& window, const char* nameOfUndo = "cmdUndo") {
+    for (const char* name :
+         {nameOfUndo, "cmdRedo", "cmdCut", "cmdCopy", "cmdPaste", "cmdDelete", "cmdClear"}) {
+        Add(row, window.WidgetNamed(name));
+    }
+}
+
+// The box of a dialogue, and below it what is wrong with its content.
+void AddBox(QBoxLayout& rows, const FormWindow& window, const char* box) {
+    Add(rows, window.WidgetNamed(box), 1);
+    ReserveLines(window.WidgetNamed("StatusLine"), 2);
+    Add(rows, window.WidgetNamed("StatusLine"));
+}
+
 int Columns(const QWidget& widget, int count) {
     return widget.fontMetrics().averageCharWidth() * count;
 }
@@ -89,13 +104,12 @@ void LayOutProof(FormWindow& window, QWidget& inside) {
 
 void LayOutTestParser(FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    QBoxLayout* tools = Row(window, {"CmdUndo", "cmdRedo", "cmdCut", "cmdCopy", "cmdPaste",
-                                     "cmdDelete", "cmdClear", "cmdParse"});
+    auto* tools = new QHBoxLayout;
+    AddEditButtons(*tools, window, "CmdUndo");
+    Add(*tools, window.WidgetNamed("cmdParse"));
     tools->addStretch();
     rows->addLayout(tools);
-    Add(*rows, window.WidgetNamed("RTB"), 1);
-    ReserveLines(window.WidgetNamed("StatusLine"), 2);
-    Add(*rows, window.WidgetNamed("StatusLine"));
+    AddBox(*rows, window, "RTB");
     rows->addLayout(Answers(window, {"cmdContinue", "cmdCancel"}));
     inside.resize(Columns(inside, 100), inside.fontMetrics().lineSpacing() * 20);
 }
@@ -106,13 +120,11 @@ void LayOutSubsetFrm(FormWindow& window, QWidget& inside) {
         Add(*rows, window.WidgetNamed(name));
     }
     Add(*rows, window.WidgetNamed("SelectExpressionLabel"));
-    QBoxLayout* tools = Row(
-        window, {"cmdUndo", "cmdRedo", "cmdCut", "cmdCopy", "cmdPaste", "cmdDelete", "cmdClear"});
+    auto* tools = new QHBoxLayout;
+    AddEditButtons(*tools, window);
     tools->addStretch();
     rows->addLayout(tools);
-    Add(*rows, window.WidgetNamed("SelectExpression"), 1);
-    ReserveLines(window.WidgetNamed("StatusLine"), 2);
-    Add(*rows, window.WidgetNamed("StatusLine"));
+    AddBox(*rows, window, "SelectExpression");
     rows->addLayout(Answers(window, {"cmdContinue", "cmdCancel"}));
     inside.resize(Columns(inside, 100), inside.fontMetrics().lineSpacing() * 26);
 }
@@ -122,9 +134,7 @@ void LayOutInductionForm(FormWindow& window, QWidget& inside) {
     for (const char* name : {"BoundVarLabel", "BoundVarTextBox", "PropertyLabel"}) {
         Add(*rows, window.WidgetNamed(name));
     }
-    Add(*rows, window.WidgetNamed("RTB"), 1);
-    ReserveLines(window.WidgetNamed("StatusLine"), 2);
-    Add(*rows, window.WidgetNamed("StatusLine"));
+    AddBox(*rows, window, "RTB");
     rows->addLayout(Answers(window, {"cmdContinue", "cmdReset", "cmdCancel"}));
     inside.resize(Columns(inside, 100), inside.fontMetrics().lineSpacing() * 22);
 }
@@ -170,9 +180,7 @@ void LayOutOccurrences(FormWindow& window, QWidget& inside) {
         rows->addLayout(row);
     }
     Add(*rows, window.WidgetNamed("StatementTextLabel"));
-    Add(*rows, window.WidgetNamed("RTB"), 1);
-    ReserveLines(window.WidgetNamed("StatusLine"), 2);
-    Add(*rows, window.WidgetNamed("StatusLine"));
+    AddBox(*rows, window, "RTB");
     QBoxLayout* buttons = Row(window, {"cmdSelectAll", "cmdReset", "cmdContinue", "cmdCancel"});
     buttons->insertStretch(2);
     rows->addLayout(buttons);
@@ -233,10 +241,7 @@ void LayOutComment(FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
     QBoxLayout* tools = Row(window, {"cmdProve", "cmdDefine", "cmdSufficient", "cmdAsRequired"});
     tools->addStretch();
-    for (const char* name :
-         {"cmdUndo", "cmdRedo", "cmdCut", "cmdCopy", "cmdPaste", "cmdDelete", "cmdClear"}) {
-        Add(*tools, window.WidgetNamed(name));
-    }
+    AddEditButtons(*tools, window);
     for (int place = 0; place < tools->count(); ++place) {
         if (QWidget* button = tools->itemAt(place)->widget()) {
             button->setMinimumWidth(Columns(*button, 8));

@@ -26,14 +26,11 @@ StatusView::StatusView(RichTextBox& box, QWidget* parent) : QLabel(parent), box_
     setWordWrap(true);
     setTextInteractionFlags(Qt::NoTextInteraction);
     Sync();
-    setMinimumHeight(fontMetrics().lineSpacing() + 8);
 }
 
 void StatusView::Sync() {
-    if (const QFont wanted = TellingFont(); font() != wanted) {
-        setFont(wanted);
-        setMinimumHeight(fontMetrics().lineSpacing() + 8);
-    }
+    setFont(TellingFont());
+    setMinimumHeight(fontMetrics().lineSpacing() + 8);
     const bool centred = box_.GetSelAlignment() == Alignment::Center;
     setAlignment(Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft));
     const QString shown = ToQt(box_.GetText()).trimmed();
