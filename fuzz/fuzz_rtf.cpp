@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/Rtf.h"
+#include "text/Utf8.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const tessaryn::RichText content = tessaryn::ReadRtf(std::string(data, data + size));
@@ -13,6 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         covered += run.length;
     }
     if (covered != static_cast<int>(content.text.size())) std::abort();
+    if (!tessaryn::IsUtf8(content.text)) std::abort();
     tessaryn::ReadRtf(tessaryn::WriteRtf(content));
     return 0;
 }

@@ -5,10 +5,10 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "document/Encoding.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
 #include "expr/Same.h"
+#include "text/Encoding.h"
 
 namespace tessaryn {
 

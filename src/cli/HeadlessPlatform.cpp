@@ -5,7 +5,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "platform/Events.h"
-#include "platform/TextSteps.h"
+#include "text/TextSteps.h"
 
 namespace tessaryn {
 

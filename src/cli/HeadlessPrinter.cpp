@@ -8,6 +8,7 @@
 #include "cli/FormState.h"
 #include "cli/HeadlessPlatform.h"
 #include "platform/Platform.h"
+#include "text/Utf8.h"
 
 namespace tessaryn {
 
@@ -41,8 +42,7 @@ int RowHeight(int size) {
 
 int WidthBehind(char character, int width, int size) {
     if (character == '\t') return (width / TabStop + 1) * TabStop;
-    const bool inside = (static_cast<unsigned char>(character) & 0xC0U) == 0x80U;
-    return inside ? width : width + CharWidth(size);
+    return width + CharWidth(size);
 }
 
 // Cuts the surface into lines and measures them.
@@ -53,7 +53,8 @@ class Measurer {
     std::vector<Line> Lines() {
         const std::string& stored = surface_.GetText();
         for (const FormatRun& run : surface_.Runs()) {
-            for (int at = run.start; at < run.start + run.length; ++at) {
+            const int end = run.start + run.length;
+            for (int at = run.start; at < end; at += SequenceLength(stored, at)) {
                 Take(stored[static_cast<std::size_t>(at)], run.format.Size, at);
             }
         }
@@ -62,6 +63,7 @@ class Measurer {
     }
 
   private:
+    // The character that begins with a byte, the one at a position of the surface.
     void Take(char character, int size, int at) {
         size_ = std::max(size_, size);
         if (character == '\n') return Finish(at + 1);

@@ -5,7 +5,7 @@
 #include "cli/FormState.h"
 #include "platform/Events.h"
 #include "platform/Platform.h"
-#include "platform/TextSteps.h"
+#include "text/TextSteps.h"
 
 namespace tessaryn {
 

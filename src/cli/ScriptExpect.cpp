@@ -6,10 +6,10 @@
 #include "cli/HeadlessPlatform.h"
 #include "cli/Script.h"
 #include "cli/ScriptTargets.h"
-#include "document/Encoding.h"
 #include "document/Statement.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "text/Encoding.h"
 
 namespace tessaryn {
 

@@ -7,8 +7,8 @@
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
 #include "cli/Script.h"
-#include "document/Encoding.h"
 #include "document/Invariants.h"
+#include "text/Encoding.h"
 
 namespace tessaryn {
 

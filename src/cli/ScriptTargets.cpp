@@ -4,7 +4,7 @@
 #include "document/Statement.h"
 #include "expr/Lex.h"
 #include "mainwindow/Proof.h"
-#include "platform/TextSteps.h"
+#include "text/TextSteps.h"
 
 namespace tessaryn {
 

@@ -6,10 +6,10 @@
 #include "cli/FormState.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
-#include "document/Encoding.h"
 #include "document/Statement.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "text/Encoding.h"
 #include "view/InsertMode.h"
 #include "view/Undo.h"
 

@@ -5,7 +5,7 @@
 
 #include "desktop/PaintedText.h"
 #include "platform/Platform.h"
-#include "platform/TextSteps.h"
+#include "text/TextSteps.h"
 
 namespace tessaryn {
 

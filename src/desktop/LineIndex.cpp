@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "text/Utf8.h"
+
 namespace tessaryn {
 
 namespace {
@@ -21,12 +23,12 @@ std::vector<int> StartsIn(std::string_view text, int first, int last) {
 
 int Columns(std::string_view line) {
     int columns = 0;
-    for (const char c : line) {
-        if (c == '\t') {
-            columns += LineIndex::TabColumns - columns % LineIndex::TabColumns;
-        } else if ((static_cast<unsigned char>(c) & 0xC0) != 0x80) {
-            ++columns;
-        }
+    for (;;) {
+        const std::size_t tab = line.find('\t');
+        columns += CharacterCount(line.substr(0, tab));
+        if (tab == line.npos) break;
+        columns += LineIndex::TabColumns - columns % LineIndex::TabColumns;
+        line.remove_prefix(tab + 1);
     }
     return columns;
 }

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/TextSteps.h"
+#include "text/Utf8.h"
 
 namespace tessaryn {
 
@@ -40,9 +40,11 @@ QChar Glyph(char stored, const std::string& font) {
     return {};
 }
 
-void AppendUnits(PaintedText& painted, const QString& units, int byte) {
-    painted.text += units;
-    painted.bytes.insert(painted.bytes.end(), static_cast<std::size_t>(units.size()), byte);
+void AppendUnits(PaintedText& painted, char32_t character, int byte) {
+    const auto units = QChar::fromUcs4(character);
+    painted.text += QStringView(units);
+    painted.bytes.insert(painted.bytes.end(), static_cast<std::size_t>(QStringView(units).size()),
+                         byte);
 }
 
 // Appends the character at a position; gives the position behind it.
@@ -50,20 +52,20 @@ int AppendCharacter(PaintedText& painted, std::string_view text, int at, const s
     const auto index = static_cast<std::size_t>(at);
     const char c = text[index];
     if (c == '\r' && index + 1 < text.size() && text[index + 1] == '\n') {
-        AppendUnits(painted, QChar(QChar::ParagraphSeparator), at);
+        AppendUnits(painted, QChar::ParagraphSeparator, at);
         return at + 2;
     }
     if (c == '\n' || c == '\r') {
-        AppendUnits(painted, QChar(QChar::ParagraphSeparator), at);
+        AppendUnits(painted, QChar::ParagraphSeparator, at);
         return at + 1;
     }
     if (const QChar glyph = Glyph(c, font); !glyph.isNull()) {
-        AppendUnits(painted, glyph, at);
+        AppendUnits(painted, glyph.unicode(), at);
         return at + 1;
     }
-    const int length = std::max(1, SequenceLength(text, at));
-    AppendUnits(painted, QString::fromUtf8(text.data() + index, length), at);
-    return at + length;
+    const Utf8Char character = DecodeAt(text, index);
+    AppendUnits(painted, character.length > 0 ? character.code : ReplacementCharacter, at);
+    return at + std::max(1, character.length);
 }
 
 }  // namespace

@@ -5,8 +5,9 @@
 #include <utility>
 
 #include "document/Bytes.h"
-#include "document/Encoding.h"
 #include "mainwindow/RuleModes.h"
+#include "text/Encoding.h"
+#include "text/Utf8.h"
 
 namespace tessaryn {
 namespace {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "expr/Kind.h"
+#include "text/Utf8.h"
 
 namespace tessaryn {
 
@@ -49,24 +50,6 @@ size_t CompoundLength(std::string_view rest) {
     for (const std::string_view sign : {"=>", "<=", ">=", "&&", "||"})
         if (rest.starts_with(sign)) return 2;
     return 1;
-}
-
-// Bytes of the UTF-8 character at the head of rest; 1 for a byte that begins none.
-size_t CharacterLength(std::string_view rest) {
-    const auto byteAt = [rest](size_t i) -> unsigned {
-        return i < rest.size() ? static_cast<unsigned char>(rest[i]) : 0U;
-    };
-    const unsigned lead = byteAt(0);
-    const size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
-    if (length == 1) return 1;
-    unsigned code = lead & (0x7FU >> length);
-    for (size_t i = 1; i < length; i++) {
-        if ((byteAt(i) & 0xC0U) != 0x80U) return 1;
-        code = code << 6U | (byteAt(i) & 0x3FU);
-    }
-    const unsigned least = length == 4 ? 0x10000 : length == 3 ? 0x800 : 0x80;
-    const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
-    return lead > 0xF4 || code < least || code > 0x10FFFF || surrogate ? 1 : length;
 }
 
 // Appends the tokens of source; returns the 0-based place of an illegal character, npos if none.
@@ -126,8 +109,8 @@ void Lex(const std::string& source, TokenList& tokens, std::string& error, int& 
     }
     const size_t illegal = ReadTokens(source, tokens);
     if (illegal != source.npos) {
-        const size_t length = CharacterLength(std::string_view(source).substr(illegal));
-        error = "18. Illegal character " + source.substr(illegal, length);
+        const int length = SequenceLength(source, static_cast<int>(illegal));
+        error = "18. Illegal character " + source.substr(illegal, static_cast<size_t>(length));
         errorPos = static_cast<int>(illegal) + 1;
         return;
     }

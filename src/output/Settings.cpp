@@ -8,12 +8,12 @@
 #include <vector>
 
 #include "document/Bytes.h"
-#include "document/Encoding.h"
 #include "document/ProofFile.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "output/SaveChanges.h"
 #include "platform/Files.h"
+#include "text/Encoding.h"
 #include "view/Display.h"
 #include "view/Warning.h"
 

@@ -1,7 +1,7 @@
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
-#include "document/Encoding.h"
 #include "document/ProofFile.h"
 #include "document/Statement.h"
 #include "mainwindow/ProgramState.h"
@@ -9,7 +9,8 @@
 #include "output/HTML.h"
 #include "output/Settings.h"
 #include "platform/Files.h"
-#include "platform/TextSteps.h"
+#include "text/Encoding.h"
+#include "text/Utf8.h"
 
 namespace tessaryn {
 namespace {
@@ -67,26 +68,18 @@ void AppendStatement(std::string& page, const Statement& stmt) {
     page += EndRun;
 }
 
-unsigned CodePoint(std::string_view sequence) {
-    constexpr unsigned leadBits[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
-    unsigned code = static_cast<unsigned char>(sequence[0]) & leadBits[sequence.size()];
-    for (const char c : sequence.substr(1))
-        code = code << 6 | (static_cast<unsigned char>(c) & 63U);
-    return code;
-}
-
 // Characters outside ASCII as numeric references, so that a browser needs to know no encoding.
 std::string InAscii(const std::string& page) {
     std::string ascii;
     ascii.reserve(page.size());
     for (std::size_t at = 0; at < page.size();) {
-        if (static_cast<unsigned char>(page[at]) < 0x80) {
-            ascii += page[at++];
-            continue;
+        const Utf8Char character = DecodeAt(page, at);
+        if (character.code < 0x80) {
+            ascii += page[at];
+        } else {
+            ascii += "&#" + std::to_string(character.code) + ";";
         }
-        const auto length = static_cast<std::size_t>(SequenceLength(page, static_cast<int>(at)));
-        ascii += "&#" + std::to_string(CodePoint(std::string_view(page).substr(at, length))) + ";";
-        at += length;
+        at += static_cast<std::size_t>(std::max(1, character.length));
     }
     return ascii;
 }

@@ -7,6 +7,7 @@
 #include "document/Statement.h"
 #include "mainwindow/ProgramState.h"
 #include "output/Printing.h"
+#include "text/Utf8.h"
 #include "view/Display.h"
 
 namespace tessaryn {
@@ -66,10 +67,6 @@ void AppendStatement(Copy& copy, int number) {
     copy.Append("\r\n\r\n", TextSize);
 }
 
-bool ContinuesCharacter(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
-
 }  // namespace
 
 void InsertBreaks(std::string& text, int width) {
@@ -90,8 +87,10 @@ void InsertBreaks(std::string& text, int width) {
             at = std::min(text.size(), at + LineEnd.size());
             column = 0;
         } else {
-            if (!ContinuesCharacter(text[at])) ++column;
-            folded += text[at++];
+            const int length = SequenceLength(text, static_cast<int>(at));
+            folded.append(text, at, static_cast<std::size_t>(length));
+            at += static_cast<std::size_t>(length);
+            ++column;
         }
     }
     folded.append(text, at);

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/Rtf.h"
-#include "platform/TextSteps.h"
+#include "text/TextSteps.h"
 
 namespace tessaryn {
 

@@ -13,7 +13,8 @@ bool IsRtf(std::string_view text);
 std::string WriteRtf(const RichText& content);
 
 // Takes RTF of any program and of any damage: what it does not know is skipped, and truncated input
-// gives what was read so far. Text that is no RTF is taken as plain text in the default format.
+// gives what was read so far. Text that is no RTF is taken as plain text in the default format. The
+// result is valid UTF-8 whatever the input.
 RichText ReadRtf(std::string_view rtf);
 
 }  // namespace tessaryn

@@ -3,14 +3,15 @@
 // back at its end. What a group holds is told by the word it opens with: its destination.
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
 #include "platform/Rtf.h"
-#include "platform/TextSteps.h"
+#include "text/Encoding.h"
+#include "text/TextSteps.h"
+#include "text/Utf8.h"
 
 namespace tessaryn {
 
@@ -22,7 +23,6 @@ constexpr std::size_t deepestGroup = 1000;
 constexpr std::size_t mostRuns = 500000;
 constexpr std::size_t mostTableEntries = 65536;
 constexpr std::size_t longestFontName = 100;
-constexpr char32_t replacementCharacter = 0xFFFD;
 
 enum class Destination { Text, Fonts, Colours, Skip };
 
@@ -51,16 +51,6 @@ struct Run {
     int length;
     RunFormat format;
 };
-
-// Windows-1252 from 0x80 to 0x9F; above and below it is Latin-1.
-constexpr std::array<char32_t, 32> windows1252{
-    0x20AC, 0x81,   0x201A, 0x192,  0x201E, 0x2026, 0x2020, 0x2021, 0x2C6,  0x2030, 0x160,
-    0x2039, 0x152,  0x8D,   0x17D,  0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x2DC,  0x2122, 0x161,  0x203A, 0x153,  0x9D,   0x17E,  0x178};
-
-char32_t FromWindows1252(unsigned char byte) {
-    return byte >= 0x80 && byte < 0xA0 ? windows1252[byte - 0x80u] : byte;
-}
 
 const std::unordered_map<std::string_view, char32_t> characterWords{
     {"tab", '\t'},      {"cell", '\t'},      {"emdash", 0x2014},    {"endash", 0x2013},
@@ -346,7 +336,7 @@ class Reader {
             highUnit = unit;
         } else if (unit >= 0xDC00 && unit < 0xE000) {
             const char32_t high = std::exchange(highUnit, 0);
-            Put(high == 0 ? replacementCharacter
+            Put(high == 0 ? ReplacementCharacter
                           : 0x10000 + ((high - 0xD800) << 10) + (unit - 0xDC00));
         } else {
             Put(Glyph(unit));
@@ -354,7 +344,7 @@ class Reader {
     }
 
     void FlushHighUnit() {
-        if (std::exchange(highUnit, 0) != 0) Put(replacementCharacter);
+        if (std::exchange(highUnit, 0) != 0) Put(ReplacementCharacter);
     }
 
     void Put(char32_t character) {
@@ -465,7 +455,7 @@ bool IsRtf(std::string_view text) {
 RichText ReadRtf(std::string_view rtf) {
     if (IsRtf(rtf)) return Reader(rtf).Read();
     RichText plain;
-    plain.text = WithCrLf(rtf);
+    plain.text = WithCrLf(ToUtf8(std::string(rtf)));
     if (!plain.text.empty()) plain.runs = {{0, static_cast<int>(plain.text.size()), {}}};
     return plain;
 }

@@ -2,7 +2,8 @@
 #include <unordered_map>
 
 #include "platform/Rtf.h"
-#include "platform/TextSteps.h"
+#include "text/TextSteps.h"
+#include "text/Utf8.h"
 
 namespace tessaryn {
 
@@ -37,11 +38,7 @@ void AppendHex(std::string& rtf, unsigned char byte) {
     rtf += digits[byte & 15];
 }
 
-void AppendUnicode(std::string& rtf, std::string_view sequence) {
-    char32_t character = static_cast<unsigned char>(sequence[0]) & (0x7Fu >> sequence.size());
-    for (const char c : sequence.substr(1)) {
-        character = (character << 6) | (static_cast<unsigned char>(c) & 0x3Fu);
-    }
+void AppendUnicode(std::string& rtf, char32_t character) {
     auto put = [&](char32_t unit) {  // a 16-bit number with sign
         const int number = static_cast<int>(unit);
         rtf += "\\u" + std::to_string(number < 0x8000 ? number : number - 0x10000) + "?";
@@ -68,11 +65,9 @@ void AppendText(std::string& rtf, std::string_view text) {
     int length = 0;
     for (int i = 0; i < static_cast<int>(text.size()); i += length) {
         length = SequenceLength(text, i);
-        const auto sequence =
-            text.substr(static_cast<std::size_t>(i), static_cast<std::size_t>(length));
-        const char c = sequence[0];
+        const char c = text[static_cast<std::size_t>(i)];
         if (length > 1) {
-            AppendUnicode(rtf, sequence);
+            AppendUnicode(rtf, DecodeAt(text, static_cast<std::size_t>(i)).code);
         } else if (c == '\r' || c == '\n') {
             length = StepEnd(text, i) - i;
             rtf += "\\par\n";

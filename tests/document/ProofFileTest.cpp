@@ -13,7 +13,6 @@
 
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
-#include "document/Encoding.h"
 #include "document/Invariants.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -280,16 +279,6 @@ TEST_F(ProofFileTest, SavingKeepsLinksAndPermissions) {
     EXPECT_EQ(*ReadWholeFile(Path("real.proof")), "new");
     EXPECT_EQ(fs::status(Path("real.proof")).permissions(),
               fs::perms::owner_read | fs::perms::owner_write);
-}
-
-TEST(Encoding, ReadsOneByteTextWhereUtf8Fails) {
-    EXPECT_EQ(ToUtf8("aä"), "aä");
-    EXPECT_EQ(ToUtf8("\xE4\x80\x99"), "䀙") << "which is UTF-8";
-    EXPECT_EQ(ToUtf8("\xE4\x80"), "ä€");
-    for (const char* bad : {"\xC0\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xE2\x82", "\x80"}) {
-        EXPECT_FALSE(IsUtf8(bad));
-        EXPECT_TRUE(IsUtf8(ToUtf8(bad)));
-    }
 }
 
 TEST(ProofNames, ExtensionIsForced) {

@@ -6,6 +6,7 @@
 
 #include "platform/Form.h"
 #include "platform/RichTextBox.h"
+#include "text/Utf8.h"
 
 namespace tessaryn {
 namespace {
@@ -70,7 +71,7 @@ TEST(Rtf, ReadsTextOfOtherPrograms) {
         {"\\'80\\'e9\\'7B\\{\\}\\\\}", "€é{{}\\"},
         {"\\emdash\\endash \\lquote\\rquote\\ldblquote\\rdblquote\\bullet\\~x}",
          "—–‘’“”•\xC2\xA0x"},
-        {" caf\xE9 é}", "café é"},
+        {" caf\xE9 é \xE0\x80\x80 \xED\xA0\x80}", "café é à€€ í\u00A0€"},
         // \u and what stands in for it
         {"\\u8704?x\\u8704\\'3fx\\uc0\\u8704x\\uc2\\u8704??x}", "∀x∀x∀x∀x"},
         {"{\\uc0\\u8704}\\u8704\\tab x\\u8704}x", "∀∀x∀"},
@@ -108,10 +109,11 @@ TEST(Rtf, TakesOtherTextAsPlain) {
     const RichText content = ReadRtf("a {\\b}\nb\r\rc\r\n");
     EXPECT_EQ(content.text, "a {\\b}\r\nb\r\n\r\nc\r\n");
     EXPECT_EQ(content.runs, (std::vector<FormatRun>{{0, 16, plainFormat}}));
+    EXPECT_EQ(ReadRtf("caf\xE9").text, "café");
     EXPECT_EQ(ReadRtf(""), RichText());
 }
 
-// Runs are in order, without gaps, as long as they can be, and cover the text.
+// Runs are in order, without gaps, as long as they can be, and cover the text, which is UTF-8.
 void ExpectSound(const RichText& content) {
     int end = 0;
     for (std::size_t i = 0; i < content.runs.size(); ++i) {
@@ -121,6 +123,7 @@ void ExpectSound(const RichText& content) {
         end += content.runs[i].length;
     }
     ASSERT_EQ(end, static_cast<int>(content.text.size()));
+    ASSERT_TRUE(IsUtf8(content.text));
 }
 
 std::string HostileSample() {
@@ -131,7 +134,7 @@ std::string HostileSample() {
 
 TEST(Rtf, SurvivesTruncationAndMutation) {
     std::mt19937 random(1);
-    const std::string parts = "{}\\;*'?0u9-\n\xFF\xE2 bin";
+    const std::string parts = "{}\\;*'?0u9-\n\xFF\xE0\x80\x80\xE2 bin";
     for (const std::string& whole : {HostileSample(), WriteRtf(Sample())}) {
         const std::string start = ReadRtf(whole).text.substr(0, 8);
         for (std::size_t length = 5; length < whole.size(); ++length) {

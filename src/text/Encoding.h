@@ -2,13 +2,13 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 namespace tessaryn {
 
-bool IsUtf8(std::string_view text);
+// The character that a byte stands for in Windows-1252.
+char32_t FromWindows1252(unsigned char byte);
 
-// Length in bytes, in UTF-8, of the character that the byte stands for in Windows-1252.
+// Length in bytes of that character in UTF-8.
 int Windows1252Length(unsigned char byte);
 
 // The text as UTF-8: as it stands if it is valid, otherwise read as Windows-1252.
