@@ -201,11 +201,6 @@ QWidget* FormWindow::WidgetOf(const Control& control) const {
     return nullptr;
 }
 
-QWidget* FormWindow::WidgetNamed(const char* name) const {
-    const Control* control = form_.Find(name);
-    return control == nullptr ? nullptr : WidgetOf(*control);
-}
-
 void FormWindow::SetTabOrder() {
     QWidget* last = nullptr;
     for (const Control* control : form_.Controls) {

@@ -50,9 +50,6 @@ class FormWindow : public QObject {
     QWidget* WidgetOf(const Control& control) const;
     QMenu* MenuOf(const MenuItem& item) const;
 
-    // For the layouts: the widget of a control by name, nullptr if the form has none.
-    QWidget* WidgetNamed(const char* name) const;
-
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

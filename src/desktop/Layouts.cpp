@@ -13,75 +13,95 @@
 #include <QRadioButton>
 #include <QToolBar>
 #include <QVBoxLayout>
-#include <functional>
 #include <initializer_list>
-#include <map>
-#include <string>
+#include <utility>
 
+#include "axioms/InductionForm.h"
+#include "axioms/SubsetFrm.h"
 #include "desktop/FormWindow.h"
 #include "desktop/Picture.h"
+#include "mainwindow/MyInputBox.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/TestParser.h"
+#include "output/AboutTessaryn.h"
+#include "output/PrintProof.h"
+#include "output/SaveChanges.h"
+#include "output/StartUp.h"
+#include "output/Tips.h"
+#include "rules/Generalize.h"
+#include "rules/Substitution.h"
+#include "view/Comment.h"
+#include "view/EditCaption.h"
+#include "view/Find.h"
+#include "view/Warning.h"
 
 namespace tessaryn {
 
 namespace {
 
+using Controls = std::initializer_list<const Control*>;
+
 // Room for so many lines, so that a message does not push the controls about.
 void ReserveLines(QWidget* label, int lines) {
-    if (label == nullptr) return;
     label->setMinimumHeight(label->fontMetrics().lineSpacing() * lines + 4);
     if (auto* text = qobject_cast<QLabel*>(label)) text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 }
 
-void Add(QBoxLayout& layout, QWidget* widget, int stretch = 0) {
-    if (widget != nullptr) layout.addWidget(widget, stretch);
+void Add(QBoxLayout& layout, const FormWindow& window, Controls controls) {
+    for (const Control* control : controls) layout.addWidget(window.WidgetOf(*control));
 }
 
-QBoxLayout* Row(const FormWindow& window, std::initializer_list<const char*> names) {
+QBoxLayout* Row(const FormWindow& window, Controls controls) {
     auto* row = new QHBoxLayout;
-    for (const char* name : names) Add(*row, window.WidgetNamed(name));
+    Add(*row, window, controls);
     return row;
 }
 
+QBoxLayout* Column(const FormWindow& window, Controls controls) {
+    auto* column = new QVBoxLayout;
+    Add(*column, window, controls);
+    column->addStretch();
+    return column;
+}
+
 // Buttons that answer a dialogue, at its right edge.
-QBoxLayout* Answers(const FormWindow& window, std::initializer_list<const char*> names) {
-    QBoxLayout* row = Row(window, names);
+QBoxLayout* Answers(const FormWindow& window, Controls buttons) {
+    QBoxLayout* row = Row(window, buttons);
     row->insertStretch(0);
     return row;
 }
 
-// The tool buttons of the editing commands.
-void AddEditButtons(QBoxLayout& row, const FormWindow& window, const char* nameOfUndo = "cmdUndo") {
-    for (const char* name :
-         {nameOfUndo, "cmdRedo", "cmdCut", "cmdCopy", "cmdPaste", "cmdDelete", "cmdClear"}) {
-        Add(row, window.WidgetNamed(name));
-    }
+void AddEditButtons(QBoxLayout& row, const FormWindow& window, const EditButtons& tools) {
+    Add(row, window,
+        {&tools.Undo, &tools.Redo, &tools.Cut, &tools.Copy, &tools.Paste, &tools.Delete,
+         &tools.Clear});
 }
 
 // The box of a dialogue, and below it what is wrong with its content.
-void AddBox(QBoxLayout& rows, const FormWindow& window, const char* box) {
-    Add(rows, window.WidgetNamed(box), 1);
-    ReserveLines(window.WidgetNamed("StatusLine"), 2);
-    Add(rows, window.WidgetNamed("StatusLine"));
+void AddBox(QBoxLayout& rows, const FormWindow& window, const Control& box, const Label& fault) {
+    rows.addWidget(window.WidgetOf(box), 1);
+    ReserveLines(window.WidgetOf(fault), 2);
+    rows.addWidget(window.WidgetOf(fault));
 }
 
 int Columns(const QWidget& widget, int count) {
     return widget.fontMetrics().averageCharWidth() * count;
 }
 
-void LayOutProof(FormWindow& window, QWidget& inside) {
+void LayOutProof(ProofForm& form, FormWindow& window, QWidget& inside) {
     auto* main = qobject_cast<QMainWindow*>(&window.Window());
     auto* bar = new QToolBar(QStringLiteral("Tools"), main);
     bar->setMovable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    const auto& form = window.TheForm();
     for (const Control* control : form.Controls) {
         if (dynamic_cast<const Button*>(control) == nullptr) continue;
         QWidget* button = window.WidgetOf(*control);
         button->setMinimumWidth(Columns(*button, 8));
         bar->addWidget(button);
         // Groups: files, ways into the proof, undo, rules.
-        for (const char* last : {"cmdSave", "cmdConclusion", "cmdRedo", "cmdEGen", "cmdHelp"}) {
-            if (control->Name == last) bar->addSeparator();
+        for (const Control* last :
+             {&form.cmdSave, &form.cmdConclusion, &form.cmdRedo, &form.cmdEGen, &form.cmdHelp}) {
+            if (control == last) bar->addSeparator();
         }
     }
     main->addToolBar(bar);
@@ -90,11 +110,11 @@ void LayOutProof(FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
-    Add(*rows, window.WidgetNamed("RTB"), 1);
+    rows->addWidget(window.WidgetOf(form.RTB), 1);
     auto* status = new QHBoxLayout;
     status->setContentsMargins(8, 2, 8, 2);
-    Add(*status, window.WidgetNamed("StatusLine"), 1);
-    if (auto* label = qobject_cast<QLabel*>(window.WidgetNamed("InsertLineLabel"))) {
+    status->addWidget(window.WidgetOf(form.StatusLine), 1);
+    if (auto* label = qobject_cast<QLabel*>(window.WidgetOf(form.InsertLineLabel))) {
         label->setWordWrap(false);
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         status->addWidget(label);
@@ -102,93 +122,96 @@ void LayOutProof(FormWindow& window, QWidget& inside) {
     rows->addLayout(status);
 }
 
-void LayOutTestParser(FormWindow& window, QWidget& inside) {
+void LayOutTestParser(TestParserForm& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
     auto* tools = new QHBoxLayout;
-    AddEditButtons(*tools, window, "CmdUndo");
-    Add(*tools, window.WidgetNamed("cmdParse"));
+    AddEditButtons(*tools, window, form.Tools);
+    Add(*tools, window, {&form.cmdParse});
     tools->addStretch();
     rows->addLayout(tools);
-    AddBox(*rows, window, "RTB");
-    rows->addLayout(Answers(window, {"cmdContinue", "cmdCancel"}));
+    AddBox(*rows, window, form.RTB, form.StatusLine);
+    rows->addLayout(Answers(window, {&form.cmdContinue, &form.cmdCancel}));
     inside.resize(Columns(inside, 100), inside.fontMetrics().lineSpacing() * 20);
 }
 
-void LayOutSubsetFrm(FormWindow& window, QWidget& inside) {
+void LayOutSubsetFrm(SubsetDialogue& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    for (const char* name : {"SubsetNameLabel", "SubsetName", "Label1", "BoundVars"}) {
-        Add(*rows, window.WidgetNamed(name));
-    }
-    Add(*rows, window.WidgetNamed("SelectExpressionLabel"));
+    Add(*rows, window,
+        {&form.SubsetNameLabel, &form.SubsetName, &form.Label1, &form.BoundVars,
+         &form.SelectExpressionLabel});
     auto* tools = new QHBoxLayout;
-    AddEditButtons(*tools, window);
+    AddEditButtons(*tools, window, form.Tools);
     tools->addStretch();
     rows->addLayout(tools);
-    AddBox(*rows, window, "SelectExpression");
-    rows->addLayout(Answers(window, {"cmdContinue", "cmdCancel"}));
+    AddBox(*rows, window, form.SelectExpression, form.StatusLine);
+    rows->addLayout(Answers(window, {&form.cmdContinue, &form.cmdCancel}));
     inside.resize(Columns(inside, 100), inside.fontMetrics().lineSpacing() * 26);
 }
 
-void LayOutInductionForm(FormWindow& window, QWidget& inside) {
+void LayOutInductionForm(InductionDialogue& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    for (const char* name : {"BoundVarLabel", "BoundVarTextBox", "PropertyLabel"}) {
-        Add(*rows, window.WidgetNamed(name));
-    }
-    AddBox(*rows, window, "RTB");
-    rows->addLayout(Answers(window, {"cmdContinue", "cmdReset", "cmdCancel"}));
+    Add(*rows, window, {&form.BoundVarLabel, &form.BoundVarTextBox, &form.PropertyLabel});
+    AddBox(*rows, window, form.RTB, form.StatusLine);
+    rows->addLayout(Answers(window, {&form.cmdContinue, &form.cmdReset, &form.cmdCancel}));
     inside.resize(Columns(inside, 100), inside.fontMetrics().lineSpacing() * 22);
 }
 
-void LayOutMyInputBox(FormWindow& window, QWidget& inside) {
+void LayOutMyInputBox(MyInputBoxForm& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    Add(*rows, window.WidgetNamed("Label1"));
-    Add(*rows, window.WidgetNamed("Text1"));
-    ReserveLines(window.WidgetNamed("Label2"), 2);
-    Add(*rows, window.WidgetNamed("Label2"));
+    ReserveLines(window.WidgetOf(form.Label2), 2);
+    Add(*rows, window, {&form.Label1, &form.Text1, &form.Label2});
     rows->addStretch();
-    rows->addLayout(Answers(window, {"Continue", "Cancel"}));
+    rows->addLayout(Answers(window, {&form.Continue, &form.Cancel}));
     inside.resize(Columns(inside, 80), rows->sizeHint().height());
 }
 
-void LayOutSaveChanges(FormWindow& window, QWidget& inside) {
+void LayOutSaveChanges(SaveChangesForm& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    Add(*rows, window.WidgetNamed("FileName"));
+    Add(*rows, window, {&form.FileName});
     rows->addStretch();
-    rows->addLayout(Answers(window, {"cmdYes", "cmdNo", "cmdCancel"}));
+    rows->addLayout(Answers(window, {&form.cmdYes, &form.cmdNo, &form.cmdCancel}));
     inside.resize(Columns(inside, 70), inside.fontMetrics().lineSpacing() * 7);
+}
+
+// A statement with occurrences to pick, below what the rows hold already.
+void LayOutOccurrences(OccurrenceForm& form, FormWindow& window, QWidget& inside,
+                       QVBoxLayout& rows) {
+    Add(rows, window, {&form.StatementTextLabel});
+    AddBox(rows, window, form.RTB, form.StatusLine);
+    QBoxLayout* buttons =
+        Row(window, {&form.cmdSelectAll, &form.cmdReset, &form.cmdContinue, &form.cmdCancel});
+    buttons->insertStretch(2);
+    rows.addLayout(buttons);
+    inside.resize(Columns(inside, 90), inside.fontMetrics().lineSpacing() * 18);
 }
 
 // What comes and goes keeps its room, so that the statement under the pointer stays where it is.
 void KeepRoom(QWidget* widget) {
-    if (widget == nullptr) return;
     QSizePolicy policy = widget->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     widget->setSizePolicy(policy);
 }
 
-// Generalize and Substitution: a statement with occurrences to pick, in the first with a name to
-// enter ahead.
-void LayOutOccurrences(FormWindow& window, QWidget& inside) {
+void LayOutGeneralize(GeneralizeForm& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    if (QWidget* name = window.WidgetNamed("BoundVarTextBox"); name != nullptr) {
-        name->setMaximumWidth(Columns(inside, 24));
-        for (const char* part : {"BoundVarLabel", "BoundVarTextBox", "StatementTextLabel"}) {
-            KeepRoom(window.WidgetNamed(part));
-        }
-        QBoxLayout* row = Row(window, {"BoundVarLabel", "BoundVarTextBox"});
-        row->addStretch();
-        rows->addLayout(row);
+    window.WidgetOf(form.BoundVarTextBox)->setMaximumWidth(Columns(inside, 24));
+    for (const Control* part :
+         Controls{&form.BoundVarLabel, &form.BoundVarTextBox, &form.StatementTextLabel}) {
+        KeepRoom(window.WidgetOf(*part));
     }
-    Add(*rows, window.WidgetNamed("StatementTextLabel"));
-    AddBox(*rows, window, "RTB");
-    QBoxLayout* buttons = Row(window, {"cmdSelectAll", "cmdReset", "cmdContinue", "cmdCancel"});
-    buttons->insertStretch(2);
-    rows->addLayout(buttons);
-    inside.resize(Columns(inside, 90), inside.fontMetrics().lineSpacing() * 18);
+    QBoxLayout* row = Row(window, {&form.BoundVarLabel, &form.BoundVarTextBox});
+    row->addStretch();
+    rows->addLayout(row);
+    LayOutOccurrences(form, window, inside, *rows);
 }
 
-// The picture, and what stands beside it.
-void LayOutGreeting(FormWindow& window, QWidget& inside) {
+void LayOutSubstitution(SubstitutionForm& form, FormWindow& window, QWidget& inside) {
+    LayOutOccurrences(form, window, inside, *new QVBoxLayout(&inside));
+}
+
+// The picture, and beside it the program's name and what else there is to tell.
+QBoxLayout* LayOutGreeting(const FormWindow& window, QWidget& inside, const Label& programName,
+                           Controls told) {
     auto* columns = new QHBoxLayout(&inside);
     auto* picture = new QLabel(&inside);
     picture->setPixmap(ProgramPicture(192));
@@ -197,101 +220,104 @@ void LayOutGreeting(FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout;
     columns->addLayout(rows, 1);
     rows->addStretch();
-    if (auto* name = qobject_cast<QLabel*>(window.WidgetNamed("ProgramName"))) {
+    if (auto* name = qobject_cast<QLabel*>(window.WidgetOf(programName))) {
         QFont large = name->font();
         large.setPointSizeF(large.pointSizeF() * 2);
         name->setFont(large);
         name->setWordWrap(false);
         rows->addWidget(name);
     }
-    Add(*rows, window.WidgetNamed("Purpose"));
-    Add(*rows, window.WidgetNamed("BuildDate"));
+    Add(*rows, window, told);
     rows->addStretch();
-    rows->addLayout(Answers(window, {"cmdOK"}));
     inside.resize(Columns(inside, 80), 220);
+    return rows;
 }
 
-void LayOutTips(FormWindow& window, QWidget& inside) {
+void LayOutStartUp(StartUpForm& form, FormWindow& window, QWidget& inside) {
+    LayOutGreeting(window, inside, form.ProgramName, {&form.BuildDate});
+}
+
+void LayOutAbout(AboutTessarynForm& form, FormWindow& window, QWidget& inside) {
+    QBoxLayout* rows = LayOutGreeting(window, inside, form.ProgramName, {&form.Purpose});
+    rows->addLayout(Answers(window, {&form.cmdOK}));
+}
+
+void LayOutTips(TipsForm& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    ReserveLines(window.WidgetNamed("TipText"), 6);
-    Add(*rows, window.WidgetNamed("TipText"), 1);
-    QBoxLayout* answers = Row(window, {"Check1", "cmdClose"});
+    ReserveLines(window.WidgetOf(form.TipText), 6);
+    rows->addWidget(window.WidgetOf(form.TipText), 1);
+    QBoxLayout* answers = Row(window, {&form.Check1, &form.cmdClose});
     answers->insertStretch(1);
     rows->addLayout(answers);
     inside.resize(Columns(inside, 64), inside.fontMetrics().lineSpacing() * 11);
 }
 
-void LayOutPrintProof(FormWindow& window, QWidget& inside) {
+void LayOutPrintProof(PrintProofForm& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    Add(*rows, window.WidgetNamed("ChkAllStmts"));
+    Add(*rows, window, {&form.ChkAllStmts});
     auto* range = new QFormLayout;
-    for (const auto& [label, box] : {std::pair("Label1", "Text1"), std::pair("Label2", "Text2")}) {
-        window.WidgetNamed(box)->setMaximumWidth(Columns(inside, 16));
-        range->addRow(window.WidgetNamed(label), window.WidgetNamed(box));
+    for (const auto& [label, box] :
+         {std::pair(&form.Label1, &form.Text1), std::pair(&form.Label2, &form.Text2)}) {
+        window.WidgetOf(*box)->setMaximumWidth(Columns(inside, 16));
+        range->addRow(window.WidgetOf(*label), window.WidgetOf(*box));
     }
     rows->addLayout(range);
-    Add(*rows, window.WidgetNamed("StatusLine"));
-    ReserveLines(window.WidgetNamed("StatusLine"), 1);
+    ReserveLines(window.WidgetOf(form.StatusLine), 1);
+    Add(*rows, window, {&form.StatusLine});
     rows->addStretch();
-    rows->addLayout(Answers(window, {"cmdContinue", "cmdCancel"}));
+    rows->addLayout(Answers(window, {&form.cmdContinue, &form.cmdCancel}));
     inside.resize(Columns(inside, 60), rows->sizeHint().height());
 }
 
-void LayOutComment(FormWindow& window, QWidget& inside) {
+void LayOutComment(CommentForm& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    QBoxLayout* tools = Row(window, {"cmdProve", "cmdDefine", "cmdSufficient", "cmdAsRequired"});
+    QBoxLayout* tools =
+        Row(window, {&form.cmdProve, &form.cmdDefine, &form.cmdSufficient, &form.cmdAsRequired});
     tools->addStretch();
-    AddEditButtons(*tools, window);
+    AddEditButtons(*tools, window, form.Tools);
     for (int place = 0; place < tools->count(); ++place) {
         if (QWidget* button = tools->itemAt(place)->widget()) {
             button->setMinimumWidth(Columns(*button, 8));
         }
     }
     rows->addLayout(tools);
-    Add(*rows, window.WidgetNamed("CommentBox"), 1);
-    QBoxLayout* answers = Row(window, {"Continue", "Cancel"});
+    rows->addWidget(window.WidgetOf(form.CommentBox), 1);
+    QBoxLayout* answers = Row(window, {&form.Continue, &form.Cancel});
     answers->insertStretch(1);
     rows->addLayout(answers);
     inside.resize(Columns(inside, 110), inside.fontMetrics().lineSpacing() * 24);
 }
 
-void LayOutEditCaption(FormWindow& window, QWidget& inside) {
+void LayOutEditCaption(EditCaptionForm& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    Add(*rows, window.WidgetNamed("RTB"));
+    Add(*rows, window, {&form.RTB});
     rows->addStretch();
-    rows->addLayout(Answers(window, {"Clear", "Continue", "Cancel"}));
+    rows->addLayout(Answers(window, {&form.Clear, &form.Continue, &form.Cancel}));
     inside.resize(Columns(inside, 90), rows->sizeHint().height());
 }
 
-QBoxLayout* Column(const FormWindow& window, std::initializer_list<const char*> names) {
-    auto* column = new QVBoxLayout;
-    for (const char* name : names) Add(*column, window.WidgetNamed(name));
-    column->addStretch();
-    return column;
-}
-
-void LayOutFind(FormWindow& window, QWidget& inside) {
+void LayOutFind(FindForm& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    Add(*rows, window.WidgetNamed("SearchStringLabel"));
-    Add(*rows, window.WidgetNamed("SearchStringTextBox"));
+    Add(*rows, window, {&form.SearchStringLabel, &form.SearchStringTextBox});
     auto* choices = new QHBoxLayout;
-    choices->addLayout(
-        Column(window, {"SearchDirectionLabel", "optForward", "optBackward", "ChkActiveOnly"}), 1);
-    choices->addLayout(
-        Column(window, {"HeadingLabel", "optProve", "optDefine", "optSufficient", "optAsRequired"}),
-        1);
+    choices->addLayout(Column(window, {&form.SearchDirectionLabel, &form.optForward,
+                                       &form.optBackward, &form.ChkActiveOnly}),
+                       1);
+    choices->addLayout(Column(window, {&form.HeadingLabel, &form.optProve, &form.optDefine,
+                                       &form.optSufficient, &form.optAsRequired}),
+                       1);
     rows->addLayout(choices);
-    ReserveLines(window.WidgetNamed("StatusLine"), 1);
-    Add(*rows, window.WidgetNamed("StatusLine"));
-    rows->addLayout(Answers(window, {"cmdFind", "cmdPaste", "cmdCancel"}));
+    ReserveLines(window.WidgetOf(form.StatusLine), 1);
+    Add(*rows, window, {&form.StatusLine});
+    rows->addLayout(Answers(window, {&form.cmdFind, &form.cmdPaste, &form.cmdCancel}));
     inside.resize(Columns(inside, 70), rows->sizeHint().height());
 }
 
-void LayOutWarning(FormWindow& window, QWidget& inside) {
+void LayOutWarning(WarningForm& form, FormWindow& window, QWidget& inside) {
     auto* rows = new QVBoxLayout(&inside);
-    Add(*rows, window.WidgetNamed("Label"));
+    Add(*rows, window, {&form.Message});
     rows->addStretch();
-    rows->addLayout(Answers(window, {"cmdContinue", "cmdCancel"}));
+    rows->addLayout(Answers(window, {&form.cmdContinue, &form.cmdCancel}));
     inside.resize(Columns(inside, 70), inside.fontMetrics().lineSpacing() * 7);
 }
 
@@ -322,30 +348,25 @@ void LayOutAnyForm(FormWindow& window, QWidget& inside) {
                   hasText ? inside.fontMetrics().lineSpacing() * 24 : rows->sizeHint().height());
 }
 
+// False if the form is of another type.
+template <class SomeForm>
+bool LaidOutBy(void (*layOut)(SomeForm&, FormWindow&, QWidget&), FormWindow& window,
+               QWidget& inside) {
+    auto* form = dynamic_cast<SomeForm*>(&window.TheForm());
+    if (form != nullptr) layOut(*form, window, inside);
+    return form != nullptr;
+}
+
 }  // namespace
 
 void LayOut(FormWindow& window, QWidget& inside) {
-    using Layout = void (*)(FormWindow&, QWidget&);
-    static const std::map<std::string, Layout> layouts = {
-        {"Proof", LayOutProof},
-        {"TestParser", LayOutTestParser},
-        {"SubsetFrm", LayOutSubsetFrm},
-        {"InductionForm", LayOutInductionForm},
-        {"MyInputBox", LayOutMyInputBox},
-        {"SaveChanges", LayOutSaveChanges},
-        {"StartUp", LayOutGreeting},
-        {"AboutTessaryn", LayOutGreeting},
-        {"Tips", LayOutTips},
-        {"PrintProof", LayOutPrintProof},
-        {"Comment", LayOutComment},
-        {"EditCaption", LayOutEditCaption},
-        {"Find", LayOutFind},
-        {"Warning", LayOutWarning},
-        {"Generalize", LayOutOccurrences},
-        {"Substitution", LayOutOccurrences},
-    };
-    const auto found = layouts.find(window.TheForm().Name);
-    (found == layouts.end() ? LayOutAnyForm : *found->second)(window, inside);
+    const auto by = [&](auto layOut) { return LaidOutBy(layOut, window, inside); };
+    const bool known =
+        by(LayOutProof) || by(LayOutTestParser) || by(LayOutSubsetFrm) || by(LayOutInductionForm) ||
+        by(LayOutMyInputBox) || by(LayOutSaveChanges) || by(LayOutStartUp) || by(LayOutAbout) ||
+        by(LayOutTips) || by(LayOutPrintProof) || by(LayOutComment) || by(LayOutEditCaption) ||
+        by(LayOutFind) || by(LayOutWarning) || by(LayOutGeneralize) || by(LayOutSubstitution);
+    if (!known) LayOutAnyForm(window, inside);
 }
 
 }  // namespace tessaryn

@@ -7,7 +7,7 @@ namespace tessaryn {
 
 class FormWindow;
 
-// Gives the inside of a window its layout and size: its own for a form known by name, else one row
+// Gives the inside of a window its layout and size: its own for a form known here, else one row
 // after the other in the order of the controls.
 void LayOut(FormWindow& window, QWidget& inside);
 
