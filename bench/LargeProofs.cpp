@@ -3,7 +3,7 @@
 #include <string>
 
 #include "cli/HeadlessPlatform.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/Parse.h"
 #include "expr/Same.h"
 #include "view/Display.h"
@@ -41,7 +41,7 @@ void Append(int number, const Line& line) {
     stmt.Rule = line.rule;
     stmt.Arg1 = line.back1 > 0 ? number - line.back1 : 0;
     stmt.Arg2 = line.back2 > 0 ? number - line.back2 : 0;
-    if (line.rule == 7) StmtTable[static_cast<std::size_t>(stmt.Arg1)].Arg1 = number;
+    if (line.rule == 7) EditAt(stmt.Arg1).Arg1 = number;
     stmt.FreeVars = FreeVarsOf(parsed);
     stmt.FixedVars = stmt.FreeVars;
     stmt.Visible = true;
@@ -57,7 +57,7 @@ void Append(int number, const Line& line) {
     ProofText += RuleAnnotation(stmt.Rule, stmt.Rule == 1 ? 0 : stmt.Arg1, stmt.Arg2);
     stmt.EndRule = end();
     ProofText += "\r\n\r\n";
-    StmtTable.push_back(stmt);
+    StmtTable.Append(stmt);
     ++StmtCount;
 }
 

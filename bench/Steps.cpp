@@ -13,10 +13,6 @@
 
 namespace tessaryn {
 
-const Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
-
 void Write(const std::string& text) {
     RuleMode = Rule::Axiom;
     Arg1Pending = Arg2Pending = 0;
@@ -33,9 +29,7 @@ void ClickStatement(int line, int length) {
 }
 
 void KeptProof::PutBack() const {
-    StmtTable = statements_;
-    ProofText = text_;
-    StmtCount = count_;
+    Doc = document_;
 }
 
 void LookAtScreen() {

@@ -2,14 +2,10 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 
 namespace tessaryn {
-
-// A statement of the proof by its number, from 1.
-const Statement& At(int number);
 
 // Writes a statement as an axiom.
 void Write(const std::string& text);
@@ -23,15 +19,13 @@ void ClickStatement(int line, int length = 0);
 // The proof as it stood when this was made, to be put back after each round.
 class KeptProof {
   public:
-    KeptProof() : statements_(StmtTable), text_(ProofText), count_(StmtCount) {}
+    KeptProof() : document_(Doc) {}
 
     void PutBack() const;
-    int Count() const { return count_; }
+    int Count() const { return document_.StmtCount; }
 
   private:
-    std::vector<Statement> statements_;
-    std::string text_;
-    int count_;
+    Document document_;
 };
 
 // What the desktop takes after each command: the changed range, and the formats of a screenful.

@@ -6,8 +6,8 @@
 
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
+#include "document/Document.h"
 #include "document/PutStmt.h"
-#include "document/Statement.h"
 #include "expr/Expression.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"

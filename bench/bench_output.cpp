@@ -5,7 +5,7 @@
 
 #include "LargeProofs.h"
 #include "cli/HeadlessPlatform.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "output/HTML.h"
 #include "output/Printing.h"
 

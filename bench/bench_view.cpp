@@ -5,7 +5,7 @@
 #include "LargeProofs.h"
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/NameList.h"
 #include "mainwindow/ActiveStmts.h"
 #include "mainwindow/RuleModes.h"
@@ -14,7 +14,7 @@ template <class Counts>
 bool EachIsFree(const std::vector<std::string_view>& names, Counts counts) {
     std::vector<const Statement*> stmts;
     for (const int line : ActiveLines()) {
-        const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+        const Statement& stmt = StmtTable[line];
         if (counts(stmt)) stmts.push_back(&stmt);
     }
     return std::all_of(names.begin(), names.end(), [&](std::string_view name) {

@@ -10,8 +10,8 @@
 
 #include "axioms/Axioms.h"
 #include "axioms/NamesInUse.h"
+#include "document/Document.h"
 #include "document/PutStmt.h"
-#include "document/Statement.h"
 #include "expr/Expression.h"
 #include "mainwindow/ActiveStmts.h"
 #include "mainwindow/EntryChecks.h"
@@ -30,9 +30,9 @@ bool Refuse(const std::string& message) {
 }
 
 bool PremiseAhead() {
-    const auto first = StmtTable.begin() + 1;
-    return std::any_of(first, first + (InsertionLimit() - 1),
-                       [](const Statement& stmt) { return stmt.Rule == Rule::Premise; });
+    int line = 1;
+    while (line < InsertionLimit() && At(line).Rule != Rule::Premise) ++line;
+    return line < InsertionLimit();
 }
 
 bool NamesAreFree(const AxiomGroup& group) {

@@ -6,7 +6,7 @@
 #include "cli/HeadlessPlatform.h"
 #include "cli/Script.h"
 #include "cli/ScriptTargets.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "text/Encoding.h"
@@ -54,7 +54,7 @@ void ExpectLine(ScriptRun&, Arguments& arguments) {
 void ExpectRule(ScriptRun&, Arguments& arguments) {
     const int line = TakeLine(arguments);
     const std::string wanted = TakeText(arguments);
-    const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+    const Statement& stmt = StmtTable[line];
     const std::string found(ProofSlice(stmt.StartRule, stmt.EndRule));
     RequireText("the rule of line " + std::to_string(line), wanted, ToUtf8(found));
 }

@@ -1,7 +1,7 @@
 #include "cli/ScriptTargets.h"
 
 #include "cli/FormState.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/Lex.h"
 #include "mainwindow/Proof.h"
 #include "text/TextSteps.h"
@@ -16,7 +16,7 @@ std::string LineName(int line) {
 
 const Statement& ShownLine(int line) {
     RequireLine(line);
-    const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+    const Statement& stmt = StmtTable[line];
     if (!stmt.Visible) throw ActionFailed{LineName(line) + " is not shown"};
     return stmt;
 }

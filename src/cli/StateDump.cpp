@@ -6,7 +6,7 @@
 #include "cli/FormState.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "text/Encoding.h"
@@ -43,7 +43,7 @@ Json StatementAsJson(const Statement& stmt) {
 Json StatementsAsJson() {
     Json statements = Json::array();
     for (int number = 1; number <= StmtCount; ++number) {
-        statements.push_back(StatementAsJson(StmtTable[static_cast<std::size_t>(number)]));
+        statements.push_back(StatementAsJson(StmtTable[number]));
     }
     return statements;
 }
@@ -135,7 +135,7 @@ std::string StateAsJson(std::size_t beepsFrom, std::size_t messagesFrom) {
                         {"fileName", ToUtf8(ProofFileName)},
                         {"caption", ToUtf8(ProofCaption)},
                         {"introEnd", IntroEnd},
-                        {"proofText", ToUtf8(ProofText)},
+                        {"proofText", ToUtf8(std::string(ProofText.View()))},
                         {"statements", StatementsAsJson()},
                         {"view", ViewAsJson(Proof.RTB)},
                         {"form", FormAsJson(TopForm())},

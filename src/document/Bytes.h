@@ -22,7 +22,7 @@ class ByteWriter {
     void Int16(int value) { LittleEndian(static_cast<std::uint32_t>(value), 2); }
     void Int32(int value) { LittleEndian(static_cast<std::uint32_t>(value), 4); }
     void Bool(bool value) { Int16(value ? -1 : 0); }
-    void String(const std::string& text) {
+    void String(std::string_view text) {
         if (text.size() < LongString) {
             LittleEndian(static_cast<std::uint32_t>(text.size()), 2);
         } else {

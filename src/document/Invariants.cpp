@@ -2,7 +2,7 @@
 
 #include <unordered_set>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
 #include "expr/Same.h"
@@ -76,12 +76,12 @@ void CheckReferences(Complaint& complaint, int line, const Statement& stmt) {
         complaint.Unless(stmt.Arg1 > line && stmt.Arg1 <= StmtCount, line,
                          "Arg1 of a closed Premise");
         if (complaint.Any()) return;
-        const Statement& end = StmtTable[static_cast<std::size_t>(stmt.Arg1)];
+        const Statement& end = StmtTable[stmt.Arg1];
         complaint.Unless(IsConclusion(end) && end.Arg1 == line, line,
                          "not closed by its Conclusion");
     }
     if (complaint.Any() || !IsConclusion(stmt)) return;
-    const Statement& premise = StmtTable[static_cast<std::size_t>(stmt.Arg1)];
+    const Statement& premise = StmtTable[stmt.Arg1];
     complaint.Unless(premise.Rule == Rule::Premise && premise.Arg1 == line, line,
                      "Conclusion without its Premise");
 }
@@ -90,7 +90,7 @@ void CheckReferences(Complaint& complaint, int line, const Statement& stmt) {
 void CheckNesting(Complaint& complaint) {
     std::vector<int> ends;
     for (int line = 1; line <= StmtCount && !complaint.Any(); ++line) {
-        const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+        const Statement& stmt = StmtTable[line];
         while (!ends.empty() && ends.back() <= line) ends.pop_back();
         if (IsClosedPremise(stmt)) {
             complaint.Unless(ends.empty() || stmt.Arg1 < ends.back(), line, "blocks cross");
@@ -126,14 +126,13 @@ void CheckText(Complaint& complaint, int line, const Statement& stmt) {
 
 std::string CheckDocument() {
     Complaint complaint;
-    complaint.Unless(StmtTable.size() == static_cast<std::size_t>(StmtCount) + 1, 0,
-                     "StmtCount differs from the table's size");
+    complaint.Unless(StmtTable.Count() == StmtCount, 0, "StmtCount differs from the table's size");
     complaint.Unless(IntroEnd <= 0 || Slice(IntroEnd + 1, "\r\n\r\n"), 0,
                      "introduction out of place");
     int start = ExpectedStart();
     int viewStart = FirstViewerStartLine();
     for (int line = 1; line <= StmtCount && !complaint.Any(); ++line) {
-        const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+        const Statement& stmt = StmtTable[line];
         CheckReferences(complaint, line, stmt);
         CheckIndexes(complaint, line, stmt, start);
         if (complaint.Any()) break;

@@ -29,23 +29,25 @@ bool WriteFileWithHourglass() {
 void FoldClosedBlocks() {
     int line = 1;
     while (line <= StmtCount) {
-        Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
-        if (!IsClosedPremise(stmt)) {
-            stmt.Visible = true;
+        if (!IsClosedPremise(At(line))) {
+            EditAt(line).Visible = true;
             ++line;
             continue;
         }
-        for (; line < stmt.Arg1; ++line) {
-            StmtTable[static_cast<std::size_t>(line)].Visible = false;
-            StmtTable[static_cast<std::size_t>(line)].ViewerStartLine = 0;
+        for (const int end = At(line).Arg1; line < end; ++line) {
+            EditAt(line).Visible = false;
+            EditAt(line).ViewerStartLine = 0;
         }
     }
 }
 
 void TakeOver(StoredProof proof) {
     ProofCaption = std::move(proof.caption);
-    StmtTable = std::move(proof.table);
-    StmtCount = static_cast<int>(StmtTable.size()) - 1;
+    StmtTable.Clear();
+    for (std::size_t line = 1; line < proof.table.size(); ++line) {
+        StmtTable.Append(std::move(proof.table[line]));
+    }
+    StmtCount = StmtTable.Count();
     ProofText = std::move(proof.text);
     if (StmtCount == 0) {
         IntroEnd = static_cast<int>(ProofText.size()) - 4;

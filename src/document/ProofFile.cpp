@@ -134,9 +134,9 @@ std::string WriteProof() {
     out.Int16(StmtCount);
     out.String(ProofCaption);
     for (int line = 1; line <= StmtCount; ++line) {
-        WriteRecord(out, StmtTable[static_cast<std::size_t>(line)]);
+        WriteRecord(out, StmtTable[line]);
     }
-    out.String(ProofText);
+    out.String(ProofText.View());
     return out.Take();
 }
 

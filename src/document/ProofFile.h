@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 
 namespace tessaryn {
 

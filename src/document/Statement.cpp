@@ -1,4 +1,4 @@
-#include "document/Statement.h"
+#include "document/Document.h"
 
 #include <algorithm>
 
@@ -7,7 +7,7 @@
 namespace tessaryn {
 
 void ClearDocument() {
-    StmtTable.assign(1, Statement());
+    StmtTable.Clear();
     StmtCount = 0;
     ProofText.clear();
     IntroEnd = 0;
@@ -41,7 +41,7 @@ int FirstViewerStartLine() {
 
 int ShownStmtAt(int place) {
     for (int line = 1; line <= StmtCount; ++line) {
-        const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+        const Statement& stmt = StmtTable[line];
         if (!stmt.Visible) continue;
         if (place < stmt.ViewerStartLine) return 0;
         if (place <= ViewerEndRule(stmt)) return line;
@@ -59,12 +59,12 @@ void ShiftIndexes(Statement& stmt, int shift) {
 }
 
 std::string_view ProofSlice(int first, int last) {
-    return std::string_view(ProofText).substr(static_cast<std::size_t>(first - 1),
-                                              static_cast<std::size_t>(last - first + 1));
+    return ProofText.View().substr(static_cast<std::size_t>(first - 1),
+                                   static_cast<std::size_t>(last - first + 1));
 }
 
 std::string_view StoredText(int number) {
-    const Statement& stmt = StmtTable[static_cast<std::size_t>(number)];
+    const Statement& stmt = StmtTable[number];
     return ProofSlice(stmt.StartStmt, stmt.EndStmt);
 }
 
@@ -86,12 +86,16 @@ std::string RuleAnnotation(int rule, int arg1, int arg2) {
     return text;
 }
 
+void SetVisible(int line, bool visible) {
+    if (At(line).Visible != visible) EditAt(line).Visible = visible;
+}
+
 void RelayoutViewer() {
     int start = FirstViewerStartLine();
-    for (Statement& stmt : StmtTable) {
-        if (&stmt == &StmtTable.front() || !stmt.Visible) continue;
-        stmt.ViewerStartLine = start;
-        start += BlockLength(stmt);
+    for (int line = 1; line <= StmtCount; ++line) {
+        if (!At(line).Visible) continue;
+        if (At(line).ViewerStartLine != start) EditAt(line).ViewerStartLine = start;
+        start += BlockLength(At(line));
     }
 }
 

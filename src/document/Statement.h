@@ -1,7 +1,7 @@
-// The proof in memory: the statement table, the one long text and the document values.
+// One statement of a document.
 //
-// ProofText is an optional introduction and one block for each statement, in table order, with
-// nothing between them:
+// A document's ProofText is an optional introduction and one block for each statement, in table
+// order, with nothing between them:
 //
 //   introduction, CR LF CR LF          if IntroEnd > 0
 //   comment, CR LF CR LF               if EndUserComment > 0
@@ -14,8 +14,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace tessaryn {
 
@@ -41,17 +39,6 @@ struct Statement {
     bool Highlight = false;  // the number is bold
 };
 
-inline constexpr int MaxStatements = 32767;
-
-inline std::vector<Statement> StmtTable(1);  // statement n at index n; element 0 is never used
-inline int StmtCount = 0;
-inline std::string ProofText;
-inline int IntroEnd = 0;          // length of the introduction in bytes; 0 or negative: none
-inline std::string ProofCaption;  // "" if none
-
-// Empties the proof.
-void ClearDocument();
-
 int Depth(const Statement& stmt);
 // Bytes of the block, the CR LF CR LF behind it included.
 int BlockLength(const Statement& stmt);
@@ -61,21 +48,8 @@ int ViewOffset(const Statement& stmt);
 int NumberStart(const Statement& stmt);
 // Last byte of the block's annotation in the display, 1-based; the block must be visible.
 int ViewerEndRule(const Statement& stmt);
-// Where the first visible block begins in the display, 1-based.
-int FirstViewerStartLine();
-// The visible statement whose block holds a place of the display, 1-based; 0 if none does. The line
-// ends behind the annotation belong to no block.
-int ShownStmtAt(int place);
 // Adds to the six indexes into ProofText (to EndUserComment only if there is a comment).
 void ShiftIndexes(Statement& stmt, int shift);
-
-// The text between two 1-based indexes of ProofText, both included.
-std::string_view ProofSlice(int first, int last);
-// A statement's text as stored, with CR LF TAB at its line breaks.
-std::string_view StoredText(int number);
-// A statement's text without TABs: what a rule hands to Parse.
-std::string StmtText(int number);
-void RemoveTabs(std::string& text);
 
 // "Join, 3, 4": the annotation of a statement with that rule and those references.
 std::string RuleAnnotation(int rule, int arg1, int arg2);
@@ -89,8 +63,5 @@ inline bool IsOpenPremise(const Statement& stmt) {
 inline bool IsConclusion(const Statement& stmt) {
     return stmt.Rule == 7;
 }
-
-// Assigns ViewerStartLine to the visible statements.
-void RelayoutViewer();
 
 }  // namespace tessaryn

@@ -1,10 +1,11 @@
 // The statement writer: canonical text, record, block, renumbering of what follows.
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
+#include "document/Document.h"
 #include "document/PutStmt.h"
-#include "document/Statement.h"
 #include "expr/Blanks.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
@@ -19,11 +20,7 @@
 namespace tessaryn {
 namespace {
 
-Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
-
-int Length(const std::string& text) {
+int Length(std::string_view text) {
     return static_cast<int>(text.size());
 }
 
@@ -59,7 +56,7 @@ bool MarksAsHighlight(int rule) {
 
 // Rule, references and name lists of statement `line`, which stands in the table already.
 void FillRecord(int line, const std::string& freeVars) {
-    Statement& stmt = At(line);
+    Statement& stmt = EditAt(line);
     stmt.Rule = RuleMode;
     stmt.Arg1 = Arg1Pending;
     stmt.Arg2 = Arg2Pending;
@@ -89,7 +86,7 @@ int NewViewerStartLine(int line) {
 
 // Lays the block out, sets the indexes of statement `line`, and returns the block.
 std::string BuildBlock(int line, const std::string& canonical, int start) {
-    Statement& stmt = At(line);
+    Statement& stmt = EditAt(line);
     const std::string number = std::to_string(line);
     const std::string text = IndentContinuationLines(canonical);
     stmt.StartLine = start;
@@ -111,7 +108,7 @@ void ShiftReference(int& reference, int insertedLine, int count) {
 // Copies the old block of statement `line` to the end of `text` with its new number and references,
 // and sets its indexes to where it now lies.
 void AppendRenumbered(std::string& text, int line, int insertedLine, int count) {
-    Statement& stmt = At(line);
+    Statement& stmt = EditAt(line);
     const int oldStart = stmt.StartLine;
     const int oldNumber = NumberStart(stmt);
     const int oldDigits = stmt.StartStmt - 1 - oldNumber;
@@ -142,7 +139,7 @@ void InsertBlocks(int line, int count, const std::string& blocks) {
     const int behind = line + count;
     std::string text;
     text.reserve(ProofText.size() + blocks.size() + 2 * static_cast<std::size_t>(StmtCount));
-    text.append(ProofText, 0, before);
+    text.append(ProofText.View(), 0, before);
     text += blocks;
     for (int later = behind; later <= StmtCount; ++later) {
         AppendRenumbered(text, later, line, count);
@@ -152,7 +149,7 @@ void InsertBlocks(int line, int count, const std::string& blocks) {
     int start = At(behind - 1).ViewerStartLine + BlockLength(At(behind - 1));
     for (int later = behind; later <= StmtCount; ++later) {
         if (!At(later).Visible) continue;
-        At(later).ViewerStartLine = start;
+        EditAt(later).ViewerStartLine = start;
         start += BlockLength(At(later));
     }
     InsertLine += count;
@@ -163,7 +160,7 @@ void InsertBlocks(int line, int count, const std::string& blocks) {
 void PutCanonical(const std::vector<Canonical>& stmts) {
     const int line = InsertMode ? InsertLine : StmtCount + 1;
     const int count = static_cast<int>(stmts.size());
-    StmtTable.insert(StmtTable.begin() + line, stmts.size(), Statement());
+    StmtTable.Insert(line, count);
     StmtCount += count;
     const int start = NewStartLine(line, count);
     std::string blocks;

@@ -2,8 +2,8 @@
 
 #include <exception>
 
+#include "document/Document.h"
 #include "document/ProofFile.h"
-#include "document/Statement.h"
 #include "mainwindow/ExpressionEditor.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <map>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/Expression.h"
 #include "expr/NameList.h"
 #include "expr/Same.h"
@@ -13,10 +13,6 @@
 
 namespace tessaryn {
 namespace {
-
-const Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
 
 std::string Line(int number) {
     return std::to_string(number);

@@ -3,9 +3,9 @@
 
 #include <exception>
 
+#include "document/Document.h"
 #include "document/Invariants.h"
 #include "document/ProofFile.h"
-#include "document/Statement.h"
 #include "expr/Expression.h"
 #include "mainwindow/Commands.h"
 #include "mainwindow/ExpressionEditor.h"

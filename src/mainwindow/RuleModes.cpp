@@ -4,8 +4,8 @@
 #include <array>
 
 #include "axioms/Axioms.h"
+#include "document/Document.h"
 #include "document/PutStmt.h"
-#include "document/Statement.h"
 #include "expr/Parse.h"
 #include "mainwindow/ActiveStmts.h"
 #include "mainwindow/ProgramState.h"

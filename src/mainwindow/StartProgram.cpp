@@ -1,6 +1,6 @@
 #include "axioms/InductionForm.h"
 #include "axioms/SubsetFrm.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/Expression.h"
 #include "mainwindow/ExpressionEditor.h"
 #include "mainwindow/MyInputBox.h"

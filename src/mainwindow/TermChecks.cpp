@@ -6,7 +6,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/NameList.h"
 #include "expr/Parse.h"
 #include "mainwindow/ActiveStmts.h"
@@ -36,7 +36,7 @@ std::string CheckBoundNames(const TokenList& clicked) {
 
 std::string FindName(EnteredTerm& term, const std::vector<int>& lines) {
     const auto found = std::find_if(lines.rbegin(), lines.rend(), [&](int line) {
-        return HoldsName(StmtTable[static_cast<std::size_t>(line)].FreeVars, term.text);
+        return HoldsName(StmtTable[line].FreeVars, term.text);
     });
     if (found == lines.rend()) return "'" + term.text + "' must occur in active statement";
     term.footing = *found;

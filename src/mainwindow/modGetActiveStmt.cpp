@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/Parse.h"
 #include "mainwindow/ActiveStmts.h"
 #include "mainwindow/Proof.h"
@@ -8,10 +8,6 @@
 
 namespace tessaryn {
 namespace {
-
-const Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
 
 // Does the block of a statement hold a place of the display (1-based)?
 bool IsShownAt(const Statement& stmt, int place) {

@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "axioms/EnteredNumber.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/Proof.h"
 #include "output/Printing.h"
 

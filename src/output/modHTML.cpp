@@ -2,8 +2,8 @@
 #include <string_view>
 #include <utility>
 
+#include "document/Document.h"
 #include "document/ProofFile.h"
-#include "document/Statement.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "output/HTML.h"
@@ -114,7 +114,7 @@ std::string HTMLPage() {
     AppendHead(page);
     if (IntroEnd > 0) AppendRun(page, Blue, ProofSlice(1, IntroEnd + 4));
     for (int line = 1; line <= StmtCount; ++line) {
-        AppendStatement(page, StmtTable[static_cast<std::size_t>(line)]);
+        AppendStatement(page, StmtTable[line]);
     }
     page += "</pre></body></html>";
     return InAscii(ToUtf8(std::move(page)));

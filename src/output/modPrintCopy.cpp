@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "output/Printing.h"
 #include "text/Utf8.h"
@@ -55,7 +55,7 @@ void AppendCaption(Copy& copy) {
 }
 
 void AppendStatement(Copy& copy, int number) {
-    const Statement& stmt = StmtTable[static_cast<std::size_t>(number)];
+    const Statement& stmt = StmtTable[number];
     if (stmt.EndUserComment > 0) {
         copy.Append(Folded(ProofSlice(stmt.StartLine, stmt.EndUserComment)) + "\r\n\r\n", TextSize);
     }

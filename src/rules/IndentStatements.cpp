@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "rules/modConclusion.h"
 
 namespace tessaryn {
@@ -53,23 +53,21 @@ int AppendBlock(std::string& text, Statement& stmt) {
 }  // namespace
 
 void IndentStatements(int first, int last) {
-    const auto at = [](int line) -> Statement& {
-        return StmtTable[static_cast<std::size_t>(line)];
-    };
     std::string text;
     text.reserve(ProofText.size() + ProofText.size() / 8);
-    text.append(ProofText, 0, static_cast<std::size_t>(at(first).StartLine - 1));
-    const auto rest = static_cast<std::size_t>(at(last).EndRule + 4);
+    text.append(ProofText.View(), 0, static_cast<std::size_t>(At(first).StartLine - 1));
+    const auto rest = static_cast<std::size_t>(At(last).EndRule + 4);
     int shift = 0;
     int viewShift = 0;
     for (int line = first; line <= StmtCount; ++line) {
-        const int tabs = line <= last ? AppendBlock(text, at(line)) : 0;
-        ShiftIndexes(at(line), shift);
-        if (at(line).Visible) at(line).ViewerStartLine += viewShift;
+        Statement& stmt = EditAt(line);
+        const int tabs = line <= last ? AppendBlock(text, stmt) : 0;
+        ShiftIndexes(stmt, shift);
+        if (stmt.Visible) stmt.ViewerStartLine += viewShift;
         shift += tabs;
-        if (at(line).Visible) viewShift += tabs;
+        if (stmt.Visible) viewShift += tabs;
     }
-    text.append(ProofText, rest);
+    text.append(ProofText.View(), rest);
     ProofText = std::move(text);
 }
 

@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "document/Document.h"
 #include "document/PutStmt.h"
-#include "document/Statement.h"
 #include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"

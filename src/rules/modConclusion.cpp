@@ -12,8 +12,8 @@
 #include <unordered_set>
 #include <vector>
 
+#include "document/Document.h"
 #include "document/PutStmt.h"
-#include "document/Statement.h"
 #include "expr/NameList.h"
 #include "expr/Parse.h"
 #include "expr/Same.h"
@@ -33,10 +33,6 @@ namespace tessaryn {
 namespace {
 
 constexpr std::size_t LineLength = 50;  // from this length on the result is folded ahead of "=>"
-
-Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
 
 void Refuse(const std::string& message, const std::string& reason) {
     Beep(reason);
@@ -224,7 +220,7 @@ bool BuildStatement(int premise, int line) {
 void CloseBlock(int premise, int line) {
     if (!StatementsFit(1)) return;
     BackUpUndo();
-    At(premise).Arg1 = line;
+    EditAt(premise).Arg1 = line;
     IndentStatements(premise, line - 1);
     Arg2Pending = 0;
     PutStmt();

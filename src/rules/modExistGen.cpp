@@ -6,7 +6,7 @@
 // the dialogue Generalize does the rest.
 #include <string>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/NameList.h"
 #include "expr/Parse.h"
 #include "mainwindow/ActiveStmts.h"
@@ -39,7 +39,7 @@ bool TakeSelectedText(int& line) {
 
 // The name of the selected term that is not free in the statement; "" if all are.
 std::string NameNotFree(int line) {
-    const std::string& freeVars = StmtTable[static_cast<std::size_t>(line)].FreeVars;
+    const std::string& freeVars = StmtTable[line].FreeVars;
     for (std::size_t n = 1; n < ParseTable.size() && ParseTable[n].Rule == Node::Atom; ++n) {
         if (!HoldsName(freeVars, ParseTable[n].Name)) return ParseTable[n].Name;
     }

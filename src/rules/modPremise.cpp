@@ -6,8 +6,8 @@
 // Both open TestParser, which checks the entry, and write what it accepts.
 #include <string>
 
+#include "document/Document.h"
 #include "document/PutStmt.h"
-#include "document/Statement.h"
 #include "expr/Expression.h"
 #include "mainwindow/ActiveStmts.h"
 #include "mainwindow/ProgramState.h"
@@ -23,7 +23,7 @@ namespace {
 // Is there a statement of that rule on lines first to last? Gives its line, 0 if not.
 int FindStatement(int rule, int first, int last) {
     for (int line = first; line <= last; ++line) {
-        if (StmtTable[static_cast<std::size_t>(line)].Rule == rule) return line;
+        if (StmtTable[line].Rule == rule) return line;
     }
     return 0;
 }

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "document/Document.h"
 #include "document/PutStmt.h"
-#include "document/Statement.h"
 #include "expr/NameList.h"
 #include "expr/Parse.h"
 #include "expr/Same.h"
@@ -60,9 +60,7 @@ std::string Specified(const Expression& body, const std::string& term) {
 // The line that a name is in use on, 0 if none: the highest active one, or the first one behind the
 // insertion point, where a closed block counts as well.
 int LineThatUses(const std::string& name) {
-    const auto uses = [&](int line) {
-        return HoldsName(StmtTable[static_cast<std::size_t>(line)].FreeVars, name);
-    };
+    const auto uses = [&](int line) { return HoldsName(StmtTable[line].FreeVars, name); };
     const std::vector<int> lines = ActiveLines();
     for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
         if (uses(*line)) return *line;

@@ -1,6 +1,6 @@
 #include "view/Comment.h"
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/Blanks.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -72,7 +72,7 @@ void CommentForm::ContinuePressed() {
     ResetFonts();
     Proof.RTB.SelStart = 0;
     if (!EditingIntro) {
-        Proof.RTB.SelStart = ViewerEndRule(StmtTable[static_cast<std::size_t>(CommentLine)]);
+        Proof.RTB.SelStart = ViewerEndRule(StmtTable[CommentLine]);
     }
     SetPrompt("");
     Hide();

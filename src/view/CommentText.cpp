@@ -1,16 +1,12 @@
 #include "view/CommentText.h"
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "view/Undo.h"
 
 namespace tessaryn {
 namespace {
 
 constexpr const char* TwoLineEnds = "\r\n\r\n";
-
-Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
 
 int Length(const std::string& text) {
     return static_cast<int>(text.size());
@@ -35,9 +31,9 @@ std::string Indented(const std::string& text, const std::string& tabs) {
 // Puts a text in the place of `removed` bytes and moves the indexes of the statements from
 // firstMoved on.
 void ReplaceAt(int start, int removed, const std::string& text, int firstMoved) {
-    ProofText.replace(static_cast<std::size_t>(start - 1), static_cast<std::size_t>(removed), text);
+    ProofText.Replace(static_cast<std::size_t>(start - 1), static_cast<std::size_t>(removed), text);
     const int shift = Length(text) - removed;
-    for (int line = firstMoved; line <= StmtCount; ++line) ShiftIndexes(At(line), shift);
+    for (int line = firstMoved; line <= StmtCount; ++line) ShiftIndexes(EditAt(line), shift);
 }
 
 }  // namespace
@@ -67,9 +63,9 @@ void SetIntroduction(const std::string& text) {
 }
 
 void SetComment(int line, const std::string& text) {
-    Statement& stmt = At(line);
-    if (stmt.EndUserComment == 0 && text.empty()) return;
+    if (At(line).EndUserComment == 0 && text.empty()) return;
     BackUpUndo();
+    Statement& stmt = EditAt(line);
     const int start = stmt.StartLine;
     const int removed = stmt.EndUserComment == 0 ? 0 : stmt.EndUserComment + 5 - start;
     const std::string head = text.empty() ? "" : Indented(text, Indentation(stmt)) + TwoLineEnds;

@@ -1,7 +1,7 @@
 #include "view/EditCaption.h"
 
+#include "document/Document.h"
 #include "document/ProofFile.h"
-#include "document/Statement.h"
 #include "expr/Blanks.h"
 #include "mainwindow/Proof.h"
 #include "view/Display.h"

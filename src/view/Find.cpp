@@ -4,7 +4,7 @@
 #include <exception>
 #include <vector>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/ExpressionEditor.h"
 #include "mainwindow/Proof.h"
 #include "view/Display.h"
@@ -13,10 +13,6 @@ namespace tessaryn {
 namespace {
 
 constexpr int HeadingFontSize = 10;
-
-const Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
 
 // Where FindString stands next in the search direction, 1-based in ProofText; 0: nowhere.
 int NextPlace() {

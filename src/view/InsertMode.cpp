@@ -2,17 +2,13 @@
 
 #include <string>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 
 namespace tessaryn {
 namespace {
-
-const Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
 
 // The line that a click at a place picks; 0, with the reason for the beep, if it picks none. place:
 // 1-based in the display.

@@ -2,7 +2,7 @@
 // if there is more than the one.
 #include <string>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "view/Delete.h"
@@ -23,7 +23,7 @@ bool ConfirmOthers(int others) {
 
 void ForgetMarks() {
     OperationCancelled = false;
-    for (Statement& stmt : StmtTable) stmt.Flagged = false;
+    StmtTable.EditEach([](Statement& stmt) { stmt.Flagged = false; });
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // Delete Subsequent Lines: cuts the proof off at the clicked statement, without a question.
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "view/Delete.h"
@@ -23,7 +23,7 @@ void DeleteAllSub() {
     if (first == 0) return;
     SetPrompt("");
     for (int line = first; line <= StmtCount; ++line) {
-        StmtTable[static_cast<std::size_t>(line)].Flagged = true;
+        EditAt(line).Flagged = true;
     }
     BackUpUndo();
     DeleteStmts(first);

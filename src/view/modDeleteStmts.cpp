@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/Proof.h"
 #include "view/Delete.h"
 #include "view/Display.h"
@@ -15,23 +15,19 @@
 namespace tessaryn {
 namespace {
 
-Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
-
 bool IsFallenConclusion(const Statement& stmt) {
     return stmt.Flagged && IsConclusion(stmt);
 }
 
 // Shows the lines of a block that is to be open again; inner blocks stay as they are.
 void ShowReopened(int premise, int conclusion) {
-    At(premise).Visible = true;
+    SetVisible(premise, true);
     ShowActiveLines(premise + 1, conclusion - 1);
 }
 
 // How many levels of indentation each statement loses: one for each block around it that opens.
 std::vector<int> LostIndentation(int first) {
-    std::vector<int> levels(StmtTable.size() + 1, 0);
+    std::vector<int> levels(static_cast<std::size_t>(StmtCount) + 2, 0);
     for (int line = first; line <= StmtCount; ++line) {
         if (!IsFallenConclusion(At(line))) continue;
         ++levels[static_cast<std::size_t>(At(line).Arg1)];
@@ -44,18 +40,18 @@ std::vector<int> LostIndentation(int first) {
 int NumberSurvivors() {
     int count = 0;
     for (int line = 1; line <= StmtCount; ++line) {
-        if (!At(line).Flagged) At(line).NewNumber = ++count;
+        if (!At(line).Flagged) EditAt(line).NewNumber = ++count;
     }
     return count;
 }
 
 void RewriteReferences() {
     for (int line = 1; line <= StmtCount; ++line) {
-        if (IsFallenConclusion(At(line))) At(At(line).Arg1).Arg1 = 0;
+        if (IsFallenConclusion(At(line))) EditAt(At(line).Arg1).Arg1 = 0;
     }
     for (int line = 1; line <= StmtCount; ++line) {
-        Statement& stmt = At(line);
-        if (stmt.Flagged) continue;
+        if (At(line).Flagged) continue;
+        Statement& stmt = EditAt(line);
         if (stmt.Arg1 > 0) stmt.Arg1 = At(stmt.Arg1).NewNumber;
         if (stmt.Arg2 > 0) stmt.Arg2 = At(stmt.Arg2).NewNumber;
     }
@@ -117,10 +113,10 @@ void RewriteText(int firstMarked, const std::vector<int>& lostIndentation) {
     const int first = FirstChangedLine(firstMarked, lostIndentation);
     std::string text;
     text.reserve(ProofText.size());
-    text.append(ProofText, 0, static_cast<std::size_t>(At(first).StartLine - 1));
+    text.append(ProofText.View(), 0, static_cast<std::size_t>(At(first).StartLine - 1));
     for (int line = first; line <= StmtCount; ++line) {
         if (At(line).Flagged) continue;
-        AppendSurvivor(text, At(line), lostIndentation[static_cast<std::size_t>(line)]);
+        AppendSurvivor(text, EditAt(line), lostIndentation[static_cast<std::size_t>(line)]);
     }
     ProofText = std::move(text);
 }
@@ -129,16 +125,14 @@ void RewriteText(int firstMarked, const std::vector<int>& lostIndentation) {
 bool MoveInsertLine() {
     const int last = std::min(InsertLine, StmtCount);
     if (last < 1 || At(last).Flagged) return false;
-    InsertLine -=
-        static_cast<int>(std::count_if(StmtTable.begin() + 1, StmtTable.begin() + last,
-                                       [](const Statement& stmt) { return stmt.Flagged; }));
+    for (int line = 1; line < last; ++line) InsertLine -= At(line).Flagged ? 1 : 0;
     ShowInsertLine();
     return true;
 }
 
 void RemoveMarkedRecords() {
-    std::erase_if(StmtTable, [](const Statement& stmt) { return stmt.Flagged; });
-    StmtCount = static_cast<int>(StmtTable.size()) - 1;
+    StmtTable.EraseIf([](const Statement& stmt) { return stmt.Flagged; });
+    StmtCount = StmtTable.Count();
 }
 
 void PlaceCaret(int firstChanged) {
@@ -166,7 +160,7 @@ void DeleteStmts(int& first) {
     const bool insertLineLost = InsertMode && !MoveInsertLine();
     if (insertLineLost) EndInsertMode();
     RemoveMarkedRecords();
-    if (StmtCount > 0) At(StmtCount).Visible = true;
+    if (StmtCount > 0) SetVisible(StmtCount, true);
     RelayoutViewer();
     ResetFonts();
     PlaceCaret(firstChanged);

@@ -4,7 +4,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/NameList.h"
 #include "mainwindow/RuleModes.h"
 #include "view/Delete.h"
@@ -82,7 +82,7 @@ class LinesInForce {
 };
 
 bool IsMarked(int line) {
-    return line > 0 && StmtTable[static_cast<std::size_t>(line)].Flagged;
+    return line > 0 && StmtTable[line].Flagged;
 }
 
 bool BringsIn(const Statement& stmt, std::string_view name) {
@@ -120,12 +120,12 @@ bool Falls(const LinesInForce& ahead, int line, const Statement& stmt) {
 }  // namespace
 
 void FlagStmts(int stmt, int& count) {
-    for (Statement& each : StmtTable) each.Flagged = false;
-    StmtTable[static_cast<std::size_t>(stmt)].Flagged = true;
+    StmtTable.EditEach([](Statement& each) { each.Flagged = false; });
+    EditAt(stmt).Flagged = true;
     count = 1;
     LinesInForce inForce;
     for (int line = 1; line <= StmtCount; ++line) {
-        Statement& here = StmtTable[static_cast<std::size_t>(line)];
+        Statement& here = EditAt(line);
         if (line > stmt && Falls(inForce, line, here)) {
             here.Flagged = true;
             ++count;

@@ -1,16 +1,12 @@
 // Which free variables are fixed: in use outside the innermost open premise.
 #include <algorithm>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/NameList.h"
 #include "view/Display.h"
 
 namespace tessaryn {
 namespace {
-
-const Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
 
 // The innermost premise around a statement, itself included; 0 if there is none. Closed blocks
 // ahead of it are jumped over.

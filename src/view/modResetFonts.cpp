@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/Lex.h"
 #include "expr/NameList.h"
 #include "mainwindow/Proof.h"
@@ -22,10 +22,6 @@ constexpr int Introduction = 0;  // stands for the introduction where a statemen
 
 std::vector<int> ShownBlocks;      // statement number of each block of the surface
 bool StoredTextIsDamaged = false;  // some statement can't be lexed
-
-const Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
 
 CharFormat Format(int size, Colour colour, bool bold = false) {
     return {StatementFont, size, colour, bold};

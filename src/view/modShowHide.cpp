@@ -1,17 +1,13 @@
 // The commands of the View menu.
 #include "view/ShowHide.h"
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/Proof.h"
 #include "view/Display.h"
 #include "view/InsertMode.h"
 
 namespace tessaryn {
 namespace {
-
-Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
 
 void Redraw() {
     RelayoutViewer();
@@ -50,7 +46,7 @@ int ShowActiveLines(int first, int last) {
             line = At(line).Arg1;
             continue;
         }
-        At(line).Visible = true;
+        SetVisible(line, true);
         if (firstShown == 0) firstShown = line;
         ++line;
     }
@@ -58,7 +54,7 @@ int ShowActiveLines(int first, int last) {
 }
 
 void HideLines(int first, int last) {
-    for (int line = first; line <= last; ++line) At(line).Visible = false;
+    for (int line = first; line <= last; ++line) SetVisible(line, false);
 }
 
 void HideAllDetails() {
@@ -70,11 +66,11 @@ void HideAllDetails() {
             continue;
         }
         // A highlighted line stays as it was, shown or not.
-        if (!At(line).Highlight) At(line).Visible = false;
+        if (!At(line).Highlight) SetVisible(line, false);
         ++line;
     }
-    if (InsertMode && InsertLine > 1) At(InsertLine - 1).Visible = true;
-    if (StmtCount > 0) At(StmtCount).Visible = true;
+    if (InsertMode && InsertLine > 1) SetVisible(InsertLine - 1, true);
+    if (StmtCount > 0) SetVisible(StmtCount, true);
     Redraw();
     InsertMode ? PutCaretBehindInsertMark() : CaretToEnd();
 }
@@ -87,7 +83,7 @@ void ShowAllActive() {
             line = At(line).Arg1;
             continue;
         }
-        At(line).Visible = true;
+        SetVisible(line, true);
         ++line;
     }
     Redraw();
@@ -109,7 +105,7 @@ void ShowLastActive() {
 
 void ShowAllStmts() {
     Proof.RTB.SetFocus();
-    for (int line = 1; line <= StmtCount; ++line) At(line).Visible = true;
+    for (int line = 1; line <= StmtCount; ++line) SetVisible(line, true);
     Redraw();
     Proof.RTB.SelStart = 0;
     CaretToEnd();
@@ -118,7 +114,7 @@ void ShowAllStmts() {
 void ShowHighlights() {
     Proof.RTB.SetFocus();
     for (int line = 1; line <= StmtCount; ++line) {
-        At(line).Visible = At(line).Highlight || IsConclusion(At(line));
+        SetVisible(line, At(line).Highlight || IsConclusion(At(line)));
     }
     Redraw();
     CaretToEnd();

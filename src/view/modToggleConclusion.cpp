@@ -1,7 +1,7 @@
 // What a click and a double click in the display do while no rule waits for one.
 #include <string>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "view/Comment.h"
@@ -10,10 +10,6 @@
 
 namespace tessaryn {
 namespace {
-
-Statement& At(int number) {
-    return StmtTable[static_cast<std::size_t>(number)];
-}
 
 // First place of the line with the number, 1-based in the display; the statement must be visible.
 int NumberZoneStart(const Statement& stmt) {
@@ -30,7 +26,7 @@ bool InAnnotation(const Statement& stmt, int place) {
 
 // In place: no text changes, so the display need not be built anew.
 void ToggleHighlight(int line) {
-    Statement& stmt = At(line);
+    Statement& stmt = EditAt(line);
     stmt.Highlight = !stmt.Highlight;
     Proof.RTB.SelStart = NumberStart(stmt) - ViewOffset(stmt) - 1;
     Proof.RTB.SelLength = static_cast<int>(std::to_string(line).size());
@@ -43,11 +39,11 @@ void ToggleBlock(int conclusion) {
     if (At(premise).Visible) {
         HideLines(premise, conclusion - 1);
     } else {
-        At(premise).Visible = true;
+        SetVisible(premise, true);
         ShowActiveLines(premise + 1, conclusion - 1);  // inner blocks stay folded
     }
-    for (Statement& stmt : StmtTable) {
-        if (!stmt.Visible) stmt.ViewerStartLine = 0;
+    for (int line = 1; line <= StmtCount; ++line) {
+        if (!At(line).Visible && At(line).ViewerStartLine != 0) EditAt(line).ViewerStartLine = 0;
     }
     RelayoutViewer();
     ResetFonts();

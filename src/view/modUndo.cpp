@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "view/Display.h"
@@ -16,8 +16,8 @@ namespace tessaryn {
 namespace {
 
 struct Snapshot {
-    std::vector<Statement> table;
-    std::string text;
+    StatementTable table;
+    SharedText text;
     int insertLine = 0;
 };
 
@@ -32,7 +32,7 @@ int DeriveIntroEnd() {
 
 void Restore(const Snapshot& snapshot) {
     StmtTable = snapshot.table;
-    StmtCount = static_cast<int>(StmtTable.size()) - 1;
+    StmtCount = StmtTable.Count();
     ProofText = snapshot.text;
     IntroEnd = DeriveIntroEnd();
 }
@@ -92,7 +92,9 @@ void Undo() {
     RedoState = {std::move(StmtTable), std::move(ProofText), InsertLine};
     Restore(UndoState);
     // The delete commands take their snapshot when the marks have been set.
-    for (Statement& stmt : StmtTable) stmt.Flagged = false;
+    for (int line = 1; line <= StmtCount; ++line) {
+        if (At(line).Flagged) EditAt(line).Flagged = false;
+    }
     Finish(UndoState.insertLine);
 }
 

@@ -8,7 +8,7 @@
 
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/Proof.h"
 
 namespace tessaryn {

@@ -7,8 +7,8 @@
 #include <QTextEdit>
 
 #include "ShownForm.h"
+#include "document/Document.h"
 #include "document/PutStmt.h"
-#include "document/Statement.h"
 #include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/RuleModes.h"

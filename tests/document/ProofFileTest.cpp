@@ -120,17 +120,17 @@ TEST_F(ProofFileTest, LongTextGetsALongLength) {
     EXPECT_NE(bytes.find(length + "ccc"), std::string::npos);
     const std::optional<StoredProof> read = ReadProof(bytes);
     ASSERT_TRUE(read);
-    EXPECT_EQ(read->text, ProofText);
+    EXPECT_EQ(read->text, ProofText.View());
 }
 
 TEST_F(ProofFileTest, OneByteTextIsConvertedWithItsIndexes) {
     ASSERT_EQ(Build(EnterPremise("P & Q") + BlockProof), "");
-    ProofText.insert(0,
-                     "\xE4\x80"
-                     "b\r\n\r\n");  // "ä€b" in Windows-1252
-    for (Statement& stmt : StmtTable) ShiftIndexes(stmt, 7);
-    StmtTable[1].StartLine = 1;
-    StmtTable[1].EndUserComment = 3;
+    ProofText.Replace(0, 0,
+                      "\xE4\x80"
+                      "b\r\n\r\n");  // "ä€b" in Windows-1252
+    StmtTable.EditEach([](Statement& stmt) { ShiftIndexes(stmt, 7); });
+    EditAt(1).StartLine = 1;
+    EditAt(1).EndUserComment = 3;
     WriteFile("old.proof", WriteProof());
     ASSERT_TRUE(Open(Path("old.proof")));
     EXPECT_EQ(CheckDocument(), "");
@@ -157,37 +157,37 @@ TEST_F(ProofFileTest, EveryCutIsRefusedAndTheProofStays) {
 TEST_F(ProofFileTest, DamageIsRefused) {
     const std::pair<const char*, std::function<void()>> damages[] = {
         {"magic", nullptr},
-        {"rule 0", [] { StmtTable[2].Rule = 0; }},
-        {"rule 55", [] { StmtTable[2].Rule = 55; }},
-        {"rule -1", [] { StmtTable[2].Rule = -1; }},
-        {"negative reference", [] { StmtTable[2].Arg1 = -1; }},
-        {"reference to itself", [] { StmtTable[2].Arg1 = 2; }},
-        {"second reference forward", [] { StmtTable[2].Arg2 = 3; }},
-        {"premise closed by no Conclusion", [] { StmtTable[1].Arg1 = 3; }},
-        {"premise closed outside the table", [] { StmtTable[1].Arg1 = 99; }},
-        {"premise closed backward", [] { StmtTable[5].Arg1 = 4; }},
-        {"Conclusion without premise", [] { StmtTable[4].Arg1 = 0; }},
-        {"Conclusion of another line", [] { StmtTable[4].Arg1 = 2; }},
-        {"Conclusion of an open premise", [] { StmtTable[1].Arg1 = 0; }},
-        {"first block ahead of the text", [] { StmtTable[1].StartLine = 0; }},
+        {"rule 0", [] { EditAt(2).Rule = 0; }},
+        {"rule 55", [] { EditAt(2).Rule = 55; }},
+        {"rule -1", [] { EditAt(2).Rule = -1; }},
+        {"negative reference", [] { EditAt(2).Arg1 = -1; }},
+        {"reference to itself", [] { EditAt(2).Arg1 = 2; }},
+        {"second reference forward", [] { EditAt(2).Arg2 = 3; }},
+        {"premise closed by no Conclusion", [] { EditAt(1).Arg1 = 3; }},
+        {"premise closed outside the table", [] { EditAt(1).Arg1 = 99; }},
+        {"premise closed backward", [] { EditAt(5).Arg1 = 4; }},
+        {"Conclusion without premise", [] { EditAt(4).Arg1 = 0; }},
+        {"Conclusion of another line", [] { EditAt(4).Arg1 = 2; }},
+        {"Conclusion of an open premise", [] { EditAt(1).Arg1 = 0; }},
+        {"first block ahead of the text", [] { EditAt(1).StartLine = 0; }},
         {"no room for an introduction's line ends",
          [] {
-             ProofText.insert(0, "abc");
-             for (Statement& stmt : StmtTable) ShiftIndexes(stmt, 3);
+             ProofText.Replace(0, 0, "abc");
+             StmtTable.EditEach([](Statement& stmt) { ShiftIndexes(stmt, 3); });
          }},
-        {"gap between blocks", [] { StmtTable[2].StartLine += 1; }},
+        {"gap between blocks", [] { EditAt(2).StartLine += 1; }},
         {"text behind the last block", [] { ProofText += "\r\n"; }},
-        {"last block cut short", [] { StmtTable[6].EndRule -= 1; }},
-        {"comment ahead of its block", [] { StmtTable[3].EndUserComment = 1; }},
-        {"comment over the number", [] { StmtTable[5].EndUserComment += 1; }},
-        {"text ahead of the number", [] { StmtTable[3].StartStmt = StmtTable[3].StartLine; }},
-        {"empty text", [] { StmtTable[3].EndStmt = StmtTable[3].StartStmt - 1; }},
-        {"annotation ahead of the text", [] { StmtTable[3].StartRule = StmtTable[3].StartStmt; }},
-        {"empty annotation", [] { StmtTable[3].EndRule = StmtTable[3].StartRule - 1; }},
-        {"behind the end", [] { StmtTable[6].EndRule += 1; }},
-        {"huge index", [] { StmtTable[6].EndRule = 0x7FFFFFFF; }},
+        {"last block cut short", [] { EditAt(6).EndRule -= 1; }},
+        {"comment ahead of its block", [] { EditAt(3).EndUserComment = 1; }},
+        {"comment over the number", [] { EditAt(5).EndUserComment += 1; }},
+        {"text ahead of the number", [] { EditAt(3).StartStmt = StmtTable[3].StartLine; }},
+        {"empty text", [] { EditAt(3).EndStmt = StmtTable[3].StartStmt - 1; }},
+        {"annotation ahead of the text", [] { EditAt(3).StartRule = StmtTable[3].StartStmt; }},
+        {"empty annotation", [] { EditAt(3).EndRule = StmtTable[3].StartRule - 1; }},
+        {"behind the end", [] { EditAt(6).EndRule += 1; }},
+        {"huge index", [] { EditAt(6).EndRule = 0x7FFFFFFF; }},
         {"indexes that overflow",
-         [] { StmtTable[6].StartRule = -0x7FFFFFFF, StmtTable[6].EndStmt = 0x7FFFFFFF; }},
+         [] { EditAt(6).StartRule = -0x7FFFFFFF, EditAt(6).EndStmt = 0x7FFFFFFF; }},
     };
     for (const auto& [what, damage] : damages) {
         ASSERT_EQ(BuildVariedProof(), "");
@@ -229,7 +229,7 @@ TEST_F(ProofFileTest, MutationsAreRefusedOrHarmless) {
 
 TEST_F(ProofFileTest, UnlexableTextIsShownUnformatted) {
     ASSERT_EQ(Build(EnterPremise("P & Q") + EnterPremise("R & S")), "");
-    ProofText[static_cast<std::size_t>(StmtTable[1].StartStmt)] = '$';
+    ProofText.Replace(static_cast<std::size_t>(StmtTable[1].StartStmt), 1, "$");
     WriteFile("odd.proof", WriteProof());
     ASSERT_TRUE(Open(Path("odd.proof")));
     EXPECT_EQ(Proof.StatusLine.GetText(), "PARSER ERROR: 18. Illegal character $");

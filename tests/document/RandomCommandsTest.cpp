@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "cli/HeadlessPlatform.h"
+#include "document/Document.h"
 #include "document/Invariants.h"
 #include "document/ProofFile.h"
 #include "document/PutStmt.h"
-#include "document/Statement.h"
 #include "expr/Expression.h"
 #include "expr/NameList.h"
 #include "mainwindow/MyInputBox.h"
@@ -142,7 +142,7 @@ std::string DisplayFromRecords() {
     std::string text =
         IntroEnd > 0 ? ProofText.substr(0, static_cast<std::size_t>(IntroEnd) + 4) : "";
     for (int line = 1; line <= StmtCount; ++line) {
-        const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+        const Statement& stmt = StmtTable[line];
         if (stmt.Visible) text += ProofSlice(stmt.StartLine, stmt.EndRule + 4);
     }
     return text;
@@ -158,10 +158,6 @@ std::string WithoutGlyphs(std::string text) {
 }
 
 // --- what depends on a statement, told statement by statement
-
-const Statement& At(int line) {
-    return StmtTable[static_cast<std::size_t>(line)];
-}
 
 bool Marked(int line) {
     return line > 0 && At(line).Flagged;
@@ -201,22 +197,22 @@ bool DependsOnMarks(int line) {
 void CheckFlagStmts(int stmt) {
     int count = 0;
     FlagStmts(stmt, count);
-    const std::vector<Statement> swept = StmtTable;
-    for (Statement& each : StmtTable) each.Flagged = false;
+    const StatementTable swept = StmtTable;
+    StmtTable.EditEach([](Statement& each) { each.Flagged = false; });
     int expected = 1;
-    StmtTable[static_cast<std::size_t>(stmt)].Flagged = true;
+    EditAt(stmt).Flagged = true;
     for (int line = stmt + 1; line <= StmtCount; ++line) {
         if (!DependsOnMarks(line)) continue;
-        StmtTable[static_cast<std::size_t>(line)].Flagged = true;
+        EditAt(line).Flagged = true;
         ++expected;
     }
     EXPECT_EQ(count, expected);
     for (int line = 1; line <= StmtCount; ++line) {
-        EXPECT_EQ(swept[static_cast<std::size_t>(line)].Flagged, At(line).Flagged)
+        EXPECT_EQ(swept[line].Flagged, At(line).Flagged)
             << "line " << line << " of a deletion of line " << stmt << " in\n"
-            << ProofText;
+            << ProofText.View();
     }
-    for (Statement& each : StmtTable) each.Flagged = false;
+    StmtTable.EditEach([](Statement& each) { each.Flagged = false; });
 }
 
 TEST(RandomCommands, KeepTheDocumentInStep) {

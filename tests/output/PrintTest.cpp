@@ -111,9 +111,7 @@ TEST(Printing, SelectionGivesTheRange) {
     RelayoutViewer();
     ResetFonts();
     const auto select = [](int first, int last) {
-        const auto start = [](int line) {
-            return StmtTable[static_cast<std::size_t>(line)].ViewerStartLine - 1;
-        };
+        const auto start = [](int line) { return StmtTable[line].ViewerStartLine - 1; };
         Proof.RTB.SelStart = start(first);
         Proof.RTB.SelLength = start(last) + 1 - start(first);
     };

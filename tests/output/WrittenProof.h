@@ -4,7 +4,7 @@
 #include <string>
 
 #include "cli/HeadlessPlatform.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/RuleModes.h"
 
 namespace tessaryn {
@@ -40,7 +40,7 @@ inline void AddLine(const std::string& text, int rule, const std::string& commen
     stmt.EndRule = end();
     ProofText += "\r\n\r\n";
     stmt.Visible = depth == 0;
-    StmtTable.push_back(stmt);
+    StmtTable.Append(stmt);
 }
 
 // Line 1 is folded away under its Conclusion, line 2.

@@ -3,7 +3,7 @@
 
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/TestParser.h"
@@ -17,11 +17,11 @@ constexpr int Damaged = 3;
 void BuildDamagedProof() {
     ASSERT_EQ(Build(EnterAxiom("ALL(a):P(a)") + EnterPremise("f(x) @ s") + EnterPremise("A & B")),
               "");
-    ProofText[static_cast<std::size_t>(StmtTable[Damaged].StartStmt - 1)] = '$';
+    ProofText.Replace(static_cast<std::size_t>(StmtTable[Damaged].StartStmt - 1), 1, "$");
 }
 
 void ClickLine(int line) {
-    const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+    const Statement& stmt = StmtTable[line];
     SendClick(Proof.RTB, stmt.StartStmt - ViewOffset(stmt) - 1);
 }
 

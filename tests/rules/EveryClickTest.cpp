@@ -6,8 +6,8 @@
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
+#include "document/Document.h"
 #include "document/Invariants.h"
-#include "document/Statement.h"
 #include "expr/Lex.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -130,7 +130,7 @@ std::vector<MenuItem*> RuleItems() {
 std::vector<int> AllPlaces() {
     std::vector<int> places = {0, Proof.RTB.TextLength()};
     for (int line = 1; line <= StmtCount; ++line) {
-        const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+        const Statement& stmt = StmtTable[line];
         if (!stmt.Visible) continue;
         const auto add = [&](int index) { places.push_back(index - ViewOffset(stmt) - 1); };
         add(NumberStart(stmt));
@@ -158,7 +158,7 @@ struct Watch {
     // Begins a command or a click.
     void Begin(const MenuItem& item, int place) {
         where = item.Name + " at " + std::to_string(place);
-        text = ProofText;
+        text = ProofText.View();
         beeps = Headless.Beeps.size();
         mode = RuleMode;
         first = FirstClick;
@@ -186,7 +186,7 @@ struct Watch {
         EXPECT_EQ(CheckDocument(), "") << where;
         EXPECT_EQ(RuleMode, 0) << where;
         EXPECT_TRUE(SendChoose(Proof.optUndo)) << where;
-        EXPECT_EQ(ProofText, text) << where << ": Undo does not take it back";
+        EXPECT_EQ(ProofText.View(), text) << where << ": Undo does not take it back";
         ++written;
         return true;
     }

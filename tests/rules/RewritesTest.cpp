@@ -8,7 +8,7 @@
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/Parse.h"
 #include "expr/RandomText.h"
 #include "mainwindow/ProgramState.h"
@@ -56,7 +56,7 @@ struct Clicks {
             RuleMode = 0;
             if (StmtCount == count) continue;
             ++written[StmtTable.back().Rule];
-            ASSERT_TRUE(LastLineHolds(sameMeaning)) << ProofText;
+            ASSERT_TRUE(LastLineHolds(sameMeaning)) << ProofText.View();
             Proof.optUndo.Click();
         }
     }

@@ -5,10 +5,11 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <map>
 
 #include "cli/HeadlessPlatform.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "expr/NameList.h"
 #include "expr/Parse.h"
 #include "expr/Same.h"
@@ -33,7 +34,7 @@ const std::vector<std::string> Axioms = {"EXIST(a):P(a)", "EXIST(a):Q(a)", "ALL(
 // The lines from `line` to `end`, with the values that the names ahead of them have.
 bool LinesHold(Structure& structure, const std::vector<Expression>& lines, int line, int end) {
     if (line > end) return true;
-    const Statement& stmt = StmtTable[static_cast<std::size_t>(line)];
+    const Statement& stmt = StmtTable[line];
     const Expression& text = lines[static_cast<std::size_t>(line)];
     std::vector<std::string> fresh = NamesOf(stmt.FreeVars);
     std::erase_if(fresh, [&](const auto& name) { return structure.values.contains(name); });
@@ -45,7 +46,7 @@ bool LinesHold(Structure& structure, const std::vector<Expression>& lines, int l
     }
     // A name from an E Spec that a premise was put ahead of later outlives its block.
     const bool isSpecified = std::any_of(
-        StmtTable.begin() + 1, StmtTable.begin() + line + 1, [&](const Statement& above) {
+        StmtTable.begin(), std::next(StmtTable.begin(), line), [&](const Statement& above) {
             return above.Rule == Rule::ESpec && fresh == std::vector{above.SpecName};
         });
     return structure.Try(fresh, !isSpecified,
@@ -114,7 +115,7 @@ class User {
         if (lines.empty()) return;
         const bool isRecent = Random(2) == 0 && lines.size() > 5;
         const std::size_t line = isRecent ? lines.size() - 1 - Random(5) : Random(lines.size());
-        const Statement& stmt = StmtTable[static_cast<std::size_t>(lines[line])];
+        const Statement& stmt = StmtTable[lines[line]];
         SendClick(Proof.RTB, stmt.StartStmt - ViewOffset(stmt) - 1);
     }
 
@@ -152,11 +153,11 @@ TEST(Soundness, NoRuleLetsAFalseLineIn) {
             user.Step();
             if (step % 15 != 0) continue;
             for (Structure& structure : structures) {
-                ASSERT_TRUE(ProofHolds(structure)) << "seed " << seed << "\n" << ProofText;
+                ASSERT_TRUE(ProofHolds(structure)) << "seed " << seed << "\n" << ProofText.View();
             }
         }
         for (int line = 1; line <= StmtCount; ++line) {
-            ++written[StmtTable[static_cast<std::size_t>(line)].Rule];
+            ++written[StmtTable[line].Rule];
         }
     }
     for (const int rule :

@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "Workbench.h"
+#include "document/Document.h"
 #include "document/Invariants.h"
 #include "document/ProofFile.h"
-#include "document/Statement.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "view/Comment.h"

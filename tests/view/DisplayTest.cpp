@@ -81,7 +81,7 @@ TEST(Display, CommentsAndIntroductionAreBlueWithElementSigns) {
 TEST(Display, HandsOnTheChangedRange) {
     ASSERT_EQ(Build(EnterPremise("P & Q") + EnterPremise("R") + EnterPremise("S")), "");
     Proof.RTB.TakeChange();
-    StmtTable[2].Highlight = false;
+    EditAt(2).Highlight = false;
     ResetFonts();
     const SurfaceChange change = Proof.RTB.TakeChange();
     EXPECT_TRUE(change.any);
@@ -100,7 +100,7 @@ TEST(Display, NamesInUseOutsideTheInnermostPremiseAreFixed) {
     bool isFixed = false;
     FreeVarColourFont("x", 4, isFixed);
     EXPECT_TRUE(isFixed);
-    StmtTable[1].Flagged = true;
+    EditAt(1).Flagged = true;
     FreeVarColourFont("x", 4, isFixed);
     EXPECT_FALSE(isFixed) << "a statement about to go does not count";
 }

@@ -3,16 +3,12 @@
 
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
-#include "document/Statement.h"
+#include "document/Document.h"
 #include "mainwindow/Proof.h"
 #include "view/InsertMode.h"
 
 namespace tessaryn {
 namespace {
-
-const Statement& At(int line) {
-    return StmtTable[static_cast<std::size_t>(line)];
-}
 
 std::string Copy(int line) {
     return "choose optCopyStatement\nclick " + std::to_string(line) + "\n";

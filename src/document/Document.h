@@ -1,0 +1,63 @@
+// The proof in memory: the statement table, the one long text and what goes with them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "document/SharedText.h"
+#include "document/StatementTable.h"
+
+namespace tessaryn {
+
+inline constexpr int MaxStatements = 32767;
+
+// A value: copies share what has not changed since, so that a snapshot costs next to nothing.
+struct Document {
+    StatementTable StmtTable;  // statement n at [n], from 1
+    int StmtCount = 0;
+    SharedText ProofText;
+    int IntroEnd = 0;          // length of the introduction in bytes; 0 or negative: none
+    std::string ProofCaption;  // "" if none
+};
+
+inline Document Doc;  // the open one
+
+// Its members by their settled names.
+inline StatementTable& StmtTable = Doc.StmtTable;
+inline int& StmtCount = Doc.StmtCount;
+inline SharedText& ProofText = Doc.ProofText;
+inline int& IntroEnd = Doc.IntroEnd;
+inline std::string& ProofCaption = Doc.ProofCaption;
+
+// Statement n of the open document, to be read or to be changed.
+inline const Statement& At(int line) {
+    return Doc.StmtTable[line];
+}
+inline Statement& EditAt(int line) {
+    return Doc.StmtTable.Edit(line);
+}
+
+// Shows or hides a statement; RelayoutViewer and ResetFonts follow.
+void SetVisible(int line, bool visible);
+
+// Empties the proof.
+void ClearDocument();
+
+// Where the first visible block begins in the display, 1-based.
+int FirstViewerStartLine();
+// The visible statement whose block holds a place of the display, 1-based; 0 if none does. The line
+// ends behind the annotation belong to no block.
+int ShownStmtAt(int place);
+
+// The text between two 1-based indexes of ProofText, both included.
+std::string_view ProofSlice(int first, int last);
+// A statement's text as stored, with CR LF TAB at its line breaks.
+std::string_view StoredText(int number);
+// A statement's text without TABs: what a rule hands to Parse.
+std::string StmtText(int number);
+void RemoveTabs(std::string& text);
+
+// Assigns ViewerStartLine to the visible statements.
+void RelayoutViewer();
+
+}  // namespace tessaryn
