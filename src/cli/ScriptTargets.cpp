@@ -53,13 +53,10 @@ std::size_t FindPlace(const std::string& content, const std::string& text, int c
 
 // 1-based byte in the statement's stored text.
 int TokenPosition(int line, const std::string& written, int count) {
-    const std::string source(StoredText(line));
-    TokenList tokens;
-    std::string error;
-    int errorPos = 0;
-    Lex(source, tokens, error, errorPos);
+    const Expression stored = LexExpression(std::string(StoredText(line)));
+    const std::string& source = stored.text;
     int found = 0;
-    for (const TokenRec& token : tokens) {
+    for (const TokenRec& token : stored.tokens) {
         if (token.Position == 0) continue;
         const auto start = static_cast<std::size_t>(token.Position - 1);
         if (source.compare(start, token.Token.size(), written) != 0) continue;

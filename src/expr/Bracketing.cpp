@@ -288,7 +288,8 @@ void FillTable(Chain& chain) {
 
 }  // namespace
 
-bool BracketTokens(TokenList& tokens, NodeList& nodes, std::string& error, int& errorPos) {
+bool BracketTokens(Expression& expression) {
+    auto& [text, tokens, nodes, error, errorPos] = expression;
     Chain chain{tokens, nodes, error, errorPos, {}};
     MakeChain(chain);
     if (!WrapAtoms(chain) || !BracketFunctions(chain)) return false;

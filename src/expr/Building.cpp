@@ -217,7 +217,8 @@ void CheckBound(Builder& b) {
 
 }  // namespace
 
-void BuildNodes(TokenList& tokens, NodeList& nodes, std::string& error, int& errorPos) {
+void BuildNodes(Expression& expression) {
+    auto& [text, tokens, nodes, error, errorPos] = expression;
     Builder b{tokens, nodes, error, errorPos, {}, {}, {}};
     b.sameNameBehind.resize(tokens.size());
     b.firstUse.resize(nodes.size());

@@ -21,15 +21,4 @@ bool IsLogical(int rule) {
     return (rule >= Node::EQ && rule <= Node::Elt) || rule == Node::Prop || rule == Node::Pred;
 }
 
-void ResetExpression() {
-    NewStmtText.clear();
-    TokenTable.assign(1, {});
-    ParseTable.assign(1, {});
-    ParseError.clear();
-    ParseErrorPos = 0;
-    StmtText2.clear();
-    TokenTable2.assign(1, {});
-    ParseTable2.assign(1, {});
-}
-
 }  // namespace tessaryn

@@ -80,28 +80,32 @@ bool IsLogical(int rule);            // a formula
 inline constexpr int MaxSourceLength = 32767;
 inline constexpr int MaxTokens = 32767;
 
-// One parsed text, apart from the globals.
+// A text and what it parses to.
 struct Expression {
     std::string text;
-    TokenList tokens;   // element 0 empty
-    NodeList nodes;     // element 0 empty; the last is the root
-    std::string error;  // "" on success; otherwise the tables are unusable
-    int errorPos = 0;   // 1-based byte of text that the error is about, 0 none
+    TokenList tokens = TokenList(1);  // element 0 empty
+    NodeList nodes = NodeList(1);     // element 0 empty; the last is the root
+    std::string error;                // "" on success; otherwise the tables are unusable
+    int errorPos = 0;                 // 1-based byte of text that the error is about, 0 none
 };
 
-// The expression in hand. Parse and PutStmt read NewStmtText and write the rest.
-inline std::string NewStmtText;
-inline TokenList TokenTable(1);
-inline NodeList ParseTable(1);
-inline std::string ParseError;  // "" on success; also the result of an entry dialogue
-inline int ParseErrorPos = 0;   // 1-based byte of NewStmtText, 0 none
+inline const ParseRec& Root(const Expression& expression) {
+    return expression.nodes.back();
+}
+
+// The expression in hand, and its parts by their settled names. Parse and PutStmt read NewStmtText
+// and write the rest. ParseError is also the result of an entry dialogue.
+inline Expression InHand;
+inline std::string& NewStmtText = InHand.text;
+inline TokenList& TokenTable = InHand.tokens;
+inline NodeList& ParseTable = InHand.nodes;
+inline std::string& ParseError = InHand.error;
+inline int& ParseErrorPos = InHand.errorPos;
 
 // A second expression, kept by a rule across a parse or a dialogue.
-inline std::string StmtText2;
-inline TokenList TokenTable2(1);
-inline NodeList ParseTable2(1);
-
-// Puts the globals above into their starting state.
-void ResetExpression();
+inline Expression Second;
+inline std::string& StmtText2 = Second.text;
+inline TokenList& TokenTable2 = Second.tokens;
+inline NodeList& ParseTable2 = Second.nodes;
 
 }  // namespace tessaryn

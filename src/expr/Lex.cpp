@@ -98,7 +98,8 @@ void AddToken(std::string_view text, int position, TokenList& tokens) {
     token.Position = position;
 }
 
-void Lex(const std::string& source, TokenList& tokens, std::string& error, int& errorPos) {
+void Lex(Expression& expression) {
+    auto& [source, tokens, nodes, error, errorPos] = expression;
     tokens.assign(1, {});
     tokens.reserve(std::min<size_t>(source.size(), MaxSourceLength) / 2 + 2);
     error.clear();
@@ -126,6 +127,13 @@ void Lex(const std::string& source, TokenList& tokens, std::string& error, int& 
         errorPos = token.Position;
         return;
     }
+}
+
+Expression LexExpression(std::string text) {
+    Expression result;
+    result.text = std::move(text);
+    Lex(result);
+    return result;
 }
 
 }  // namespace tessaryn

@@ -10,16 +10,15 @@ namespace tessaryn {
 
 // The length is looked at ahead of everything, so that no long text costs anything; within it a
 // fault of the tokens or of an earlier pass comes before that of a table that grows too large.
-void ParseText(const std::string& text, TokenList& tokens, NodeList& nodes, std::string& error,
-               int& errorPos) {
+void Parse(Expression& expression) {
+    auto& [text, tokens, nodes, error, errorPos] = expression;
     nodes.assign(1, {});
     if (text.size() > MaxSourceLength) {
         error = UnableToParse;
         errorPos = 0;
     } else {
-        Lex(text, tokens, error, errorPos);
-        if (error.empty() && BracketTokens(tokens, nodes, error, errorPos))
-            BuildNodes(tokens, nodes, error, errorPos);
+        Lex(expression);
+        if (error.empty() && BracketTokens(expression)) BuildNodes(expression);
     }
     if (error.empty()) return;
     tokens.assign(1, {});
@@ -29,12 +28,12 @@ void ParseText(const std::string& text, TokenList& tokens, NodeList& nodes, std:
 Expression ParseExpression(std::string text) {
     Expression result;
     result.text = std::move(text);
-    ParseText(result.text, result.tokens, result.nodes, result.error, result.errorPos);
+    Parse(result);
     return result;
 }
 
 void Parse() {
-    ParseText(NewStmtText, TokenTable, ParseTable, ParseError, ParseErrorPos);
+    Parse(InHand);
 }
 
 }  // namespace tessaryn

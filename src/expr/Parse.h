@@ -27,17 +27,15 @@ namespace tessaryn {
 // The message of a text or a table beyond the limits.
 inline constexpr const char* UnableToParse = "Unable to parse expression";
 
-// Parses text into the given tables. error is "" on success, else a message and errorPos the
-// 1-based byte that it is about, 0 none; both tables are then empty. Of several faults the one is
-// reported that the passes meet first, which need not be the leftmost.
-void ParseText(const std::string& text, TokenList& tokens, NodeList& nodes, std::string& error,
-               int& errorPos);
+// Parses the expression's text into its other parts. The error is "" on success, else a message;
+// both tables are then empty. Of several faults the one is reported that the passes meet first,
+// which need not be the leftmost.
+void Parse(Expression& expression);
 
 // The same as a value.
 Expression ParseExpression(std::string text);
 
-// Parses NewStmtText into TokenTable, ParseTable, ParseError and ParseErrorPos. A caller that needs
-// an earlier result has copied it.
+// Parses the expression in hand. A caller that needs an earlier result has copied it.
 void Parse();
 
 }  // namespace tessaryn

@@ -118,10 +118,17 @@ void PrintConnective(Printer& printer, std::string_view sign) {
     printer.text += ' ';
 }
 
-std::string Print(const std::string& source, const TokenList& tokens, const NodeList& nodes) {
+}  // namespace
+
+std::string PrintExpression() {
+    return PrintExpression(InHand);
+}
+
+std::string PrintExpression(const Expression& expression) {
+    const NodeList& nodes = expression.nodes;
     if (nodes.size() < 2) return {};
-    Printer printer{nodes, BreaksOf(source, tokens), {}, 0, {}};
-    printer.text.reserve(source.size() * 2);
+    Printer printer{nodes, BreaksOf(expression.text, expression.tokens), {}, 0, {}};
+    printer.text.reserve(expression.text.size() * 2);
     printer.stack.reserve(64);
     printer.stack.push_back({static_cast<int>(nodes.size()) - 1, {}});
     while (!printer.stack.empty()) {
@@ -136,16 +143,6 @@ std::string Print(const std::string& source, const TokenList& tokens, const Node
         }
     }
     return std::move(printer.text);
-}
-
-}  // namespace
-
-std::string PrintExpression() {
-    return Print(NewStmtText, TokenTable, ParseTable);
-}
-
-std::string PrintExpression(const Expression& expression) {
-    return Print(expression.text, expression.tokens, expression.nodes);
 }
 
 }  // namespace tessaryn

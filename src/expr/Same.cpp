@@ -59,10 +59,11 @@ bool BindsName(const TokenRec& token) {
 }
 
 // Gives the bound variables the names v#1, v#2 ... False if there is nothing that could bind one.
-bool RenameBound(const std::string& text, TokenList& tokens, size_t nodes) {
+bool RenameBound(Expression& expression) {
+    TokenList& tokens = expression.tokens;
     if (std::ranges::none_of(tokens, BindsName)) return false;
-    const bool byText = text.find('#') != text.npos;
-    const std::vector<int> behind = LinkSameNames(tokens, nodes);
+    const bool byText = expression.text.find('#') != std::string::npos;
+    const std::vector<int> behind = LinkSameNames(tokens, expression.nodes.size());
     int counter = 0;
     for (int i = 1; i < std::ssize(tokens); i++) {
         if (!BindsName(tokens[i])) continue;
@@ -85,24 +86,42 @@ std::string WrittenText(const TokenList& tokens) {
     return text;
 }
 
-// Parses text, replaces it by the form with generated names and parses that. With nodesOnly the
+// Parses the text, replaces it by the form with generated names and parses that. With nodesOnly the
 // second parse is left out where it would build the same nodes.
-bool ParseRenamed(std::string& text, TokenList& tokens, NodeList& nodes, std::string& error,
-                  int& errorPos, bool nodesOnly) {
-    ParseText(text, tokens, nodes, error, errorPos);
-    if (!error.empty()) return false;
-    if (!RenameBound(text, tokens, nodes.size()) && nodesOnly) return true;
-    text = WrittenText(tokens);
-    ParseText(text, tokens, nodes, error, errorPos);
-    return error.empty();
+bool ParseRenamed(Expression& expression, std::string text, bool nodesOnly) {
+    expression.text = std::move(text);
+    Parse(expression);
+    if (!expression.error.empty()) return false;
+    if (!RenameBound(expression) && nodesOnly) return true;
+    expression.text = WrittenText(expression.tokens);
+    Parse(expression);
+    return expression.error.empty();
 }
 
-bool ParseRenamedGlobal(std::string text, bool nodesOnly) {
-    NewStmtText = std::move(text);
-    return ParseRenamed(NewStmtText, TokenTable, ParseTable, ParseError, ParseErrorPos, nodesOnly);
+}  // namespace
+
+bool Same(const std::string& a, const std::string& b) {
+    if (a == b) return ParseRenamed(InHand, b, false);
+    std::string second = b;  // b may be NewStmtText itself
+    if (!ParseRenamed(InHand, a, true)) return false;
+    const NodeList first = std::move(InHand.nodes);
+    return ParseRenamed(InHand, std::move(second), false) && first == InHand.nodes;
 }
 
-std::string FreeVars(const TokenList& tokens, const NodeList& nodes) {
+bool SameExpressions(const std::string& a, const std::string& b) {
+    Expression first;
+    Expression second;
+    return ParseRenamed(first, a, true) &&
+           (a == b || (ParseRenamed(second, b, true) && first.nodes == second.nodes));
+}
+
+std::string CollectFreeVars() {
+    return FreeVarsOf(InHand);
+}
+
+std::string FreeVarsOf(const Expression& expression) {
+    const TokenList& tokens = expression.tokens;
+    const NodeList& nodes = expression.nodes;
     std::string list;
     std::vector<bool> seen(nodes.size());
     for (size_t i = 2; i < tokens.size(); i++) {
@@ -113,34 +132,6 @@ std::string FreeVars(const TokenList& tokens, const NodeList& nodes) {
         if (nodes[node].Rule == Node::Atom && !tokens[i].Bound) AppendName(list, tokens[i].Token);
     }
     return list;
-}
-
-}  // namespace
-
-bool Same(const std::string& a, const std::string& b) {
-    if (a == b) return ParseRenamedGlobal(b, false);
-    std::string second = b;  // b may be NewStmtText itself
-    if (!ParseRenamedGlobal(a, true)) return false;
-    const NodeList first = std::move(ParseTable);
-    return ParseRenamedGlobal(std::move(second), false) && first == ParseTable;
-}
-
-bool SameExpressions(const std::string& a, const std::string& b) {
-    Expression first;
-    Expression second;
-    const auto parse = [](Expression& to, const std::string& text) {
-        to.text = text;
-        return ParseRenamed(to.text, to.tokens, to.nodes, to.error, to.errorPos, true);
-    };
-    return parse(first, a) && (a == b || (parse(second, b) && first.nodes == second.nodes));
-}
-
-std::string CollectFreeVars() {
-    return FreeVars(TokenTable, ParseTable);
-}
-
-std::string FreeVarsOf(const Expression& expression) {
-    return FreeVars(expression.tokens, expression.nodes);
 }
 
 }  // namespace tessaryn

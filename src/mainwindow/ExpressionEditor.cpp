@@ -308,10 +308,7 @@ void ExpressionEditor::ClearMarks() {
 
 void ExpressionEditor::MarkParseError() {
     if (ParseErrorPos <= 0) return;
-    TokenList tokens;
-    std::string lexError;
-    int lexErrorPos = 0;
-    Lex(NewStmtText, tokens, lexError, lexErrorPos);
+    TokenList tokens = LexExpression(NewStmtText).tokens;
     // Line breaks ahead of the expression stand in the box only.
     const int ahead = static_cast<int>(WholeExpression().find(NewStmtText));
     const auto token = std::find_if(tokens.begin() + 1, tokens.end(), [](const TokenRec& rec) {

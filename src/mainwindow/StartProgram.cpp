@@ -30,7 +30,7 @@
 namespace tessaryn {
 
 void StartProgram() {
-    ResetExpression();
+    InHand = Second = {};
     RuleMode = Arg1Pending = Arg2Pending = 0;
     SpecName.clear();
     BoundVarName.clear();

@@ -100,12 +100,9 @@ std::vector<CharFormat> StatementFormats(const Statement& stmt, std::string_view
 
 void AddStatementRuns(RunBuilder& runs, const Statement& stmt, int number) {
     const std::string_view text = StoredText(number);
-    TokenList tokens;
-    std::string error;
-    int errorPos = 0;
-    Lex(std::string(text), tokens, error, errorPos);
-    if (!error.empty()) tokens.resize(1);
-    const std::vector<CharFormat> formats = StatementFormats(stmt, text, tokens);
+    Expression lexed = LexExpression(std::string(text));
+    if (!lexed.error.empty()) lexed.tokens.resize(1);
+    const std::vector<CharFormat> formats = StatementFormats(stmt, text, lexed.tokens);
     int place = stmt.StartStmt - stmt.StartLine;
     for (const CharFormat& format : formats) runs.Until(++place, format);
 }
@@ -191,11 +188,7 @@ void AppendIntroduction(std::string& text) {
 }
 
 std::string LexError(int number) {
-    TokenList tokens;
-    std::string error;
-    int errorPos = 0;
-    Lex(std::string(StoredText(number)), tokens, error, errorPos);
-    return error;
+    return LexExpression(std::string(StoredText(number))).error;
 }
 
 // Reports the statements that can't be lexed, each in its turn; the last message stays.

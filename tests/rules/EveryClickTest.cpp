@@ -135,11 +135,7 @@ std::vector<int> AllPlaces() {
         const auto add = [&](int index) { places.push_back(index - ViewOffset(stmt) - 1); };
         add(NumberStart(stmt));
         add(stmt.StartRule + 1);
-        TokenList tokens;
-        std::string error;
-        int errorPos = 0;
-        Lex(std::string(StoredText(line)), tokens, error, errorPos);
-        for (const TokenRec& token : tokens) {
+        for (const TokenRec& token : LexExpression(std::string(StoredText(line))).tokens) {
             if (token.Position > 0) add(stmt.StartStmt + token.Position - 1);
         }
     }
