@@ -115,6 +115,10 @@ void ExpectNo(ScriptRun& run, Arguments& arguments) {
         if (&TopForm() != &Proof) throw ActionFailed{TopForm().Name + " is open"};
     } else if (what == "beep") {
         if (Headless.Beeps.size() > run.beepsBefore) throw ActionFailed{"there was a beep"};
+    } else if (what == "message") {
+        if (Headless.Messages.size() > run.messagesBefore) {
+            throw ActionFailed{"a message box was shown: " + Quoted(Headless.Messages.back().text)};
+        }
     } else {
         throw ActionFailed{"can't expect no " + what};
     }

@@ -9,6 +9,7 @@
 #include "cli/Script.h"
 #include "document/Invariants.h"
 #include "text/Encoding.h"
+#include "view/Display.h"
 
 namespace tessaryn {
 
@@ -81,7 +82,8 @@ bool DoNext(ScriptRun& run) {
 // A command that waits in a modal form may be half done.
 void CheckState(const ScriptRun& run) {
     if (!run.checkDocument || ModalFormOpen()) return;
-    const std::string fault = CheckDocument();
+    std::string fault = CheckDocument();
+    if (fault.empty()) fault = CheckDisplay();
     if (!fault.empty()) throw ActionFailed{"the document does not agree with itself: " + fault};
 }
 

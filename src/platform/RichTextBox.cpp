@@ -210,6 +210,11 @@ std::vector<FormatRun> RichTextBox::RunsIn(int first, int last) {
     return content_.RunsIn(Limited(first), Limited(last));
 }
 
+std::vector<FormatRun> RichTextBox::PeekAtRuns() const {
+    TextBlocks copy = content_;
+    return copy.RunsIn(0, TextLength());
+}
+
 CharFormat RichTextBox::FormatAt(int position) {
     if (TextLength() == 0) return InsertionFormat();
     return content_.FormatAt(std::clamp(position, 0, TextLength() - 1));

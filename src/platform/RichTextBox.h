@@ -116,6 +116,8 @@ struct RichTextBox : Control {
     // Runs as long as they can be, in order, covering positions first to last - 1.
     std::vector<FormatRun> RunsIn(int first, int last);
     std::vector<FormatRun> Runs() { return RunsIn(0, TextLength()); }
+    // The same, but formats that nobody has asked for yet are left for later.
+    std::vector<FormatRun> PeekAtRuns() const;
     CharFormat FormatAt(int position);
     // Gives a stretch one format, whatever the selection is. Cheaper than selecting.
     void SetFormat(int start, int length, const CharFormat& format);
@@ -129,8 +131,9 @@ struct RichTextBox : Control {
     using BlockFormatter = TextBlocks::Formatter;
     // Replaces the whole content. Blocks at the start and at the end that have the same key and
     // bytes as before keep their formats and are not reported as changed; the others are formatted
-    // when first needed. The formatter must stay valid until the next SetBlocks, SetText or
-    // SetTextRTF.
+    // when first needed. Until the next SetBlocks, SetText or SetTextRTF the formatter must stay
+    // valid and give a block the runs that belong to its key: what it reads may change only once
+    // the block has been reformatted.
     void SetBlocks(std::string text, const std::vector<Block>& blocks, BlockFormatter formatter);
 
     // --- for the front end

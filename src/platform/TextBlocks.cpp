@@ -36,7 +36,7 @@ FormatTable::Id FormatTable::Intern(const CharFormat& format) {
         return Intern(limited);
     }
     const auto [entry, added] = ids.try_emplace(format, static_cast<Id>(formats.size()));
-    if (added) formats.push_back(&entry->first);
+    if (added) formats.push_back(format);
     return entry->second;
 }
 
@@ -127,7 +127,7 @@ std::size_t TextBlocks::BlockAt(int position) {
 
 // --- reading
 
-const CharFormat& TextBlocks::FormatAt(int position) {
+CharFormat TextBlocks::FormatAt(int position) {
     const std::size_t index = BlockAt(position);
     StoredBlock& block = blocks[index];
     EnsureFormatted(block);

@@ -29,7 +29,7 @@ struct FormatTable {
     using Id = std::uint32_t;
 
     Id Intern(const CharFormat& format);  // limits size and colour to what there is
-    const CharFormat& operator[](Id id) const { return *formats[id]; }
+    const CharFormat& operator[](Id id) const { return formats[id]; }
     void Clear();
 
   private:
@@ -37,7 +37,7 @@ struct FormatTable {
         std::size_t operator()(const CharFormat& format) const;
     };
     std::unordered_map<CharFormat, Id, Hash> ids;
-    std::vector<const CharFormat*> formats;  // the keys of ids, by number
+    std::vector<CharFormat> formats;  // by number
 };
 
 struct TextBlocks {
@@ -52,7 +52,7 @@ struct TextBlocks {
     int Length() const { return static_cast<int>(text.size()); }
 
     // Positions must lie within the text here and below.
-    const CharFormat& FormatAt(int position);  // of the character there; the text is not empty
+    CharFormat FormatAt(int position);  // of the character there; the text is not empty
     std::vector<FormatRun> RunsIn(int first, int last);
 
     // Each of these tells what it changed. Runs given need not cover the text: what they leave out

@@ -27,6 +27,9 @@ inline constexpr Colour FreeGreen = Rgb(0, 175, 0);
 // changed is handed on, and a statement is lexed and coloured when its place is first looked at.
 void ResetFonts();
 
+// "", or how the display differs from one that is built from nothing. Changes nothing.
+std::string CheckDisplay();
+
 // Lexes all stored text. A statement that can't be lexed, which only a damaged file can hold, is
 // reported by this and by each ResetFonts from then on until a sound document replaces it.
 void CheckStoredText();

@@ -4,6 +4,7 @@
 // glyph swaps: "@" is shown as "e" in font Symbol, and a Conclusion's "4" as "5" in font Webdings
 // while its block is folded. One surface block stands for one statement; its runs are worked out on
 // demand.
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <utility>
@@ -202,30 +203,60 @@ void ReportDamagedStatements() {
     }
 }
 
-}  // namespace
-
-void ResetFonts() {
+struct Content {
     std::string text;
-    text.reserve(ProofText.size());
-    std::vector<RichTextBox::Block> blocks;
-    blocks.reserve(static_cast<std::size_t>(StmtCount) + 1);
-    ShownBlocks.clear();
+    std::vector<TextBlocks::Block> blocks;
+    std::vector<int> numbers;  // of each block's statement
+};
+
+Content ContentFromDocument() {
+    Content content;
+    content.text.reserve(ProofText.size());
+    content.blocks.reserve(static_cast<std::size_t>(StmtCount) + 1);
     if (IntroEnd > 0) {
-        AppendIntroduction(text);
-        blocks.push_back({IntroEnd + 4, static_cast<std::uint64_t>(StmtFontSize)});
-        ShownBlocks.push_back(Introduction);
+        AppendIntroduction(content.text);
+        content.blocks.push_back({IntroEnd + 4, static_cast<std::uint64_t>(StmtFontSize)});
+        content.numbers.push_back(Introduction);
     }
     for (int number = 1; number <= StmtCount; ++number) {
         const Statement& stmt = At(number);
         if (!stmt.Visible) continue;
-        AppendBlock(text, stmt);
-        blocks.push_back({BlockLength(stmt), BlockKey(stmt)});
-        ShownBlocks.push_back(number);
+        AppendBlock(content.text, stmt);
+        content.blocks.push_back({BlockLength(stmt), BlockKey(stmt)});
+        content.numbers.push_back(number);
     }
-    Proof.RTB.SetBlocks(std::move(text), blocks, BlockRuns);
+    return content;
+}
+
+// Where two rows of runs that cover the same text differ first, in words.
+std::string Difference(const std::vector<FormatRun>& shown, const std::vector<FormatRun>& rebuilt) {
+    const auto differing =
+        std::mismatch(shown.begin(), shown.end(), rebuilt.begin(), rebuilt.end()).first;
+    if (differing == shown.end()) return "";
+    return "the format shown at " + std::to_string(differing->start) +
+           " differs from that of a rebuild";
+}
+
+}  // namespace
+
+void ResetFonts() {
+    Content content = ContentFromDocument();
+    ShownBlocks = std::move(content.numbers);
+    Proof.RTB.SetBlocks(std::move(content.text), content.blocks, BlockRuns);
     Proof.RTB.SelLength = 0;
     Proof.StatusLine.SelAlignment = Alignment::Center;
     if (StoredTextIsDamaged) ReportDamagedStatements();
+}
+
+std::string CheckDisplay() {
+    Content content = ContentFromDocument();
+    if (content.text != Proof.RTB.GetText()) {
+        return "the display's text differs from that of a rebuild";
+    }
+    const int length = Proof.RTB.TextLength();
+    TextBlocks rebuilt;
+    rebuilt.SetBlocks(std::move(content.text), content.blocks, BlockRuns);
+    return Difference(Proof.RTB.PeekAtRuns(), rebuilt.RunsIn(0, length));
 }
 
 void CheckStoredText() {

@@ -24,13 +24,14 @@ bool InAnnotation(const Statement& stmt, int place) {
     return stmt.StartRule - ViewOffset(stmt) <= place && place <= ViewerEndRule(stmt);
 }
 
-// In place: no text changes, so the display need not be built anew.
+// In place: no text changes, so the display need not be built anew. The display goes first: a block
+// that was not in sight yet gets its formats only now, from the record as it was shown.
 void ToggleHighlight(int line) {
     Statement& stmt = EditAt(line);
-    stmt.Highlight = !stmt.Highlight;
     Proof.RTB.SelStart = NumberStart(stmt) - ViewOffset(stmt) - 1;
     Proof.RTB.SelLength = static_cast<int>(std::to_string(line).size());
-    Proof.RTB.SelBold = stmt.Highlight;
+    Proof.RTB.SelBold = !stmt.Highlight;
+    stmt.Highlight = !stmt.Highlight;
     Proof.RTB.SelStart = NumberZoneStart(stmt) - 1;
 }
 

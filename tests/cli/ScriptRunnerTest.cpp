@@ -154,6 +154,7 @@ TEST(ScriptRunner, ExpectationsTellWhatTheyFound) {
                        {"expect beep", "expected a beep"},
                        {"choose optSplit\nclick 1\nexpect no beep", "there was a beep"},
                        {"expect message \"\"", "no message box was shown"},
+                       {"save \".\"\nexpect no message", "a message box was shown: \"Unable"},
                    });
 }
 

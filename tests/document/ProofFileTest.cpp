@@ -63,16 +63,21 @@ std::string BuildVariedProof() {
 
 TEST_F(ProofFileTest, PremiseByteForByte) {
     ASSERT_EQ(Build(EnterPremise("P")), "");
+    EditAt(1).SpareVars = " x ";
+    EditAt(1).Flagged = true;
+    EditAt(1).NewNumber = 7;
     const std::string expected(
         "Tessaryn 1\x01\x00\x00\x00"
         "\x01\x00\x00\x00\x00\x00"                          // rule, lines
-        "\x00\x00\x00\x00\x00\x00\x00\x00\xFF\xFF"          // names, visible
+        "\x00\x00\x00\x00\x00\x00\x03\x00 x \xFF\xFF"       // names, visible
         "\x01\x00\x00\x00\x00\x00\x00\x00\x03\x00\x00\x00"  // indexes
         "\x03\x00\x00\x00\x07\x00\x00\x00\x0D\x00\x00\x00"
-        "\x01\x00\x00\x00\x00\x00\x00\x00\xFF\xFF"  // on the display
+        "\x01\x00\x00\x00\xFF\xFF\x07\x00\xFF\xFF"  // on the display, marks, highlight
         "\x11\x00"
         "1\tP\r\n\tPremise\r\n\r\n",
-        83);
+        86);
+    EXPECT_EQ(WriteProof(), expected);
+    EditAt(1) = ReadProof(expected)->table[1];
     EXPECT_EQ(WriteProof(), expected);
 }
 

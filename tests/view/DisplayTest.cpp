@@ -65,15 +65,15 @@ TEST(Display, ClosedBlockAndTriangle) {
 
 TEST(Display, CommentsAndIntroductionAreBlueWithElementSigns) {
     StartProof("", "In @ s");
-    AddLine("P", Rule::Premise, "@ é");
+    AddLine("P", Rule::Premise, "@@ é");
     RelayoutViewer();
     ResetFonts();
-    EXPECT_EQ(Look().substr(0, 86),
+    EXPECT_EQ(Look().substr(0, 87),
               "In |C12 000096\n"
               "e|S12 000096\n"
               " s|C12 000096\n"
               "....|C12 000000\n"
-              "e|S12 000096\n"
+              "ee|S12 000096\n"
               " é|C12 000096\n");
 }
 

@@ -86,6 +86,16 @@ TEST(ShowHide, LinesInSight) {
     }
 }
 
+TEST(ShowHide, NewLinesOfSomeRulesAreHighlights) {
+    ASSERT_EQ(Build(EnterAxiom("ALL(a):P(a) & EXIST(b):Q(b)") + "choose optSplit\nclick 1\n" +
+                    "choose optSpec\nclick 3\ntype \"u\\n\"\n" +
+                    "choose optSpec\nclick 2\nset RTB \"u\"\nchoose cmdContinue\n" + Copy(1) +
+                    "choose optSplit\nclick 6\n" + EnterPremise("P & Q") +
+                    "choose optSplit\nclick 9\nchoose optShowHighlights\n"),
+              "");
+    EXPECT_EQ(ShownLines(), "1 2 3 4 9 10 11") << "not U Spec, nor Split of a copy";
+}
+
 TEST(ShowHide, CaretsBehindAnnotations) {
     ASSERT_EQ(Build(NestedBlocks() + "click 10 rule\n"), "");
     EXPECT_EQ(Proof.RTB.SelStart, ViewerEndRule(At(10)));
