@@ -49,11 +49,15 @@ void ExitCommand() {
     }
 }
 
-void HelpCommand() {
-    SetPrompt("");
+void ShowManual() {
     if (!ShowHelpFile(AppPath + "\\Tessaryn.chm")) {
         MsgBox("Help file \"Tessaryn.chm\" not found", "SYSTEM ERROR");
     }
+}
+
+void HelpCommand() {
+    SetPrompt("");
+    ShowManual();
 }
 
 void WebSiteCommand() {
