@@ -8,6 +8,9 @@ namespace tessaryn {
 void DeleteAllSub();
 void DeleteAllRef();
 
+// Forgets what an earlier deletion, or a file, has left in Flagged and NewNumber.
+void ClearMarks();
+
 // Marks a statement and all that depends on it, and gives their number. It depends if it refers to
 // a marked line, if it is the Conclusion behind one, or if one of its free variables would lose the
 // line that brought it in, come in twice, or turn from red to green or back.

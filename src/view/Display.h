@@ -54,11 +54,8 @@ inline WorkAreaForm WorkArea;
 // signs shown.
 void ReformatWA(Colour colour);
 
-// Is `name`, in statement `stmt`, already in use outside the innermost open premise? Statements
-// with Flagged set count as gone.
-void FreeVarColourFont(const std::string& name, int stmt, bool& isFixed);
-
-// The names of a list that FreeVarColourFont finds fixed in a statement, as a name list.
+// The names of a list that are, for statement `stmt`, already in use outside its innermost open
+// premise, as a name list.
 std::string FixedNames(const std::string& names, int stmt);
 
 }  // namespace tessaryn

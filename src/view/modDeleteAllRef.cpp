@@ -23,7 +23,7 @@ bool ConfirmOthers(int others) {
 
 void ForgetMarks() {
     OperationCancelled = false;
-    StmtTable.EditEach([](Statement& stmt) { stmt.Flagged = false; });
+    ClearMarks();
 }
 
 }  // namespace

@@ -22,6 +22,7 @@ void DeleteAllSub() {
     int first = StmtToDelete();
     if (first == 0) return;
     SetPrompt("");
+    ClearMarks();
     for (int line = first; line <= StmtCount; ++line) {
         EditAt(line).Flagged = true;
     }

@@ -119,8 +119,16 @@ bool Falls(const LinesInForce& ahead, int line, const Statement& stmt) {
 
 }  // namespace
 
+void ClearMarks() {
+    for (int line = 1; line <= StmtCount; ++line) {
+        if (!At(line).Flagged && At(line).NewNumber == 0) continue;
+        EditAt(line).Flagged = false;
+        EditAt(line).NewNumber = 0;
+    }
+}
+
 void FlagStmts(int stmt, int& count) {
-    StmtTable.EditEach([](Statement& each) { each.Flagged = false; });
+    ClearMarks();
     EditAt(stmt).Flagged = true;
     count = 1;
     LinesInForce inForce;

@@ -14,9 +14,7 @@ int InnermostPremise(int stmt) {
     int i = stmt;
     while (i >= 1) {
         const Statement& here = At(i);
-        if (here.Flagged) {
-            --i;
-        } else if (IsConclusion(here)) {
+        if (IsConclusion(here)) {
             i = here.Arg1 - 1;
         } else if (here.Rule == 1) {
             return i;
@@ -32,9 +30,7 @@ void RemoveNamesInUse(std::vector<std::string>& names, int limit) {
     int i = 1;
     while (i < limit && !names.empty()) {
         const Statement& here = At(i);
-        if (here.Flagged) {
-            ++i;
-        } else if (IsClosedPremise(here) && here.Arg1 < limit && !At(here.Arg1).Flagged) {
+        if (IsClosedPremise(here) && here.Arg1 < limit) {
             i = here.Arg1;
         } else {
             std::erase_if(names,
@@ -57,10 +53,6 @@ std::string FixedNames(const std::string& names, int stmt) {
         if (std::find(fresh.begin(), fresh.end(), name) == fresh.end()) AppendName(fixed, name);
     }
     return fixed;
-}
-
-void FreeVarColourFont(const std::string& name, int stmt, bool& isFixed) {
-    isFixed = !FixedNames(" " + name + " ", stmt).empty();
 }
 
 }  // namespace tessaryn

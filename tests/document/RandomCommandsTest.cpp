@@ -171,6 +171,21 @@ bool KnownAhead(const std::string& name, int line) {
     return false;
 }
 
+// Is the name in use outside the innermost premise around the line, with what is marked gone?
+bool IsFixed(const std::string& name, int line) {
+    int premise = line;
+    while (premise >= 1 && (Marked(premise) || At(premise).Rule != Rule::Premise)) {
+        const bool closes = !Marked(premise) && IsConclusion(At(premise));
+        premise = (closes ? At(premise).Arg1 : premise) - 1;
+    }
+    for (int i = 1; i < premise;) {
+        const bool closed = IsClosedPremise(At(i)) && At(i).Arg1 < premise && !Marked(At(i).Arg1);
+        if (!Marked(i) && !closed && HoldsName(At(i).FreeVars, name)) return true;
+        i = closed && !Marked(i) ? At(i).Arg1 : i + 1;
+    }
+    return premise < 1;
+}
+
 bool DependsOnMarks(int line) {
     const Statement& stmt = At(line);
     if (Marked(stmt.Arg1) || Marked(stmt.Arg2)) return true;
@@ -180,9 +195,7 @@ bool DependsOnMarks(int line) {
         const bool bringsIn = stmt.Rule == Rule::ESpec && stmt.SpecName == name;
         const bool mayBringIn = bringsIn || stmt.Rule == Rule::Premise || stmt.Rule == Rule::Axiom;
         if (known ? bringsIn : !mayBringIn) return true;
-        bool fixed = false;
-        FreeVarColourFont(name, line, fixed);
-        if (fixed != HoldsName(stmt.FixedVars, name)) return true;
+        if (IsFixed(name, line) != HoldsName(stmt.FixedVars, name)) return true;
     }
     return false;
 }

@@ -46,7 +46,7 @@ TEST(Comments, SurviveEditingSavingReopeningAndUndo) {
         expectAll("after editing");
         const auto stored = ReadProof(WriteProof());
         ASSERT_TRUE(stored);
-        EXPECT_TRUE(stored->text == ProofText);
+        EXPECT_TRUE(stored->ProofText == ProofText);
         SetComment(3, "");
         Undo();
         expectAll("after undo");
