@@ -80,12 +80,15 @@ std::optional<RunRequest> ReadRunRequest(const Words& words) {
     return request;
 }
 
+constexpr std::size_t MaxScript = 1U << 26;  // what goes on for longer need not have an end
+
 // Nothing if the stream can't be read to its end.
 std::optional<std::string> ReadAll(std::istream& source) {
     std::string text;
     char block[65536];
     while (source.read(block, sizeof block) || source.gcount() > 0) {
         text.append(block, static_cast<std::size_t>(source.gcount()));
+        if (text.size() > MaxScript) return std::nullopt;
     }
     if (!source.eof()) return std::nullopt;
     return text;
@@ -121,8 +124,7 @@ int SameCommand(const Words& words, const Streams& streams) {
 // Opens a proof as the window would. False: refused, with the reason on err.
 bool OpenProof(const std::string& file, std::ostream& err) {
     StartHeadless();
-    ProofFileName = file;
-    ReadProofFile("");
+    ReadProofFile(file);
     if (!OperationCancelled) return true;
     err << file << ": " << BoxText(Proof.StatusLine);
     if (!Headless.Beeps.empty()) err << " (" << Headless.Beeps.back() << ')';

@@ -53,10 +53,26 @@ bool IsPair(const Json& value) {
 // answer: gives the output line for a line's value, false if that has the wrong shape.
 using Answerer = std::function<bool(const Json& value, std::string& line)>;
 
+constexpr std::size_t MaxLine = 1U << 22;  // far beyond any expression
+
+// False at the end. A line that is too long comes in part, and is no JSON any more.
+bool NextLine(std::istream& in, std::string& line) {
+    line.clear();
+    using Traits = std::istream::traits_type;
+    std::streambuf& source = *in.rdbuf();
+    while (line.size() < MaxLine) {
+        const auto character = source.sbumpc();
+        if (Traits::eq_int_type(character, Traits::eof())) return !line.empty();
+        if (character == '\n') return true;
+        line += Traits::to_char_type(character);
+    }
+    return true;
+}
+
 int AnswerLines(std::istream& in, std::ostream& out, std::ostream& err, const char* shape,
                 const Answerer& answer) {
     int number = 0;
-    for (std::string line; std::getline(in, line);) {
+    for (std::string line; NextLine(in, line);) {
         ++number;
         std::string reply;
         if (!answer(Json::parse(line, nullptr, false), reply)) {

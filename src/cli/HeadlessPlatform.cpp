@@ -143,12 +143,22 @@ bool ShowSave(CommonDialog& dialog) {
     return TakeFileReply(dialog);
 }
 
-void SetClipboard(const Clip& content) {
-    Headless.Clipboard = {WithCrLf(content.plain), content.rtf};
+void ClipboardSetText(const std::string& text) {
+    Headless.ClipText = WithCrLf(text);
+    Headless.ClipRtf.clear();
 }
 
-Clip ClipboardContent() {
-    return Headless.Clipboard;
+void ClipboardSetRtf(const std::string& rtf, const std::string& plainText) {
+    Headless.ClipText = WithCrLf(plainText);
+    Headless.ClipRtf = rtf;
+}
+
+std::string ClipboardText() {
+    return Headless.ClipText;
+}
+
+std::string ClipboardRtf() {
+    return Headless.ClipRtf;
 }
 
 bool PointerBeyondRightEdge(const Control&) {

@@ -36,7 +36,8 @@ struct HeadlessState {
     std::vector<CommonDialog> FileDialogs;  // as they were asked
     std::vector<std::string> Pages;         // of the last print
 
-    Clip Clipboard;
+    std::string ClipText;
+    std::string ClipRtf;
 
     std::vector<OpenForm> Forms;  // bottom to top; hidden ones may still be among them
 

@@ -10,7 +10,6 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "text/Encoding.h"
-#include "view/TextExchange.h"
 
 namespace tessaryn {
 
