@@ -1,9 +1,6 @@
 #include "desktop/EditBox.h"
 
 #include <QContextMenuEvent>
-#include <QDragLeaveEvent>
-#include <QDropEvent>
-#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -11,10 +8,10 @@
 #include <QTextBlock>
 #include <algorithm>
 
-#include "desktop/Clipboard.h"
 #include "desktop/Desktop.h"
 #include "desktop/PaintedText.h"
-#include "view/TextExchange.h"
+#include "mainwindow/ExpressionEditor.h"
+#include "view/Display.h"
 
 namespace tessaryn {
 
@@ -80,6 +77,8 @@ EditBox::EditBox(RichTextBox& box, QWidget* parent) : QTextEdit(parent), box_(bo
     setAcceptRichText(false);
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
+    setAcceptDrops(false);
+    viewport()->setAcceptDrops(false);
     setFont(FontOf({}));
     if (!box.MultiLine) {
         setLineWrapMode(NoWrap);
@@ -241,10 +240,7 @@ void EditBox::mouseMoveEvent(QMouseEvent* event) {
                      textCursor().position() > there.position() &&
                      textCursor().block() == there.block();
     if (!won) QTextEdit::mouseMoveEvent(event);
-    // The move may have begun a drag, which is over by now. What was dragged elsewhere stays here.
-    if (document()->revision() != revision_) ShowContent();
-    const bool dragged = (QGuiApplication::mouseButtons() & Qt::LeftButton) == 0;
-    if (box_.MouseMove && !dragged) Dispatch(box_.MouseMove);
+    if (box_.MouseMove) Dispatch(box_.MouseMove);
 }
 
 void EditBox::mouseReleaseEvent(QMouseEvent* event) {
@@ -268,36 +264,28 @@ void EditBox::contextMenuEvent(QContextMenuEvent* event) {
     Dispatch([this] { box_.MouseUp(MouseButton::Right); });
 }
 
-// --- text from and for elsewhere: also the toolkit's own keys, the middle button and drags
-
-QMimeData* EditBox::createMimeDataFromSelection() const {
-    const_cast<EditBox*>(this)->Pull();  // NOLINT: no change that anyone could see
-    return MimeDataOf(SelectionOf(box_));
-}
+// --- what comes from elsewhere: plain text only
 
 bool EditBox::canInsertFromMimeData(const QMimeData* source) const {
-    return HoldsText(*source);
+    return source->hasText();
 }
 
+// The middle button and Shift+Insert come here. As with Paste, the text has the font of statements
+// wherever it goes, and "@" becomes the element sign.
 void EditBox::insertFromMimeData(const QMimeData* source) {
-    const Clip content = ClipOf(*source);
-    Dispatch([&] { SendPaste(box_, content); });
-}
-
-// What comes from elsewhere is a copy.
-void EditBox::dropEvent(QDropEvent* event) {
-    QDragLeaveEvent over;
-    QTextEdit::dragLeaveEvent(&over);
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    const bool within = event->source() == viewport();
-    const Clip content = ClipOf(*event->mimeData());
-    const QTextCursor place = cursorForPosition(event->position().toPoint());
+    if (isReadOnly() || !source->hasText()) return;
+    const std::string text = source->text().toStdString();
     Dispatch([&] {
-        const int to = bytes_[static_cast<std::size_t>(place.position())];
-        if (within) return MoveSelection(box_, to);
-        box_.SelStart = to;
-        SendPaste(box_, content);
+        box_.SelText = "";
+        box_.SelFontName = StatementFont;
+        std::size_t start = 0;
+        for (auto at = text.find('@'); at != text.npos; at = text.find('@', start)) {
+            box_.TypeText(text.substr(start, at - start));
+            InsertElementSign(box_);
+            start = at + 1;
+        }
+        box_.TypeText(text.substr(start));
+        if (box_.Change) box_.Change();
     });
 }
 

@@ -9,7 +9,6 @@
 #include <QTimer>
 
 #include "desktop/Desktop.h"
-#include "desktop/HelpViewer.h"
 #include "desktop/InputWatch.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
@@ -139,8 +138,7 @@ void ForgetNote() {
 Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons,
               Answer defaultAnswer) {
     SyncWindows();
-    QMessageBox box(TopWindow());
-    LeaveManualUsable(box);
+    QMessageBox box(QApplication::activeWindow());
     box.setWindowTitle(ToQt(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQt(text));

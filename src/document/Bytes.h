@@ -4,7 +4,9 @@
 // the true length in 32 bits. Booleans are 16-bit, True = -1.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -41,18 +43,26 @@ class ByteWriter {
     std::string out_;
 };
 
-// Reads past the end give zeroes and clear Good.
+// Where bytes come from: puts up to `count` of the next ones to a place. 0 at the end.
+using ByteSource = std::function<std::size_t(char* to, std::size_t count)>;
+
+// Reads past the end give zeroes and clear Good. No length that is read is believed beyond the end,
+// so that nothing is ever made larger than what there is to read.
 class ByteReader {
   public:
-    explicit ByteReader(std::string_view bytes) : bytes_(bytes) {}
+    explicit ByteReader(std::string_view bytes) : window_(bytes), left_(bytes.size()) {}
+    // Reads from the source as it goes, `size` bytes at most.
+    ByteReader(ByteSource source, std::uint64_t size) : source_(std::move(source)), left_(size) {}
+
+    ByteReader(const ByteReader&) = delete;
+    ByteReader& operator=(const ByteReader&) = delete;
+
     bool Good() const { return good_; }
-    std::string_view Bytes(std::size_t count) {
-        if (count > bytes_.size() - at_) {
-            good_ = false;
-            return {};
-        }
-        at_ += count;
-        return bytes_.substr(at_ - count, count);
+    std::string Bytes(std::size_t count) {
+        good_ = good_ && count <= left_;
+        std::string bytes(good_ ? count : 0, '\0');
+        Fill(bytes.data(), bytes.size());
+        return bytes;
     }
     int Int16() { return static_cast<std::int16_t>(LittleEndian(2)); }
     int Int32() { return static_cast<std::int32_t>(LittleEndian(4)); }
@@ -60,21 +70,43 @@ class ByteReader {
     std::string String() {
         std::size_t length = LittleEndian(2);
         if (length == LongString) length = LittleEndian(4);
-        return std::string(Bytes(length));
+        return Bytes(length);
     }
 
   private:
     std::uint32_t LittleEndian(std::size_t count) {
+        char bytes[4] = {};
+        Fill(bytes, count);
         std::uint32_t value = 0;
-        int shift = 0;
-        for (const char c : Bytes(count)) {
-            value |= static_cast<std::uint32_t>(static_cast<unsigned char>(c)) << shift;
-            shift += 8;
+        for (std::size_t i = count; i > 0; --i) {
+            value = value << 8 | static_cast<unsigned char>(bytes[i - 1]);
         }
         return value;
     }
-    std::string_view bytes_;
-    std::size_t at_ = 0;
+
+    void Fill(char* to, std::size_t count) {
+        good_ = good_ && count <= left_;
+        while (good_ && count > 0) {
+            if (window_.empty()) Refill();
+            const std::size_t piece = window_.copy(to, count);
+            window_.remove_prefix(piece);
+            left_ -= piece;
+            to += piece;
+            count -= piece;
+            good_ = piece > 0;
+        }
+    }
+
+    void Refill() {
+        buffer_.resize(std::min<std::uint64_t>(left_, 65536));
+        window_ = std::string_view(buffer_).substr(
+            0, source_ ? source_(buffer_.data(), buffer_.size()) : 0);
+    }
+
+    ByteSource source_;
+    std::string buffer_;       // what the source gave last
+    std::string_view window_;  // what of it is still to be read
+    std::uint64_t left_;       // bytes to the end
     bool good_ = true;
 };
 

@@ -11,6 +11,10 @@ namespace tessaryn {
 
 inline constexpr int MaxStatements = 32767;
 
+// What a file says is taken as it stands. Whether it agrees with itself is found out when the
+// document is first checked; from then on that must not get worse.
+enum class ContentState { Agrees, Unknown, Disagrees };
+
 // A value: copies share what has not changed since, so that a snapshot costs next to nothing.
 struct Document {
     StatementTable StmtTable;  // statement n at [n], from 1
@@ -18,6 +22,7 @@ struct Document {
     SharedText ProofText;
     int IntroEnd = 0;          // length of the introduction in bytes; 0 or negative: none
     std::string ProofCaption;  // "" if none
+    ContentState Content = ContentState::Agrees;
 };
 
 inline Document Doc;  // the open one

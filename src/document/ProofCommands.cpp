@@ -1,4 +1,6 @@
 // Open, Save and Save As: the proof file and the window around it.
+#include <algorithm>
+#include <new>
 #include <utility>
 
 #include "document/ProofFile.h"
@@ -7,6 +9,7 @@
 #include "output/SaveChanges.h"
 #include "output/Settings.h"
 #include "platform/Files.h"
+#include "platform/InputFile.h"
 #include "view/Display.h"
 #include "view/InsertMode.h"
 #include "view/Undo.h"
@@ -14,12 +17,22 @@
 namespace tessaryn {
 namespace {
 
+std::string TitleOf(const std::string& caption, const std::string& fileName) {
+    if (fileName.empty()) {
+        if (caption.empty()) return " Tessaryn 2.0  -  (Untitled)";
+        return " " + caption + " - (Untitled)";
+    }
+    if (caption.empty()) return " Tessaryn 2.0  -  " + fileName;
+    return " " + caption + "  -  " + fileName;
+}
+
 bool WriteFileWithHourglass() {
     const std::string prompt = Proof.StatusLine.GetText();
     SetPrompt("Please wait...");
     Proof.MousePointer = Pointer::Hourglass;
     RefreshNow(Proof);
-    const bool saved = ReplaceFile(ProofFileName, WriteProof());
+    const std::string bytes = WriteProof();
+    const bool saved = bytes.size() <= MaxProofFile && ReplaceFile(ProofFileName, bytes);
     Proof.MousePointer = Pointer::Default;
     SetPrompt(prompt);
     return saved;
@@ -27,46 +40,56 @@ bool WriteFileWithHourglass() {
 
 // Closed blocks are folded away on opening, with what is nested in them; all else shows.
 void FoldClosedBlocks() {
-    int line = 1;
-    while (line <= StmtCount) {
-        if (!IsClosedPremise(At(line))) {
-            EditAt(line).Visible = true;
-            ++line;
-            continue;
-        }
-        for (const int end = At(line).Arg1; line < end; ++line) {
-            EditAt(line).Visible = false;
+    for (int line = 1; line <= StmtCount; ++line) {
+        for (const int end = IsClosedPremise(At(line)) ? At(line).Arg1 : line; line < end; ++line) {
+            SetVisible(line, false);
             EditAt(line).ViewerStartLine = 0;
         }
+        SetVisible(line, true);
     }
 }
 
-void TakeOver(StoredProof proof) {
-    ProofCaption = std::move(proof.caption);
-    StmtTable.Clear();
-    for (std::size_t line = 1; line < proof.table.size(); ++line) {
-        StmtTable.Append(std::move(proof.table[line]));
+// Makes the stored document the open one, in the display as well. If that fails, what was open is
+// open again.
+void TakeOver(Document& proof) {
+    std::swap(Doc, proof);
+    try {
+        FoldClosedBlocks();
+        RelayoutViewer();
+        CheckStoredText();
+        ResetFonts();
+    } catch (...) {
+        std::swap(Doc, proof);
+        proof = {};
+        CheckStoredText();
+        ResetFonts();
+        throw;
     }
-    StmtCount = StmtTable.Count();
-    ProofText = std::move(proof.text);
-    if (StmtCount == 0) {
-        IntroEnd = static_cast<int>(ProofText.size()) - 4;
-    } else {
-        IntroEnd = StmtTable[1].StartLine < 2 ? 0 : StmtTable[1].StartLine - 5;
-    }
-    FoldClosedBlocks();
-    RelayoutViewer();
+}
+
+// Why a file can't be opened, behind its name; "" if it now is the open proof.
+std::string OpenedOr(const std::string& fileName) {
+    InputFile file(fileName);
+    if (!file.Good()) return " can't be opened for reading.";
+    ByteReader in([&file](char* to, std::size_t count) { return file.Read(to, count); },
+                  std::min(file.Size(), MaxProofFile));
+    std::optional<Document> proof = ReadProof(in);
+    if (!proof) return " is no proof file, or a damaged one.";
+    std::string name = fileName;
+    std::string dialogName = fileName;
+    std::string title = TitleOf(proof->ProofCaption, fileName);
+    TakeOver(*proof);
+    ProofFileName.swap(name);
+    Proof.CommonDialog1.FileName.swap(dialogName);
+    Proof.Caption.swap(title);
+    ProofChanged = false;
+    return "";
 }
 
 }  // namespace
 
 std::string ProofTitle() {
-    if (ProofFileName.empty()) {
-        if (ProofCaption.empty()) return " Tessaryn 2.0  -  (Untitled)";
-        return " " + ProofCaption + " - (Untitled)";
-    }
-    if (ProofCaption.empty()) return " Tessaryn 2.0  -  " + ProofFileName;
-    return " " + ProofCaption + "  -  " + ProofFileName;
+    return TitleOf(ProofCaption, ProofFileName);
 }
 
 std::string WithExtension(const std::string& name, const std::string& extension) {
@@ -96,27 +119,20 @@ bool SaveProofFile() {
     return true;
 }
 
-void ReadProofFile(const std::string& previousName) {
+void ReadProofFile(const std::string& fileName) {
     SetUndoRedo(false, false);
     RuleMode = 0;
     if (InsertMode) EndInsertMode();
-    const std::optional<std::string> bytes = ReadWholeFile(ProofFileName);
-    std::optional<StoredProof> proof = bytes ? ReadProof(*bytes) : std::nullopt;
-    if (!proof) {
-        OperationCancelled = true;
-        Beep(bytes ? "\"" + ProofFileName + "\" is no proof file, or a damaged one."
-                   : "\"" + ProofFileName + "\" can't be opened for reading.");
-        SetPrompt("Open: Unable to open proof file");
-        ProofFileName = previousName;
-        return;
+    std::string reason;
+    try {
+        reason = OpenedOr(fileName);
+    } catch (const std::bad_alloc&) {
+        reason = " needs more memory than there is.";
     }
-    TakeOver(std::move(*proof));
-    Proof.Caption = ProofTitle();
-    CheckStoredText();
-    ResetFonts();
-    Proof.CommonDialog1.FileName = ProofFileName;
-    UpdateRecentFiles();
-    ProofChanged = false;
+    if (reason.empty()) return UpdateRecentFiles();
+    OperationCancelled = true;
+    Beep("\"" + fileName + "\"" + reason);
+    SetPrompt("Open: Unable to open proof file");
 }
 
 void OpenCommand() {
@@ -127,16 +143,10 @@ void OpenCommand() {
         OpenFollows = true;
         ShowModal(SaveChanges);
     } else {
-        const std::string previousName = ProofFileName;
-        if (RecentPicked) {
-            ProofFileName = RecentName;
-        } else {
-            CommonDialog choice{"", ProofFilter, DefaultDir, false, true};
-            if (!ShowOpen(choice)) return;
-            ProofFileName = choice.FileName;
-        }
+        CommonDialog choice{"", ProofFilter, DefaultDir, false, true};
+        if (!RecentPicked && !ShowOpen(choice)) return;
         RefreshNow(Proof);
-        ReadProofFile(previousName);
+        ReadProofFile(RecentPicked ? RecentName : choice.FileName);
     }
     Proof.RTB.SelStart = 0;
 }

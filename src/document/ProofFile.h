@@ -8,27 +8,24 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "document/Bytes.h"
 #include "document/Document.h"
 
 namespace tessaryn {
 
-// A document apart from the globals.
-struct StoredProof {
-    std::string caption;
-    std::vector<Statement> table;  // element 0 empty
-    std::string text;
-};
+// No proof is written to a longer file, and no byte of a file behind that is read: ten times the
+// size of the longest proof of ordinary statements, and far below what 32-bit indexes can tell.
+inline constexpr std::uint64_t MaxProofFile = 1U << 26;
 
 // The file's bytes for the document in memory.
 std::string WriteProof();
 
-// Reads the bytes of a proof file. Nothing if it is damaged: bytes missing, an index outside the
-// text or out of order, text that belongs to no block, a reference that cannot be, a rule without a
-// name. Bytes behind the text are not read. Strings that are no UTF-8 are converted from
-// Windows-1252, and the indexes with them.
-std::optional<StoredProof> ReadProof(std::string_view bytes);
+// Reads a proof file. Nothing if it is damaged: bytes missing, or what StructureFault finds in what
+// would be in memory. Bytes behind the text are not read. Strings that are no UTF-8 are converted
+// from Windows-1252, and the indexes with them. What is shown is left as it was stored.
+std::optional<Document> ReadProof(ByteReader& in);
+std::optional<Document> ReadProof(std::string_view bytes);
 
 // Writes the document to ProofFileName, with the hourglass up. On failure the old file is whole,
 // OperationCancelled is set, and a message box has said so.
@@ -38,10 +35,10 @@ bool SaveProof();
 // all that as it was, if it could not be saved.
 bool SaveProofFile();
 
-// Replaces the document by the content of ProofFileName and rebuilds the display. On failure the
-// document stays, OperationCancelled is set, and StatusLine says so. ProofFileName is then the name
-// given as `previousName`, that of the proof that stayed.
-void ReadProofFile(const std::string& previousName);
+// Replaces the document by the content of a file, which becomes ProofFileName, and rebuilds the
+// display. On failure, memory that is short included, the document, its name and the title stay,
+// OperationCancelled is set, and StatusLine says so.
+void ReadProofFile(const std::string& fileName);
 
 // The title for the open proof.
 std::string ProofTitle();

@@ -7,11 +7,7 @@
 namespace tessaryn {
 
 void ClearDocument() {
-    StmtTable.Clear();
-    StmtCount = 0;
-    ProofText.clear();
-    IntroEnd = 0;
-    ProofCaption.clear();
+    Doc = {};
 }
 
 int Depth(const Statement& stmt) {

@@ -145,6 +145,12 @@ void InsertBlocks(int line, int count, const std::string& blocks) {
         AppendRenumbered(text, later, line, count);
     }
     ProofText = std::move(text);
+    // Ahead of the line only Premises point behind it: that of a Conclusion which comes in, and
+    // others where the blocks of a file cross.
+    for (int ahead = 1; ahead < line; ++ahead) {
+        const bool closesHere = IsConclusion(At(line)) && At(line).Arg1 == ahead;
+        if (At(ahead).Arg1 >= line && !closesHere) EditAt(ahead).Arg1 += count;
+    }
 
     int start = At(behind - 1).ViewerStartLine + BlockLength(At(behind - 1));
     for (int later = behind; later <= StmtCount; ++later) {

@@ -2,6 +2,7 @@
 #include "mainwindow/Proof.h"
 
 #include <exception>
+#include <utility>
 
 #include "document/Document.h"
 #include "document/Invariants.h"
@@ -120,9 +121,7 @@ void ProofForm::Activated() {
         if (TipWanted()) ShowModal(Tips);
     }
     if (CommandLineFile.empty()) return;
-    ProofFileName = CommandLineFile;
-    CommandLineFile.clear();
-    RunHandler([] { ReadProofFile(""); });
+    RunHandler([this] { ReadProofFile(std::exchange(CommandLineFile, "")); });
     RTB.SelStart = 0;
 }
 

@@ -1,5 +1,7 @@
 #include "output/SaveChanges.h"
 
+#include <utility>
+
 #include "document/ProofFile.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -54,17 +56,12 @@ void SaveChangesForm::Yes() {
 }
 
 void SaveChangesForm::OpenProofFile() {
-    const std::string previousName = ProofFileName;
-    if (RecentPicked) {
-        RecentPicked = false;
-        ProofFileName = RecentName;
-    } else {
+    if (!RecentPicked) {
         CommonDialog1 = {"", ProofFilter, DefaultDir, false, true};
         if (!ShowOpen(CommonDialog1)) return ProofFileName.clear();
-        ProofFileName = CommonDialog1.FileName;
     }
     RefreshNow(Proof);
-    ReadProofFile(previousName);
+    ReadProofFile(std::exchange(RecentPicked, false) ? RecentName : CommonDialog1.FileName);
 }
 
 }  // namespace tessaryn

@@ -18,7 +18,6 @@ enum class Key {
     Enter,
     Esc,
     Del,
-    Insert,
     Backspace,
     Tab,
     Left,

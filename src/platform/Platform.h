@@ -53,10 +53,12 @@ struct CommonDialog {
 bool ShowOpen(CommonDialog& dialog);
 bool ShowSave(CommonDialog& dialog);
 
-// --- clipboard
+// --- clipboard: what is put on it replaces what was there, in all formats
 
-void SetClipboard(const Clip& content);  // in place of what was there, in all formats
-Clip ClipboardContent();
+void ClipboardSetText(const std::string& text);
+void ClipboardSetRtf(const std::string& rtf, const std::string& plainText);
+std::string ClipboardText();  // line ends CR LF; "" if there is none
+std::string ClipboardRtf();   // "" if there is none
 
 // --- printing; lengths are in twips, 1440 to the inch
 

@@ -93,14 +93,10 @@ void RichTextBox::SetTextRTF(const std::string& rtf) {
     ReplaceContent(std::move(content.text), content.runs);
 }
 
-RichText RichTextBox::Selection() const {
+std::string RichTextBox::GetSelRTF() const {
     RichText part{GetSelText(), content_.RunsIn(selStart_, selStart_ + selLength_), alignment_};
     for (FormatRun& run : part.runs) run.start -= selStart_;
-    return part;
-}
-
-std::string RichTextBox::GetSelRTF() const {
-    return WriteRtf(Selection());
+    return WriteRtf(part);
 }
 
 void RichTextBox::SetSelRTF(const std::string& rtf) {

@@ -187,6 +187,9 @@ void TextBlocks::ReplaceBlocks(std::size_t first, std::size_t last,
     };
     const std::size_t shared = std::min(last - first, replacement.size());
     const auto rest = replacement.begin() + static_cast<std::ptrdiff_t>(shared);
+    // Whatever can fail comes first.
+    const std::size_t size = blocks.size() + replacement.size() - (last - first);
+    if (size > blocks.capacity()) blocks.reserve(std::max(size, 2 * blocks.capacity()));
     std::move(replacement.begin(), rest, at(first));
     if (rest == replacement.end()) {
         blocks.erase(at(first + shared), at(last));

@@ -1,22 +1,20 @@
 #include "view/EditCaption.h"
 
-#include <algorithm>
-
 #include "document/Document.h"
 #include "document/ProofFile.h"
 #include "expr/Blanks.h"
 #include "mainwindow/Proof.h"
 #include "view/Display.h"
-#include "view/TextExchange.h"
 
 namespace tessaryn {
 namespace {
 
-// A caption is one line, whatever has come in.
+// A caption is one line, whatever has been pasted.
 std::string OnOneLine(std::string text) {
-    std::erase(text, '\r');
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    return text;
+    for (char& c : text) {
+        if (c == '\r' || c == '\n') c = ' ';
+    }
+    return Trim(text);
 }
 
 }  // namespace
@@ -32,18 +30,7 @@ EditCaptionForm::EditCaptionForm() : Form("EditCaption", "Edit Caption") {
             Continue.Click();
             return true;
         }
-        if (WithElementSign(key.text) != key.text) {
-            RTB.SelText = "@";
-            return true;
-        }
         return key.ctrl && key.text == "R";
-    };
-    // As in the title, which has no fonts, the element sign is "@" here.
-    RTB.Pasted = [this](const Clip& content) {
-        RunHandler([&] {
-            LoadWorkArea(content);
-            RTB.SelText = OnOneLine(ConvertEpsilon(WorkArea.RTB));
-        });
     };
 }
 
@@ -63,7 +50,7 @@ void EditCaptionForm::Show(const std::string& text) {
 }
 
 void EditCaptionForm::ContinuePressed() {
-    ProofCaption = Trim(OnOneLine(RTB.GetText()));
+    ProofCaption = OnOneLine(RTB.GetText());
     Proof.Caption = ProofTitle();
     Hide();
 }

@@ -8,7 +8,6 @@
 #include "mainwindow/ExpressionEditor.h"
 #include "mainwindow/Proof.h"
 #include "view/Display.h"
-#include "view/TextExchange.h"
 
 namespace tessaryn {
 namespace {
@@ -79,16 +78,7 @@ FindForm::FindForm() : Form("Find", " Find String or Heading") {
     optDefine.Click = [this] { TakeHeading("Define:"); };
     optSufficient.Click = [this] { TakeHeading("Sufficient:"); };
     optAsRequired.Click = [this] { TakeHeading("As Required:"); };
-    SearchStringTextBox.Pasted = [this](const Clip& content) {
-        RunHandler([&] { PutIntoBox(content); });
-    };
-    cmdPaste.Click = [this] {
-        RunHandler([this] {
-            const int caret = SearchStringTextBox.SelStart;
-            PutIntoBox(ClipboardContent());
-            SearchStringTextBox.SelStart = caret;
-        });
-    };
+    cmdPaste.Click = [this] { RunHandler([this] { PasteIntoBox(); }); };
     cmdCancel.Click = [this] { Hide(); };
     cmdFind.Click = [this] {
         RunHandler([this] {
@@ -141,14 +131,23 @@ bool FindForm::BoxKey(const KeyEvent& key) {
     box.SelFontSize = StmtFontSize;
     box.SelColor = Black;
     box.SelBold = false;
-    if (WithElementSign(key.text) != "@") return false;
+    if (key.text != "@") return false;
     InsertElementSign(box);
     return true;
 }
 
-void FindForm::PutIntoBox(const Clip& content) {
-    LoadWorkArea(content);
+void FindForm::PasteIntoBox() {
+    const std::string rtf = Proof.optRichTextMode.Checked ? ClipboardRtf() : "";
+    if (rtf.empty()) {
+        WorkArea.RTB.TextRTF = "";  // with the text go formats that would be taken over
+        WorkArea.RTB.Text = ClipboardText();
+    } else {
+        WorkArea.RTB.TextRTF = rtf;
+    }
+    ReformatWA(Black);
+    const int caret = SearchStringTextBox.SelStart;
     SearchStringTextBox.SelRTF = WorkArea.RTB.TextRTF;
+    SearchStringTextBox.SelStart = caret;
     SearchStringTextBox.SetFocus();
 }
 

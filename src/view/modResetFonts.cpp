@@ -28,6 +28,11 @@ CharFormat Format(int size, Colour colour, bool bold = false) {
     return {StatementFont, size, colour, bold};
 }
 
+// The "4" ahead of a Conclusion's annotation; only a damaged file has none.
+bool HasTriangle(const Statement& stmt) {
+    return IsConclusion(stmt) && ProofSlice(stmt.StartRule, stmt.StartRule) == "4";
+}
+
 bool BlockIsFolded(const Statement& conclusion) {
     return !At(conclusion.Arg1).Visible;
 }
@@ -110,7 +115,7 @@ void AddStatementRuns(RunBuilder& runs, const Statement& stmt, int number) {
 
 void AddAnnotationRuns(RunBuilder& runs, const Statement& stmt) {
     const int start = stmt.StartRule - stmt.StartLine;
-    if (IsConclusion(stmt)) {
+    if (HasTriangle(stmt)) {
         runs.Until(start + 1, {TriangleFont, RuleFontSize, Black, false});
         runs.Until(start + 2, Format(StmtFontSize, Black));
     }
@@ -124,10 +129,8 @@ std::vector<FormatRun> StatementBlockRuns(int number) {
     if (stmt.EndUserComment > 0) {
         AddCommentRuns(runs, ProofSlice(stmt.StartLine, stmt.EndUserComment), 0);
     }
-    const int numberStart = NumberStart(stmt) - stmt.StartLine;
-    const int digits = static_cast<int>(std::to_string(number).size());
-    runs.Until(numberStart, plain);
-    runs.Until(numberStart + digits,
+    runs.Until(NumberStart(stmt) - stmt.StartLine, plain);
+    runs.Until(stmt.StartStmt - 1 - stmt.StartLine,
                Format(StmtFontSize, Depth(stmt) > 0 ? FaintGrey : Black, stmt.Highlight));
     runs.Until(stmt.StartStmt - stmt.StartLine, plain);
     AddStatementRuns(runs, stmt, number);
@@ -180,7 +183,7 @@ void AppendBlock(std::string& text, const Statement& stmt) {
     text += ProofSlice(stmt.StartLine, stmt.EndRule + 4);
     if (stmt.EndUserComment > 0) SwapElementSigns(text, start, place(stmt.EndUserComment) + 1);
     SwapElementSigns(text, place(stmt.StartStmt), place(stmt.EndStmt) + 1);
-    if (IsConclusion(stmt) && BlockIsFolded(stmt)) text[place(stmt.StartRule)] = '5';
+    if (HasTriangle(stmt) && BlockIsFolded(stmt)) text[place(stmt.StartRule)] = '5';
 }
 
 void AppendIntroduction(std::string& text) {
@@ -241,8 +244,8 @@ std::string Difference(const std::vector<FormatRun>& shown, const std::vector<Fo
 
 void ResetFonts() {
     Content content = ContentFromDocument();
-    ShownBlocks = std::move(content.numbers);
     Proof.RTB.SetBlocks(std::move(content.text), content.blocks, BlockRuns);
+    ShownBlocks = std::move(content.numbers);
     Proof.RTB.SelLength = 0;
     Proof.StatusLine.SelAlignment = Alignment::Center;
     if (StoredTextIsDamaged) ReportDamagedStatements();

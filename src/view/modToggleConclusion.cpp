@@ -29,7 +29,7 @@ bool InAnnotation(const Statement& stmt, int place) {
 void ToggleHighlight(int line) {
     Statement& stmt = EditAt(line);
     Proof.RTB.SelStart = NumberStart(stmt) - ViewOffset(stmt) - 1;
-    Proof.RTB.SelLength = static_cast<int>(std::to_string(line).size());
+    Proof.RTB.SelLength = stmt.StartStmt - 1 - NumberStart(stmt);
     Proof.RTB.SelBold = !stmt.Highlight;
     stmt.Highlight = !stmt.Highlight;
     Proof.RTB.SelStart = NumberZoneStart(stmt) - 1;

@@ -77,7 +77,7 @@ TEST_F(ProofFileTest, PremiseByteForByte) {
         "1\tP\r\n\tPremise\r\n\r\n",
         86);
     EXPECT_EQ(WriteProof(), expected);
-    EditAt(1) = ReadProof(expected)->table[1];
+    EditAt(1) = ReadProof(expected)->StmtTable[1];
     EXPECT_EQ(WriteProof(), expected);
 }
 
@@ -110,11 +110,11 @@ TEST_F(ProofFileTest, EmptyProofs) {
     EXPECT_EQ(StmtTable[1].StartLine, 1);
     EXPECT_EQ(StmtTable[1].ViewerStartLine, 1);
 
-    StoredProof intro{"", std::vector<Statement>(1), "Some words.\r\n\r\n"};
-    WriteFile("intro.proof", std::string("Tessaryn 1\0\0\0\0\x0F\0", 16) + intro.text);
+    const std::string intro = "Some words.\r\n\r\n";
+    WriteFile("intro.proof", std::string("Tessaryn 1\0\0\0\0\x0F\0", 16) + intro);
     ASSERT_TRUE(Open(Path("intro.proof")));
     EXPECT_EQ(IntroEnd, 11);
-    EXPECT_EQ(Proof.RTB.GetText(), intro.text);
+    EXPECT_EQ(Proof.RTB.GetText(), intro);
 }
 
 TEST_F(ProofFileTest, LongTextGetsALongLength) {
@@ -123,9 +123,9 @@ TEST_F(ProofFileTest, LongTextGetsALongLength) {
     const std::string bytes = WriteProof();
     const std::string length("\xFF\xFF\x85\x11\x01\x00", 6);  // 70,021
     EXPECT_NE(bytes.find(length + "ccc"), std::string::npos);
-    const std::optional<StoredProof> read = ReadProof(bytes);
+    const std::optional<Document> read = ReadProof(bytes);
     ASSERT_TRUE(read);
-    EXPECT_EQ(read->text, ProofText.View());
+    EXPECT_EQ(read->ProofText, ProofText.View());
 }
 
 TEST_F(ProofFileTest, OneByteTextIsConvertedWithItsIndexes) {
@@ -191,6 +191,14 @@ TEST_F(ProofFileTest, DamageIsRefused) {
         {"empty annotation", [] { EditAt(3).EndRule = StmtTable[3].StartRule - 1; }},
         {"behind the end", [] { EditAt(6).EndRule += 1; }},
         {"huge index", [] { EditAt(6).EndRule = 0x7FFFFFFF; }},
+        {"an index inside a character",
+         [] {
+             ProofText.Replace(static_cast<std::size_t>(EditAt(5).EndUserComment--) - 2, 2, "é");
+         }},
+        {"line ends that are longer as UTF-8",
+         [] { ProofText.Replace(static_cast<std::size_t>(At(3).EndStmt), 3, "\xA6\xA6\xA6"); }},
+        {"an index outside a text that is no UTF-8",
+         [] { ProofText += "\xA6", EditAt(2).StartStmt = 0x7FFFFFFF; }},
         {"indexes that overflow",
          [] { EditAt(6).StartRule = -0x7FFFFFFF, EditAt(6).EndStmt = 0x7FFFFFFF; }},
     };
@@ -203,6 +211,23 @@ TEST_F(ProofFileTest, DamageIsRefused) {
     }
     EXPECT_FALSE(ReadProof(std::string("Tessaryn 1\xFF\xFF\0\0\0\0", 16))) << "negative count";
     EXPECT_FALSE(ReadProof(std::string("Tessaryn 1\0\0\0\0\1\0P", 17))) << "count 0 of a proof";
+}
+
+TEST_F(ProofFileTest, MarksOfAFileCountInNoDeletion) {
+    const std::string path = Quoted(Path("marked.proof"));
+    ASSERT_EQ(Build(EnterAxiom("A") + EnterAxiom("B") + EnterAxiom("C") +
+                    "choose optJoin\nclick 3\nclick 2\n" + EnterAxiom("D")),
+              "");
+    EditAt(2).Flagged = true;
+    EditAt(2).NewNumber = 1;
+    WriteFile("marked.proof", WriteProof());
+    for (const char* deletion :
+         {"choose DelAllSubsequent\nclick 5\n", "choose DeleteAllRef\nclick 5\nexpect no form\n"}) {
+        EXPECT_EQ(Build("open " + path + "\n" + deletion +
+                        "expect count 4\nexpect line 2 \"B\"\nexpect rule 4 \"Join, 3, 2\"\n"),
+                  "");
+        EXPECT_FALSE(At(2).Flagged);
+    }
 }
 
 // No bytes may crash the reader, nor leave a document that later commands can't live with.
