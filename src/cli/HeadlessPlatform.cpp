@@ -143,22 +143,12 @@ bool ShowSave(CommonDialog& dialog) {
     return TakeFileReply(dialog);
 }
 
-void ClipboardSetText(const std::string& text) {
-    Headless.ClipText = WithCrLf(text);
-    Headless.ClipRtf.clear();
+void SetClipboard(const Clip& content) {
+    Headless.Clipboard = {WithCrLf(content.plain), content.rtf};
 }
 
-void ClipboardSetRtf(const std::string& rtf, const std::string& plainText) {
-    Headless.ClipText = WithCrLf(plainText);
-    Headless.ClipRtf = rtf;
-}
-
-std::string ClipboardText() {
-    return Headless.ClipText;
-}
-
-std::string ClipboardRtf() {
-    return Headless.ClipRtf;
+Clip ClipboardContent() {
+    return Headless.Clipboard;
 }
 
 bool PointerBeyondRightEdge(const Control&) {

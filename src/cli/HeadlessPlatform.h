@@ -36,8 +36,7 @@ struct HeadlessState {
     std::vector<CommonDialog> FileDialogs;  // as they were asked
     std::vector<std::string> Pages;         // of the last print
 
-    std::string ClipText;
-    std::string ClipRtf;
+    Clip Clipboard;
 
     std::vector<OpenForm> Forms;  // bottom to top; hidden ones may still be among them
 

@@ -6,6 +6,7 @@
 #include "platform/Events.h"
 #include "platform/Platform.h"
 #include "text/TextSteps.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 
@@ -45,7 +46,8 @@ bool PressShortcut(Form& form, const KeyEvent& key) {
     return false;
 }
 
-void ReplaceSelection(TextBox& box, const std::string& text) {
+void ReplaceSelection(TextBox& box, const std::string& entered) {
+    const std::string text = TakenInOnOneLine(entered);
     const auto start = static_cast<std::size_t>(box.SelStart);
     box.Text.replace(start, static_cast<std::size_t>(box.SelLength), text);
     box.SelStart += static_cast<int>(text.size());
@@ -73,16 +75,11 @@ std::string Selected(const TextBox& box) {
                            static_cast<std::size_t>(box.SelLength));
 }
 
-std::string WithoutLineEnds(std::string text) {
-    std::erase_if(text, [](char character) { return character == '\r' || character == '\n'; });
-    return text;
-}
-
 void EditByCtrlKey(TextBox& box, const std::string& letter) {
     if (letter == "A") Select(box, 0, static_cast<int>(box.Text.size()));
-    if ((letter == "C" || letter == "X") && box.SelLength > 0) ClipboardSetText(Selected(box));
+    if ((letter == "C" || letter == "X") && box.SelLength > 0) SetClipboard({Selected(box), ""});
     if (letter == "X") ReplaceSelection(box, "");
-    if (letter == "V") ReplaceSelection(box, WithoutLineEnds(ClipboardText()));
+    if (letter == "V") ReplaceSelection(box, ClipboardContent().plain);
 }
 
 // Programs may have shortened the text under the selection.
@@ -117,10 +114,32 @@ void Edit(TextBox& box, const KeyEvent& key) {
     if (box.Text != before && box.Change) box.Change();
 }
 
+void SelectAll(Control& box) {
+    if (auto* plain = dynamic_cast<TextBox*>(&box)) {
+        Select(*plain, 0, static_cast<int>(plain->Text.size()));
+    }
+    if (auto* rich = dynamic_cast<RichTextBox*>(&box)) {
+        rich->SelStart = 0;
+        rich->SelLength = rich->TextLength();
+    }
+}
+
+// The editing of a box whose form has no commands of its own for it.
+void EditByCtrlKey(RichTextBox& box, const std::string& letter) {
+    if (letter == "A") SelectAll(box);
+    if (letter == "V") return SendPaste(box, ClipboardContent());
+    if ((letter != "C" && letter != "X") || box.SelLength == 0) return;
+    SetClipboard(SelectionOf(box));
+    if (letter == "C") return;
+    box.SelText = "";
+    if (box.Change) box.Change();
+}
+
 void Edit(RichTextBox& box, const KeyEvent& key) {
     if (box.ReadOnly) return;
+    if (key.key == Key::Char && key.ctrl) return EditByCtrlKey(box, key.text);
     const auto revision = box.ContentRevision();
-    if (key.key == Key::Char && !key.ctrl) box.TypeText(key.text);
+    if (key.key == Key::Char) box.TypeText(key.text);
     if (key.key == Key::Enter) box.TypeText("\r\n");
     if (key.key == Key::Del) box.DeleteForward();
     if (key.key == Key::Backspace) box.DeleteBackward();
@@ -137,16 +156,6 @@ void PressButton(Form& form, Control* focus) {
     auto* button = dynamic_cast<Button*>(focus);
     if (button == nullptr) button = form.DefaultButton;
     if (button != nullptr) SendChoose(*button);
-}
-
-void SelectAll(Control& box) {
-    if (auto* plain = dynamic_cast<TextBox*>(&box)) {
-        Select(*plain, 0, static_cast<int>(plain->Text.size()));
-    }
-    if (auto* rich = dynamic_cast<RichTextBox*>(&box)) {
-        rich->SelStart = 0;
-        rich->SelLength = rich->TextLength();
-    }
 }
 
 // A handler may leave text behind the caret ("e " for a typed "@" in a comment). Where the whole
@@ -226,7 +235,7 @@ void PressKey(Form& form, const KeyEvent& key) {
 void ReplaceByTyping(Control& box, const std::string& text) {
     auto* rich = dynamic_cast<RichTextBox*>(&box);
     const bool oneLine = rich == nullptr || !rich->MultiLine;
-    const std::string wanted = oneLine ? WithoutLineEnds(text) : WithCrLf(text);
+    const std::string wanted = oneLine ? TakenInOnOneLine(text) : WithCrLf(text);
     box.SetFocus();
     if (ControlText(box) != wanted) {
         SelectAll(box);

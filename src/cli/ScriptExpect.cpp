@@ -10,6 +10,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "text/Encoding.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 

@@ -5,6 +5,7 @@
 #include "expr/Lex.h"
 #include "mainwindow/Proof.h"
 #include "text/TextSteps.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 
@@ -82,14 +83,6 @@ int ClickIndex(const Statement& stmt, int line, Arguments& arguments) {
 
 void RequireLine(int line) {
     if (line < 1 || line > StmtCount) throw ActionFailed{"there is no " + LineName(line)};
-}
-
-std::string WithElementSign(std::string text) {
-    const std::string epsilon = "ε";
-    for (std::size_t at = text.find(epsilon); at != std::string::npos; at = text.find(epsilon)) {
-        text.replace(at, epsilon.size(), "@");
-    }
-    return text;
 }
 
 int ClickTarget(Arguments& arguments) {

@@ -25,7 +25,4 @@ int PickTarget(RichTextBox& box, Arguments& arguments);
 // Fails if there is no statement of that number.
 void RequireLine(int line);
 
-// Scripts may write the element sign as "@" or as "ε".
-std::string WithElementSign(std::string text);
-
 }  // namespace tessaryn

@@ -147,6 +147,13 @@ QString ItemText(const MenuItem& item) {
     return columns.captured(1) + QLatin1Char('\t') + columns.captured(2);
 }
 
+// The toolkit's boxes know a second key for Copy.
+QList<QKeySequence> ShortcutsOf(const MenuItem& item) {
+    QList<QKeySequence> keys{QKeySequence(ToQt(item.Shortcut))};
+    if (item.Shortcut == "Ctrl+C") keys.append(QKeySequence(Qt::CTRL | Qt::Key_Insert));
+    return keys;
+}
+
 }  // namespace
 
 Binding Bind(Control& control, QWidget* parent, WindowKind kind) {
@@ -166,7 +173,7 @@ bool IsSeparator(const MenuItem& item) {
 
 Binding BindItem(MenuItem& item, QAction& action) {
     action.setSeparator(IsSeparator(item));
-    if (!item.Shortcut.empty()) action.setShortcut(QKeySequence(ToQt(item.Shortcut)));
+    if (!item.Shortcut.empty()) action.setShortcuts(ShortcutsOf(item));
     QObject::connect(&action, &QAction::triggered, &action,
                      [&item] { Dispatch([&item] { SendChoose(item); }); });
     return {&item, nullptr, {}, [&item, &action] {

@@ -1,47 +1,60 @@
-// The clipboard, with plain text and RTF.
+#include "desktop/Clipboard.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QMimeData>
 
 #include "desktop/PaintedText.h"
 #include "platform/Platform.h"
 #include "text/TextSteps.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 
 namespace {
 
-QString RtfTypes(int index) {
-    return index == 0 ? QStringLiteral("text/rtf") : QStringLiteral("application/rtf");
-}
-
-QString WithoutCr(const std::string& text) {
-    return ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-}
+constexpr const char* RtfTypes[] = {"text/rtf", "application/rtf"};
 
 }  // namespace
 
-void ClipboardSetText(const std::string& text) {
-    QGuiApplication::clipboard()->setText(WithoutCr(text));
-}
-
-void ClipboardSetRtf(const std::string& rtf, const std::string& plainText) {
-    auto* content = new QMimeData;
-    content->setText(WithoutCr(plainText));
-    for (int i = 0; i < 2; ++i) content->setData(RtfTypes(i), QByteArray::fromStdString(rtf));
-    QGuiApplication::clipboard()->setMimeData(content);
-}
-
-std::string ClipboardText() {
-    return WithCrLf(QGuiApplication::clipboard()->text().toStdString());
-}
-
-std::string ClipboardRtf() {
-    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
-    for (int i = 0; content != nullptr && i < 2; ++i) {
-        if (content->hasFormat(RtfTypes(i))) return content->data(RtfTypes(i)).toStdString();
+Clip ClipOf(const QMimeData& data) {
+    Clip content{WithCrLf(data.text().toStdString()), ""};
+    for (const char* type : RtfTypes) {
+        const QString name = QLatin1String(type);
+        if (content.rtf.empty() && data.hasFormat(name)) {
+            content.rtf = data.data(name).toStdString();
+        }
     }
-    return "";
+    return content;
+}
+
+bool HoldsText(const QMimeData& data) {
+    return data.hasText() || data.hasFormat(QLatin1String(RtfTypes[0])) ||
+           data.hasFormat(QLatin1String(RtfTypes[1]));
+}
+
+QMimeData* MimeDataOf(const Clip& content) {
+    auto* data = new QMimeData;
+    data->setText(ToQt(content.plain).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    if (content.rtf.empty()) return data;
+    for (const char* type : RtfTypes) {
+        data->setData(QLatin1String(type), QByteArray::fromStdString(content.rtf));
+    }
+    return data;
+}
+
+void SetClipboard(const Clip& content) {
+    QGuiApplication::clipboard()->setMimeData(MimeDataOf(content));
+}
+
+Clip ClipboardContent() {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data == nullptr ? Clip() : ClipOf(*data);
+}
+
+void OfferSelection(const RichTextBox& box) {
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    if (!clipboard->supportsSelection()) return;
+    clipboard->setMimeData(MimeDataOf(SelectionOf(box)), QClipboard::Selection);
 }
 
 }  // namespace tessaryn

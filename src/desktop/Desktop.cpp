@@ -13,6 +13,7 @@
 #include <string>
 
 #include "desktop/FormWindow.h"
+#include "desktop/HelpViewer.h"
 #include "desktop/InputWatch.h"
 
 namespace tessaryn {
@@ -28,12 +29,6 @@ struct DesktopState {
 DesktopState& State() {
     static DesktopState state;
     return state;
-}
-
-// The window that a new one should stand in front of.
-QWidget* TopWindow() {
-    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-    return State().main != nullptr ? &State().main->Window() : nullptr;
 }
 
 FormWindow& Present(Form& form, bool modal) {
@@ -85,6 +80,11 @@ void SyncWindows() {
 
 // --- windows
 
+QWidget* TopWindow() {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    return State().main != nullptr ? &State().main->Window() : nullptr;
+}
+
 FormWindow& WindowOf(Form& form) {
     auto& window = State().windows[&form];
     if (!window) {
@@ -114,6 +114,7 @@ void ShowMainWindow(Form& form) {
 }
 
 void ForgetWindows() {
+    ForgetManual();
     for (auto& [form, window] : State().windows) {
         if (window.get() != State().main) window.reset();
     }

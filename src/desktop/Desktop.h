@@ -28,6 +28,10 @@ FormWindow& WindowOf(Form& form);
 // What stands for a control on the screen; nullptr if nothing does.
 QWidget* WidgetOf(const Control& control);
 
+// What a new window stands in front of: the box that is waited for, else the main window; nullptr
+// if there is neither. Never the manual, which holds up nothing and is held up by nothing.
+QWidget* TopWindow();
+
 // Shows the main window and runs its first activation from the event loop.
 void ShowMainWindow(Form& form);
 // Brings the windows to an end, so that forms can be built anew.

@@ -1,6 +1,9 @@
 #include "desktop/EditBox.h"
 
 #include <QContextMenuEvent>
+#include <QDragLeaveEvent>
+#include <QDropEvent>
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -8,10 +11,10 @@
 #include <QTextBlock>
 #include <algorithm>
 
+#include "desktop/Clipboard.h"
 #include "desktop/Desktop.h"
 #include "desktop/PaintedText.h"
-#include "mainwindow/ExpressionEditor.h"
-#include "view/Display.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 
@@ -77,8 +80,6 @@ EditBox::EditBox(RichTextBox& box, QWidget* parent) : QTextEdit(parent), box_(bo
     setAcceptRichText(false);
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
-    setAcceptDrops(false);
-    viewport()->setAcceptDrops(false);
     setFont(FontOf({}));
     if (!box.MultiLine) {
         setLineWrapMode(NoWrap);
@@ -240,7 +241,10 @@ void EditBox::mouseMoveEvent(QMouseEvent* event) {
                      textCursor().position() > there.position() &&
                      textCursor().block() == there.block();
     if (!won) QTextEdit::mouseMoveEvent(event);
-    if (box_.MouseMove) Dispatch(box_.MouseMove);
+    // The move may have begun a drag, which is over by now. What was dragged elsewhere stays here.
+    if (document()->revision() != revision_) ShowContent();
+    const bool dragged = (QGuiApplication::mouseButtons() & Qt::LeftButton) == 0;
+    if (box_.MouseMove && !dragged) Dispatch(box_.MouseMove);
 }
 
 void EditBox::mouseReleaseEvent(QMouseEvent* event) {
@@ -264,28 +268,36 @@ void EditBox::contextMenuEvent(QContextMenuEvent* event) {
     Dispatch([this] { box_.MouseUp(MouseButton::Right); });
 }
 
-// --- what comes from elsewhere: plain text only
+// --- text from and for elsewhere: also the toolkit's own keys, the middle button and drags
 
-bool EditBox::canInsertFromMimeData(const QMimeData* source) const {
-    return source->hasText();
+QMimeData* EditBox::createMimeDataFromSelection() const {
+    const_cast<EditBox*>(this)->Pull();  // NOLINT: no change that anyone could see
+    return MimeDataOf(SelectionOf(box_));
 }
 
-// The middle button and Shift+Insert come here. As with Paste, the text has the font of statements
-// wherever it goes, and "@" becomes the element sign.
+bool EditBox::canInsertFromMimeData(const QMimeData* source) const {
+    return HoldsText(*source);
+}
+
 void EditBox::insertFromMimeData(const QMimeData* source) {
-    if (isReadOnly() || !source->hasText()) return;
-    const std::string text = source->text().toStdString();
+    const Clip content = ClipOf(*source);
+    Dispatch([&] { SendPaste(box_, content); });
+}
+
+// What comes from elsewhere is a copy.
+void EditBox::dropEvent(QDropEvent* event) {
+    QDragLeaveEvent over;
+    QTextEdit::dragLeaveEvent(&over);
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    const bool within = event->source() == viewport();
+    const Clip content = ClipOf(*event->mimeData());
+    const QTextCursor place = cursorForPosition(event->position().toPoint());
     Dispatch([&] {
-        box_.SelText = "";
-        box_.SelFontName = StatementFont;
-        std::size_t start = 0;
-        for (auto at = text.find('@'); at != text.npos; at = text.find('@', start)) {
-            box_.TypeText(text.substr(start, at - start));
-            InsertElementSign(box_);
-            start = at + 1;
-        }
-        box_.TypeText(text.substr(start));
-        if (box_.Change) box_.Change();
+        const int to = bytes_[static_cast<std::size_t>(place.position())];
+        if (within) return MoveSelection(box_, to);
+        box_.SelStart = to;
+        SendPaste(box_, content);
     });
 }
 

@@ -1,10 +1,10 @@
 // The dialogues for opening and saving files.
-#include <QApplication>
 #include <QFileDialog>
 #include <QRegularExpression>
 #include <QStringList>
 
 #include "desktop/Desktop.h"
+#include "desktop/HelpViewer.h"
 #include "desktop/PaintedText.h"
 
 namespace tessaryn {
@@ -33,6 +33,7 @@ QString Suffix(const std::string& filter) {
 
 bool Run(QFileDialog& dialogue, CommonDialog& dialog) {
     SyncWindows();
+    LeaveManualUsable(dialogue);
     dialogue.setNameFilters(Filters(dialog.Filter));
     if (!dialog.InitDir.empty()) dialogue.setDirectory(ToQt(dialog.InitDir));
     if (!dialog.FileName.empty()) dialogue.selectFile(ToQt(dialog.FileName));
@@ -46,14 +47,14 @@ bool Run(QFileDialog& dialogue, CommonDialog& dialog) {
 }  // namespace
 
 bool ShowOpen(CommonDialog& dialog) {
-    QFileDialog dialogue(QApplication::activeWindow(), QStringLiteral("Open"));
+    QFileDialog dialogue(TopWindow(), QStringLiteral("Open"));
     dialogue.setAcceptMode(QFileDialog::AcceptOpen);
     dialogue.setFileMode(dialog.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     return Run(dialogue, dialog);
 }
 
 bool ShowSave(CommonDialog& dialog) {
-    QFileDialog dialogue(QApplication::activeWindow(), QStringLiteral("Save as"));
+    QFileDialog dialogue(TopWindow(), QStringLiteral("Save as"));
     dialogue.setAcceptMode(QFileDialog::AcceptSave);
     dialogue.setFileMode(QFileDialog::AnyFile);
     dialogue.setDefaultSuffix(Suffix(dialog.Filter));

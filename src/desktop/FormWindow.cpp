@@ -11,6 +11,7 @@
 
 #include "desktop/Bindings.h"
 #include "desktop/Desktop.h"
+#include "desktop/HelpViewer.h"
 #include "desktop/Keys.h"
 #include "desktop/Layouts.h"
 #include "desktop/PaintedText.h"
@@ -136,7 +137,7 @@ QMenu* FormWindow::MenuOf(const MenuItem& item) const {
 // --- showing
 
 void FormWindow::Show(bool modal) {
-    window_->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+    window_->setWindowModality(modal ? Qt::WindowModal : Qt::NonModal);
     Sync();
     window_->show();
     window_->raise();
@@ -221,6 +222,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress && watched == window_) {
         Dispatch([this] { form_.Clicked(); });
     }
+    if (event->type() == QEvent::WindowActivate && watched == window_) WindowCameToFront(*window_);
     if (event->type() == QEvent::KeyPress) {
         return KeyPressed(watched, *static_cast<QKeyEvent*>(event));
     }
@@ -235,6 +237,11 @@ bool FormWindow::KeyPressed(QObject* watched, QKeyEvent& event) {
     const auto found = controls_.find(watched);
     if (found == controls_.end() && window_->focusWidget() != nullptr) return false;
     Control* focus = found == controls_.end() ? nullptr : found->second;
+    // F1 is for the manual, but where any key will do.
+    if (focus != nullptr && event.key() == Qt::Key_F1 && event.modifiers() == Qt::NoModifier) {
+        OpenManual();
+        return true;
+    }
     const auto key = KeyOf(event);
     if (key && DispatchKey(form_, focus, *key)) return true;
     // A key without a meaning is still any key to a form in which nothing takes keys.

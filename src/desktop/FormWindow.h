@@ -39,7 +39,7 @@ class FormWindow : public QObject {
     Form& TheForm() { return form_; }
     QWidget& Window() { return *window_; }
 
-    // Shows the window with its first focus; modal: blocks all others.
+    // Shows the window with its first focus; modal: blocks all others but the manual.
     void Show(bool modal);
     // Returns when the form has been hidden or the program ends.
     void RunUntilHidden();

@@ -15,6 +15,8 @@ std::optional<Key> NamedKey(int key) {
             return Key::Esc;
         case Qt::Key_Delete:
             return Key::Del;
+        case Qt::Key_Insert:
+            return Key::Insert;
         case Qt::Key_Backspace:
             return Key::Backspace;
         case Qt::Key_Tab:

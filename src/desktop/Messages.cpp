@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "desktop/Desktop.h"
+#include "desktop/HelpViewer.h"
 #include "desktop/InputWatch.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
@@ -138,7 +139,8 @@ void ForgetNote() {
 Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons,
               Answer defaultAnswer) {
     SyncWindows();
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(TopWindow());
+    LeaveManualUsable(box);
     box.setWindowTitle(ToQt(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQt(text));

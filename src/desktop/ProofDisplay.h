@@ -96,6 +96,7 @@ class ProofDisplay : public QAbstractScrollArea {
     bool caretShown_ = false;
     QBasicTimer blink_;
     QBasicTimer autoScroll_;  // runs while a drag is above or below the viewport
+    QBasicTimer offer_;       // runs until the user has settled on a selection
 
     bool pressed_ = false;      // the left button is down since a press on the display
     bool dragging_ = false;     // and the pointer has been moved

@@ -7,6 +7,7 @@
 #include <QTimerEvent>
 #include <algorithm>
 
+#include "desktop/Clipboard.h"
 #include "desktop/Desktop.h"
 #include "desktop/ProofDisplay.h"
 #include "platform/Events.h"
@@ -17,6 +18,7 @@ namespace {
 
 constexpr int DragDistance = 4;      // pixels that the pointer may shake during a click
 constexpr int AutoScrollPause = 40;  // milliseconds
+constexpr int SettlePause = 100;     // milliseconds
 
 }  // namespace
 
@@ -29,6 +31,7 @@ void ProofDisplay::Select(int anchor, int caret) {
     box_.SelLength = std::max(anchor, caret) - std::min(anchor, caret);
     box_.TakePlacesToShow();
     EnsureVisible(caret_);
+    offer_.start(SettlePause, this);
     RestartCaret();
     viewport()->update();
 }
@@ -238,6 +241,7 @@ void ProofDisplay::mouseReleaseEvent(QMouseEvent* event) {
     const bool second = secondPress_;
     pressed_ = dragging_ = secondPress_ = false;
     autoScroll_.stop();
+    offer_.start(SettlePause, this);
     const bool plain = !second && box_.SelLength == 0;
     if (plain && box_.AwaitsDoubleClick && box_.AwaitsDoubleClick(box_.SelStart)) {
         return HoldClick();
@@ -294,6 +298,9 @@ void ProofDisplay::timerEvent(QTimerEvent* event) {
     } else if (event->timerId() == blink_.timerId()) {
         caretShown_ = !caretShown_;
         viewport()->update(CaretRect(caret_));
+    } else if (event->timerId() == offer_.timerId()) {
+        offer_.stop();
+        if (box_.SelLength > 0) OfferSelection(box_);
     } else if (event->timerId() == autoScroll_.timerId()) {
         const QPoint place = viewport()->mapFromGlobal(QCursor::pos());
         const int distance = place.y() < 0 ? place.y() : place.y() - viewport()->height();

@@ -1,10 +1,12 @@
 #include "desktop/SmallBoxes.h"
 
 #include <QAccessible>
+#include <QValidator>
 
 #include "desktop/Desktop.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 
@@ -18,6 +20,21 @@ int UnitsIn(const std::string& text, int bytes) {
     const auto length = static_cast<std::size_t>(std::max(0, bytes));
     return static_cast<int>(ToQt(text.substr(0, length)).size());
 }
+
+QString TakenIn(const QString& text) {
+    return ToQt(TakenInOnOneLine(text.toStdString()));
+}
+
+// Not a check: the toolkit shows it whatever has come in, by whichever way.
+class Intake : public QValidator {
+  public:
+    using QValidator::QValidator;
+    State validate(QString& text, int& caret) const override {
+        caret = static_cast<int>(TakenIn(text.left(caret)).size());
+        text = TakenIn(text);
+        return Acceptable;
+    }
+};
 
 }  // namespace
 
@@ -42,6 +59,7 @@ void StatusView::Sync() {
 }
 
 LineBox::LineBox(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
+    setValidator(new Intake(this));
     connect(this, &QLineEdit::textEdited, this, [this] {
         Dispatch([this] {
             if (box_.Change) box_.Change();

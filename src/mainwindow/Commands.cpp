@@ -4,12 +4,12 @@
 
 #include "document/Document.h"
 #include "document/ProofFile.h"
-#include "mainwindow/ExpressionEditor.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "output/SaveChanges.h"
 #include "view/Display.h"
 #include "view/InsertMode.h"
+#include "view/TextExchange.h"
 #include "view/Undo.h"
 
 namespace tessaryn {
@@ -49,11 +49,15 @@ void ExitCommand() {
     }
 }
 
-void HelpCommand() {
-    SetPrompt("");
+void ShowManual() {
     if (!ShowHelpFile(AppPath + "\\Tessaryn.chm")) {
         MsgBox("Help file \"Tessaryn.chm\" not found", "SYSTEM ERROR");
     }
+}
+
+void HelpCommand() {
+    SetPrompt("");
+    ShowManual();
 }
 
 void WebSiteCommand() {

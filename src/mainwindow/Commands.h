@@ -9,6 +9,8 @@ void NewCommand();
 // Ends the program, by way of the save question. OperationCancelled tells that it goes on.
 void ExitCommand();
 
+// Opens the manual; a message box tells if there is none. HelpCommand ends the prompt before.
+void ShowManual();
 void HelpCommand();
 void WebSiteCommand();
 

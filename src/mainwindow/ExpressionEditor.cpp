@@ -7,6 +7,7 @@
 #include "mainwindow/Proof.h"
 #include "platform/Platform.h"
 #include "view/Display.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 namespace {
@@ -79,42 +80,6 @@ const PaletteEntry& EntryFor(const PaletteEntry& standard, std::span<const Palet
 }
 
 }  // namespace
-
-// --- clipboard
-
-void Copy(RichTextBox& box) {
-    box.SetFocus();
-    if (box.SelLength == 0) return Beep("Nothing is selected: select the text to copy first.");
-    ClipLength = box.SelLength;
-    const std::string rtf = box.SelRTF;
-    WorkArea.RTB.TextRTF = rtf;
-    const std::string plain = ConvertEpsilon(WorkArea.RTB);
-    if (Proof.optRichTextMode.Checked) {
-        ClipboardSetRtf(rtf, plain);
-    } else {
-        ClipboardSetText(plain);
-    }
-}
-
-void Paste(RichTextBox& box) {
-    BoxUndoText = box.TextRTF;
-    box.SelText = "";
-    const int caret = box.SelStart;
-    RichTextBox& work = WorkArea.RTB;
-    work.TextRTF = box.TextRTF;
-    work.SelStart = caret;
-    const std::string rtf = Proof.optRichTextMode.Checked ? ClipboardRtf() : "";
-    if (rtf.empty()) {
-        work.SelFontName = StatementFont;
-        work.SelText = ClipboardText();
-    } else {
-        work.SelRTF = rtf;
-    }
-    ReformatWA(Black);
-    box.TextRTF = work.TextRTF;
-    box.SelStart = caret + ClipLength;
-    box.SetFocus();
-}
 
 void InsertElementSign(RichTextBox& box) {
     box.SelText = "";
@@ -233,6 +198,12 @@ ExpressionEditor::ExpressionEditor(RichTextBox& box, EditMenu& menus, Timer& tim
     menus.optPaste.Click = [this] {
         RunHandler([&] {
             Paste(box_);
+            SetUndoEnabled(true, false);
+        });
+    };
+    box.Pasted = [this](const Clip& content) {
+        RunHandler([&] {
+            PutIn(box_, content);
             SetUndoEnabled(true, false);
         });
     };
@@ -417,12 +388,20 @@ bool ExpressionEditor::KeyDown(const KeyEvent& key) {
     switch (key.key) {
         case Key::Char:
             if (key.ctrl) return ControlKey(key.text);
-            if (key.text == "@") {
+            if (WithElementSign(key.text) == "@") {
                 TypeElementSign();
                 return true;
             }
             break;
+        case Key::Insert:
+            if (key.ctrl) menus_.optCopy.Click();
+            if (key.shift) menus_.optPaste.Click();
+            return true;
         case Key::Del:
+            if (key.shift) {
+                menus_.optCut.Click();
+                return true;
+            }
             SaveForUndo();
             return false;
         case Key::Enter:

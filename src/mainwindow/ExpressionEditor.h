@@ -16,18 +16,6 @@
 
 namespace tessaryn {
 
-// Rich text of the box in use before its last Cut, Delete, Paste, Clear or Del key.
-inline std::string BoxUndoText;
-// Length in bytes of the selection last copied by Copy; 0 until then.
-inline int ClipLength = 0;
-
-// Copies the selection of a box to the clipboard: with its look in rich text mode, else as plain
-// text with "@" for the element sign. Without a selection: beep.
-void Copy(RichTextBox& box);
-
-// Replaces the selection by the clipboard's content, normalised to black Courier New.
-void Paste(RichTextBox& box);
-
 // Puts the element sign in the place of the selection; what is typed next has the font of
 // statements again.
 void InsertElementSign(RichTextBox& box);

@@ -2,7 +2,6 @@
 #include "axioms/SubsetFrm.h"
 #include "document/Document.h"
 #include "expr/Expression.h"
-#include "mainwindow/ExpressionEditor.h"
 #include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -24,6 +23,7 @@
 #include "view/Find.h"
 #include "view/InsertMode.h"
 #include "view/ShowHide.h"
+#include "view/TextExchange.h"
 #include "view/Undo.h"
 #include "view/Warning.h"
 

@@ -18,6 +18,7 @@ enum class Key {
     Enter,
     Esc,
     Del,
+    Insert,
     Backspace,
     Tab,
     Left,

@@ -29,6 +29,12 @@ void SendDoubleClick(RichTextBox& box, int start) {
     if (box.MouseUp) box.MouseUp(MouseButton::Left);
 }
 
+void SendPaste(RichTextBox& box, const Clip& content) {
+    if (box.ReadOnly || !box.Pasted) return;
+    box.Pasted(content);
+    if (box.Change) box.Change();
+}
+
 bool SendChoose(Control& control) {
     if (!control.Visible || !control.Enabled) return false;
     EventHandler handler;

@@ -27,6 +27,10 @@ void SendClick(RichTextBox& box, int start, int length = 0);
 // button-up. The second press does not move the caret.
 void SendDoubleClick(RichTextBox& box, int start);
 
+// Text put into a box by other means than its own Paste: a key of the toolkit's, the middle button,
+// a drop. A box that lets none in stays as it is.
+void SendPaste(RichTextBox& box, const Clip& content);
+
 // A button, menu item, check box or option pressed by the user; a disabled or hidden one, or one
 // without a handler, does nothing and gives false.
 bool SendChoose(Control& control);

@@ -53,12 +53,10 @@ struct CommonDialog {
 bool ShowOpen(CommonDialog& dialog);
 bool ShowSave(CommonDialog& dialog);
 
-// --- clipboard: what is put on it replaces what was there, in all formats
+// --- clipboard
 
-void ClipboardSetText(const std::string& text);
-void ClipboardSetRtf(const std::string& rtf, const std::string& plainText);
-std::string ClipboardText();  // line ends CR LF; "" if there is none
-std::string ClipboardRtf();   // "" if there is none
+void SetClipboard(const Clip& content);  // in place of what was there, in all formats
+Clip ClipboardContent();
 
 // --- printing; lengths are in twips, 1440 to the inch
 

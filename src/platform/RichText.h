@@ -41,4 +41,12 @@ struct RichText {
     bool operator==(const RichText&) const = default;
 };
 
+// Text between programs.
+struct Clip {
+    std::string plain;  // UTF-8, line ends CR LF
+    std::string rtf;    // the same with its look; "" if there is none
+
+    bool operator==(const Clip&) const = default;
+};
+
 }  // namespace tessaryn

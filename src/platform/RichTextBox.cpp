@@ -93,10 +93,14 @@ void RichTextBox::SetTextRTF(const std::string& rtf) {
     ReplaceContent(std::move(content.text), content.runs);
 }
 
-std::string RichTextBox::GetSelRTF() const {
+RichText RichTextBox::Selection() const {
     RichText part{GetSelText(), content_.RunsIn(selStart_, selStart_ + selLength_), alignment_};
     for (FormatRun& run : part.runs) run.start -= selStart_;
-    return WriteRtf(part);
+    return part;
+}
+
+std::string RichTextBox::GetSelRTF() const {
+    return WriteRtf(Selection());
 }
 
 void RichTextBox::SetSelRTF(const std::string& rtf) {

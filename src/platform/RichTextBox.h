@@ -56,6 +56,7 @@ struct RichTextBox : Control {
     int GetSelLength() const { return selLength_; }
     void SetSelLength(int length);
     std::string GetSelText() const;
+    RichText Selection() const;  // runs relative to its start
     // Replaces the selection; the caret ends behind the new text, which takes the format set for
     // the insertion, else that of the character ahead of it (of the one behind at the very start).
     void SetSelText(const std::string& text);
@@ -95,7 +96,9 @@ struct RichTextBox : Control {
     // then holds the click back until it knows which of the two it is.
     std::function<bool(int position)> AwaitsDoubleClick;
     EventHandler Change;  // the user has edited the text (not: the program has)
-    KeyHandler KeyDown;   // every key, ahead of the box's own editing; true: dealt with
+    // Text comes in from elsewhere, to take the place of the selection. Empty: none is let in.
+    std::function<void(const Clip&)> Pasted;
+    KeyHandler KeyDown;  // every key, ahead of the box's own editing; true: dealt with
     MouseHandler MouseDown;
     EventHandler MouseMove;  // with the left button down
     MouseHandler MouseUp;

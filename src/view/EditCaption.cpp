@@ -1,20 +1,22 @@
 #include "view/EditCaption.h"
 
+#include <algorithm>
+
 #include "document/Document.h"
 #include "document/ProofFile.h"
 #include "expr/Blanks.h"
 #include "mainwindow/Proof.h"
 #include "view/Display.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 namespace {
 
-// A caption is one line, whatever has been pasted.
+// A caption is one line, whatever has come in.
 std::string OnOneLine(std::string text) {
-    for (char& c : text) {
-        if (c == '\r' || c == '\n') c = ' ';
-    }
-    return Trim(text);
+    std::erase(text, '\r');
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    return text;
 }
 
 }  // namespace
@@ -30,7 +32,18 @@ EditCaptionForm::EditCaptionForm() : Form("EditCaption", "Edit Caption") {
             Continue.Click();
             return true;
         }
+        if (WithElementSign(key.text) != key.text) {
+            RTB.SelText = "@";
+            return true;
+        }
         return key.ctrl && key.text == "R";
+    };
+    // As in the title, which has no fonts, the element sign is "@" here.
+    RTB.Pasted = [this](const Clip& content) {
+        RunHandler([&] {
+            LoadWorkArea(content);
+            RTB.SelText = OnOneLine(ConvertEpsilon(WorkArea.RTB));
+        });
     };
 }
 
@@ -50,7 +63,7 @@ void EditCaptionForm::Show(const std::string& text) {
 }
 
 void EditCaptionForm::ContinuePressed() {
-    ProofCaption = OnOneLine(RTB.GetText());
+    ProofCaption = Trim(OnOneLine(RTB.GetText()));
     Proof.Caption = ProofTitle();
     Hide();
 }

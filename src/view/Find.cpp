@@ -8,6 +8,7 @@
 #include "mainwindow/ExpressionEditor.h"
 #include "mainwindow/Proof.h"
 #include "view/Display.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 namespace {
@@ -78,7 +79,16 @@ FindForm::FindForm() : Form("Find", " Find String or Heading") {
     optDefine.Click = [this] { TakeHeading("Define:"); };
     optSufficient.Click = [this] { TakeHeading("Sufficient:"); };
     optAsRequired.Click = [this] { TakeHeading("As Required:"); };
-    cmdPaste.Click = [this] { RunHandler([this] { PasteIntoBox(); }); };
+    SearchStringTextBox.Pasted = [this](const Clip& content) {
+        RunHandler([&] { PutIntoBox(content); });
+    };
+    cmdPaste.Click = [this] {
+        RunHandler([this] {
+            const int caret = SearchStringTextBox.SelStart;
+            PutIntoBox(ClipboardContent());
+            SearchStringTextBox.SelStart = caret;
+        });
+    };
     cmdCancel.Click = [this] { Hide(); };
     cmdFind.Click = [this] {
         RunHandler([this] {
@@ -131,23 +141,14 @@ bool FindForm::BoxKey(const KeyEvent& key) {
     box.SelFontSize = StmtFontSize;
     box.SelColor = Black;
     box.SelBold = false;
-    if (key.text != "@") return false;
+    if (WithElementSign(key.text) != "@") return false;
     InsertElementSign(box);
     return true;
 }
 
-void FindForm::PasteIntoBox() {
-    const std::string rtf = Proof.optRichTextMode.Checked ? ClipboardRtf() : "";
-    if (rtf.empty()) {
-        WorkArea.RTB.TextRTF = "";  // with the text go formats that would be taken over
-        WorkArea.RTB.Text = ClipboardText();
-    } else {
-        WorkArea.RTB.TextRTF = rtf;
-    }
-    ReformatWA(Black);
-    const int caret = SearchStringTextBox.SelStart;
+void FindForm::PutIntoBox(const Clip& content) {
+    LoadWorkArea(content);
     SearchStringTextBox.SelRTF = WorkArea.RTB.TextRTF;
-    SearchStringTextBox.SelStart = caret;
     SearchStringTextBox.SetFocus();
 }
 

@@ -39,7 +39,7 @@ struct FindForm : Form {
     void ClearHeadings();
     void TakeHeading(const std::string& heading);
     bool BoxKey(const KeyEvent& key);
-    void PasteIntoBox();
+    void PutIntoBox(const Clip& content);
     void FindFirst();
     void Refuse(const std::string& message);
 };

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "view/Display.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 namespace {
@@ -62,8 +63,7 @@ std::string ConvertEpsilon(RichTextBox& surface) {
 
 void ReformatWA(Colour colour) {
     RichTextBox& surface = WorkArea.RTB;
-    std::string text = ConvertEpsilon(surface);
-    std::erase(text, '\t');
+    std::string text = TakenIn(PlainText({surface.GetText(), surface.Runs()}));
     const int length = static_cast<int>(text.size());
     std::vector<FormatRun> runs;
     PushRun(runs, 0, length, {StatementFont, StmtFontSize, colour, false});

@@ -83,10 +83,10 @@ TEST(Keyboard, EditsAOneLineBox) {
     EXPECT_EQ(form.Line.Text, "");
     Press(form, "Del");
     EXPECT_EQ(form.changes, 5) << "no change, no event";
-    ClipboardSetText("a\nb");
+    SetClipboard({"a\n\tb∈", ""});
     Press(form, "Ctrl+V");
     Press(form, "Ctrl+V");
-    EXPECT_EQ(form.Line.Text, "abab");
+    EXPECT_EQ(form.Line.Text, "ab@ab@");
     form.Line.Text = "a";  // the program shortens it under the caret
     TypeInto(form, "b");
     EXPECT_EQ(form.Line.Text, "ab");

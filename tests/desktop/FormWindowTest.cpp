@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -23,6 +24,8 @@
 #include "axioms/SubsetFrm.h"
 #include "desktop/InputWatch.h"
 #include "desktop/Messages.h"
+#include "mainwindow/MyInputBox.h"
+#include "mainwindow/ProgramState.h"
 #include "mainwindow/TestParser.h"
 #include "view/Comment.h"
 #include "view/Display.h"
@@ -111,14 +114,55 @@ TEST(EditBox, ElementSignsTypedOrPastedReadBackAsTheSignOfTheSurface) {
         EXPECT_EQ(form.box.FormatAt(1).Font, "Symbol");
         EXPECT_EQ(form.box.GetSelStart(), 6);
         EXPECT_EQ(form.changes, 6);  // "@" is the logic's own doing
+    });
+}
 
-        QTest::keyClick(&editor, Qt::Key_Left);
-        QTest::keyClick(&editor, Qt::Key_Right);
-        QGuiApplication::clipboard()->setText(QStringLiteral("e@s"));
-        editor.paste();
-        EXPECT_EQ(editor.toPlainText(), QStringLiteral("x\u03B5S\nee\u03B5s"));
-        EXPECT_EQ(ConvertEpsilon(form.box), "x@S\r\nee@s");
-        EXPECT_EQ(form.changes, 7);
+// By the box's own keys and by what the toolkit brings along: its keys, the middle button, a drop.
+TEST(EditBox, EveryWayInAndOutKnowsTheElementSign) {
+    StartProgram();
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    using Act = std::function<void(QTextEdit&)>;
+    const auto key = [](Qt::Key pressed, Qt::KeyboardModifier with) -> Act {
+        return [=](QTextEdit& editor) { QTest::keyClick(&editor, pressed, with); };
+    };
+    const Act drop = [&](QTextEdit& editor) {
+        QDragEnterEvent entering(QPoint(1, 1), Qt::CopyAction, clipboard.mimeData(), Qt::LeftButton,
+                                 {});
+        QApplication::sendEvent(editor.viewport(), &entering);
+        QDropEvent dropped(QPointF(1, 1), Qt::CopyAction, clipboard.mimeData(), Qt::LeftButton, {});
+        QApplication::sendEvent(editor.viewport(), &dropped);
+    };
+    const Act waysIn[] = {key(Qt::Key_V, Qt::ControlModifier),
+                          key(Qt::Key_Insert, Qt::ShiftModifier), &QTextEdit::paste, drop};
+    const Act waysOut[] = {key(Qt::Key_C, Qt::ControlModifier),
+                           key(Qt::Key_Insert, Qt::ControlModifier), &QTextEdit::copy,
+                           key(Qt::Key_X, Qt::ControlModifier),
+                           key(Qt::Key_Delete, Qt::ShiftModifier)};
+    ClosedBy(TestParser, [&](QWidget& window) {
+        auto& editor = Find<QTextEdit>(window, "RTB");
+        for (const Act& takeIn : waysIn) {
+            clipboard.setText(QStringLiteral("\tx @ \u2208\n"));
+            SendChoose(TestParser.Tools.Clear);
+            SyncWindows();
+            takeIn(editor);
+            EXPECT_EQ(editor.toPlainText(), QStringLiteral("x \u03B5 \u03B5\n"));
+            EXPECT_EQ(ConvertEpsilon(TestParser.RTB), "x @ @\r\n");
+        }
+        for (const Act& handOut : waysOut) {
+            clipboard.clear();
+            editor.selectAll();
+            handOut(editor);
+            EXPECT_EQ(clipboard.text(), QStringLiteral("x @ @\n"));
+            EXPECT_TRUE(ClipboardContent().rtf.starts_with("{\\rtf1"));
+            if (editor.toPlainText().isEmpty()) SendChoose(TestParser.Tools.Undo);
+            EXPECT_EQ(ConvertEpsilon(TestParser.RTB), "x @ @\r\n") << "a cut can be undone";
+            SyncWindows();
+        }
+    });
+    ClosedBy(MyInputBox, [](QWidget& window) {
+        auto& entry = Find<QLineEdit>(window, "Text1");
+        entry.paste();
+        EXPECT_EQ(entry.text(), QStringLiteral("x @ @"));
     });
 }
 
@@ -305,12 +349,12 @@ TEST(ProofWindow, DragPastTheRightEdgeGoesOnToTheEndOfTheLine) {
 }
 
 TEST(Clipboard, HoldsPlainTextAndRtf) {
-    ClipboardSetRtf("{\\rtf1 P}", "P\r\nQ");
+    const Clip rich{"P\r\nQ", "{\\rtf1 P}"};
+    SetClipboard(rich);
     const QMimeData* content = QGuiApplication::clipboard()->mimeData();
     EXPECT_EQ(content->text(), QStringLiteral("P\nQ"));
     EXPECT_EQ(content->data(QStringLiteral("application/rtf")), QByteArray("{\\rtf1 P}"));
-    EXPECT_EQ(ClipboardText(), "P\r\nQ");
-    EXPECT_EQ(ClipboardRtf(), "{\\rtf1 P}");
-    ClipboardSetText("plain");
-    EXPECT_EQ(ClipboardRtf(), "");
+    EXPECT_EQ(ClipboardContent(), rich);
+    SetClipboard({"plain", ""});
+    EXPECT_EQ(ClipboardContent(), (Clip{"plain", ""}));
 }

@@ -57,8 +57,8 @@ TEST(EntryBox, CopiesAndPastesInBothModes) {
         Proof.optRichTextMode.Checked = rich;
         SelectInBox(0, 3);
         SendChoose(TestParser.Tools.Cut);
-        EXPECT_EQ(ClipboardText(), "a@b");
-        EXPECT_EQ(ClipboardRtf().empty(), !rich);
+        EXPECT_EQ(ClipboardContent().plain, "a@b");
+        EXPECT_EQ(ClipboardContent().rtf.empty(), !rich);
         SendChoose(TestParser.Tools.Paste);
         SelectInBox(4, 0);
         SendChoose(TestParser.Tools.Paste);

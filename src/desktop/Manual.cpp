@@ -1,0 +1,139 @@
+#include "desktop/Manual.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStringList>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <algorithm>
+
+namespace tessaryn {
+
+namespace {
+
+constexpr int CharactersAhead = 24;  // of a place, in what a list shows around it
+constexpr int CharactersShown = 120;
+constexpr int Margin = 12;  // of a page, in pixels
+
+QString ContentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+ManualPage ReadPage(const QString& path, const QString& content) {
+    static const QRegularExpression heading(QStringLiteral("^# +(.*\\S)"),
+                                            QRegularExpression::MultilineOption);
+    const auto match = heading.match(content);
+    return {path, match.hasMatch() ? match.captured(1) : QFileInfo(path).completeBaseName(), {}};
+}
+
+QStringList LinkedPages(const QString& content) {
+    static const QRegularExpression link(QStringLiteral("\\]\\(([\\w-]+\\.md)"));
+    QStringList names;
+    auto links = link.globalMatch(content);
+    while (links.hasNext()) names.append(links.next().captured(1));
+    return names;
+}
+
+void PaintLinks(QTextDocument& text, const QColor& colour) {
+    QTextCharFormat painted;
+    painted.setForeground(colour);
+    QTextCursor cursor(&text);
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        for (const auto& stretch : block.textFormats()) {
+            if (!stretch.format.isAnchor()) continue;
+            cursor.setPosition(block.position() + stretch.start);
+            cursor.setPosition(cursor.position() + stretch.length, QTextCursor::KeepAnchor);
+            cursor.mergeCharFormat(painted);
+        }
+    }
+}
+
+// By which links name a heading: "Insert mode (F2)" is "insert-mode-f2".
+QString AnchorOf(const QString& heading) {
+    static const QRegularExpression dropped(QStringLiteral("[^\\w\\- ]"),
+                                            QRegularExpression::UseUnicodePropertiesOption);
+    return heading.toLower().remove(dropped).replace(QLatin1Char(' '), QLatin1Char('-'));
+}
+
+int PositionOf(const QTextDocument& text, const QString& anchor) {
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        const bool heading = block.blockFormat().headingLevel() > 0;
+        if (heading && AnchorOf(block.text()) == anchor) return block.position();
+    }
+    return -1;
+}
+
+}  // namespace
+
+std::vector<ManualPage> ReadPages(const QString& directory) {
+    const QDir dir(directory);
+    const QString first = QStringLiteral("index.md");
+    QStringList names{first};
+    names += LinkedPages(ContentOf(dir.filePath(first)));
+    names += dir.entryList({QStringLiteral("*.md")}, QDir::Files, QDir::Name);
+    names.removeDuplicates();
+    std::vector<ManualPage> pages;
+    for (const QString& name : names) {
+        const QString path = dir.filePath(name);
+        if (dir.exists(name)) pages.push_back(ReadPage(path, ContentOf(path)));
+    }
+    return pages;
+}
+
+QTextDocument& TextOf(Manual& manual, int page) {
+    ManualPage& shown = manual.pages[static_cast<std::size_t>(page)];
+    if (shown.text) return *shown.text;
+    // Read ahead of any layout: with one, the reader has the whole page laid out again after each
+    // of its steps, which takes seconds where there is a long table.
+    shown.text = std::make_unique<QTextDocument>();
+    shown.text->setUndoRedoEnabled(false);
+    shown.text->setDefaultFont(manual.font);
+    shown.text->setDocumentMargin(Margin);
+    shown.text->setBaseUrl(QUrl::fromLocalFile(shown.path));
+    shown.text->setMarkdown(ContentOf(shown.path));
+    PaintLinks(*shown.text, manual.linkColour);
+    return *shown.text;
+}
+
+ManualPlace TargetOf(Manual& manual, int page, const QUrl& link) {
+    const QString name = link.fileName();
+    const auto found = std::find_if(
+        manual.pages.begin(), manual.pages.end(),
+        [&name](const ManualPage& other) { return QFileInfo(other.path).fileName() == name; });
+    if (!name.isEmpty() && found == manual.pages.end()) return {-1, -1, 0};
+    if (!name.isEmpty()) page = static_cast<int>(found - manual.pages.begin());
+    if (!link.hasFragment()) return {page, 0, 0};
+    return {page, PositionOf(TextOf(manual, page), link.fragment()), 0};
+}
+
+std::vector<ManualPlace> FindInManual(Manual& manual, const QString& wanted) {
+    std::vector<ManualPlace> places;
+    if (wanted.isEmpty()) return places;
+    const int length = static_cast<int>(wanted.size());
+    for (int page = 0; page < static_cast<int>(manual.pages.size()); ++page) {
+        const QString text = TextOf(manual, page).toPlainText();
+        qsizetype start = text.indexOf(wanted, 0, Qt::CaseInsensitive);
+        for (; start >= 0; start = text.indexOf(wanted, start + length, Qt::CaseInsensitive)) {
+            places.push_back({page, static_cast<int>(start), length});
+        }
+    }
+    return places;
+}
+
+QString Surroundings(Manual& manual, const ManualPlace& place) {
+    const QTextBlock block = TextOf(manual, place.page).findBlock(place.start);
+    const QString text = block.text();
+    const int start = place.start - block.position();
+    qsizetype from = std::max(0, start - CharactersAhead);
+    const qsizetype blank = text.indexOf(QLatin1Char(' '), from);
+    if (from > 0 && blank < start) from = blank + 1;
+    QString shown = text.mid(from, CharactersShown);
+    if (from > 0) shown.prepend(QStringLiteral("... "));
+    if (from + CharactersShown < text.size()) shown.append(QStringLiteral(" ..."));
+    return shown;
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,200 @@
+#include "desktop/HelpViewer.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QPointer>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTreeWidget>
+#include <QWindow>
+#include <ctime>
+#include <set>
+
+#include "ShownForm.h"
+#include "desktop/Manual.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/TestParser.h"
+#include "view/Display.h"
+
+using namespace tessaryn;
+
+namespace {
+
+// The window of the manual, and what is on it.
+struct Viewer {
+    QWidget& window;
+    QTreeWidget& list = *window.findChild<QTreeWidget*>();
+    QTextBrowser& page = *window.findChild<QTextBrowser*>();
+
+    QString Listed() const { return list.currentItem() ? list.currentItem()->text(0) : QString(); }
+    QString Selected() const { return page.textCursor().selectedText(); }
+    QString Count() const { return window.findChild<QLabel*>()->text().trimmed(); }
+    // As from the keyboard: what is blocked by a box gets nothing.
+    void Press(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+        QTest::keyClick(window.windowHandle(), key, with);
+    }
+    void Write(const char* text) {
+        for (; *text != '\0'; ++text) QTest::keyClick(window.windowHandle(), *text);
+    }
+};
+
+QWidget* ManualWindow() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->windowTitle() == QStringLiteral("Tessaryn Manual")) return window;
+    }
+    return nullptr;
+}
+
+bool BecomesActive(const QWidget& window) {
+    return QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }, 60000);
+}
+
+Viewer Opened() {
+    ShowHelpFile("");
+    EXPECT_TRUE(BecomesActive(*ManualWindow()));
+    return {*ManualWindow()};
+}
+
+// Reads and searches the manual from a box that is open, which must not notice.
+void ReadBeside(QWidget& box) {
+    box.activateWindow();
+    ASSERT_TRUE(BecomesActive(box));
+    const QWidget* focus = box.focusWidget();
+    const auto text = ConvertEpsilon(TestParser.RTB);
+    QTest::keyClick(box.windowHandle(), Qt::Key_F1);
+    ASSERT_TRUE(ManualWindow() && ManualWindow()->isVisible()) << box.windowTitle().toStdString();
+    Viewer viewer = Opened();
+    viewer.Press(Qt::Key_F, Qt::ControlModifier);
+    viewer.Write("split");
+    viewer.Press(Qt::Key_Return);
+    EXPECT_EQ(viewer.Selected().toLower(), QStringLiteral("split"));
+    EXPECT_NE(viewer.Count(), QString());
+    // All else waits for the box, which takes back the keyboard.
+    QWidget& main = WindowOf(Proof).Window();
+    QWidget& button = *WidgetOf(Proof.cmdSplit);
+    QTest::mouseClick(main.windowHandle(), Qt::LeftButton, {},
+                      button.mapTo(&main, button.rect().center()));
+    EXPECT_NE(RuleMode, 15);
+    main.activateWindow();
+    QApplication::processEvents();
+    EXPECT_TRUE(BecomesActive(box));
+    Opened();
+    viewer.Press(Qt::Key_Escape);
+    EXPECT_TRUE(viewer.window.isVisible());
+    viewer.Press(Qt::Key_Escape);
+    EXPECT_FALSE(viewer.window.isVisible());
+    EXPECT_TRUE(BecomesActive(box));
+    EXPECT_EQ(box.focusWidget(), focus);
+    EXPECT_EQ(ConvertEpsilon(TestParser.RTB), text);
+}
+
+// Does something with the box that comes up, and closes what is left of it.
+void WithBox(const std::function<void()>& open, const std::function<void(QWidget&)>& act) {
+    bool acted = false;
+    QTimer::singleShot(0, qApp, [&] {
+        const QPointer<QWidget> box = QApplication::activeModalWidget();
+        if (box) act(*box);
+        acted = box != nullptr;
+        if (box) box->close();
+    });
+    open();
+    EXPECT_TRUE(acted);
+}
+
+}  // namespace
+
+TEST(HelpViewer, EveryPageIsPaintedAtOnce) {
+    for (const int size : {8, 10, 12}) {
+        RuleFontSize = size;
+        Viewer viewer = Opened();
+        for (int row = 0; row < viewer.list.topLevelItemCount(); ++row) {
+            const std::clock_t start = std::clock();
+            viewer.list.setCurrentItem(viewer.list.topLevelItem(row));
+            viewer.page.viewport()->repaint();
+            const auto ms = 1000 * (std::clock() - start) / CLOCKS_PER_SEC;
+            EXPECT_LT(ms, 50) << viewer.Listed().toStdString() << " at size " << size;
+        }
+        ForgetManual();
+    }
+}
+
+TEST(HelpViewer, BackAndForwardAgreeWithTheList) {
+    Viewer viewer = Opened();
+    viewer.list.setCurrentItem(viewer.list.topLevelItem(2));
+    viewer.page.verticalScrollBar()->setValue(200);
+    emit viewer.page.anchorClicked(QUrl(QStringLiteral("sets.md#subset")));
+    EXPECT_EQ(viewer.page.textCursor().block().text(), QStringLiteral("Subset"));
+    EXPECT_LT(viewer.page.cursorRect().top(), viewer.page.fontMetrics().height());
+    const auto expectPage = [&](const char* title, int scroll) {
+        EXPECT_EQ(viewer.Listed(), QLatin1String(title));
+        EXPECT_EQ(viewer.page.document()->firstBlock().text(), QLatin1String(title));
+        EXPECT_EQ(viewer.page.verticalScrollBar()->value(), scroll);
+    };
+    const int subset = viewer.page.verticalScrollBar()->value();
+    expectPage("Working with sets", subset);
+    viewer.Press(Qt::Key_Left, Qt::AltModifier);
+    expectPage("The window", 200);
+    viewer.Press(Qt::Key_Left, Qt::AltModifier);
+    expectPage("Tessaryn: user manual", 0);
+    viewer.Press(Qt::Key_Left, Qt::AltModifier);
+    viewer.Press(Qt::Key_Right, Qt::AltModifier);
+    viewer.Press(Qt::Key_Right, Qt::AltModifier);
+    expectPage("Working with sets", subset);
+}
+
+TEST(HelpViewer, SearchLeadsToEachPlaceOfEveryPage) {
+    Viewer viewer = Opened();
+    const int pages = viewer.list.topLevelItemCount();
+    viewer.Press(Qt::Key_F, Qt::ControlModifier);
+    viewer.Write("zzz");
+    EXPECT_EQ(viewer.Count(), QStringLiteral("Not found"));
+    EXPECT_EQ(viewer.list.topLevelItemCount(), 0);
+    viewer.Press(Qt::Key_F, Qt::ControlModifier);
+    viewer.Write("insert line");
+    const int found = viewer.Count().section(QLatin1Char(' '), 0, 0).toInt();
+    EXPECT_GT(found, 20);
+    std::set<QString> titles;
+    for (int hit = 1; hit <= found + 1; ++hit) {
+        viewer.Press(hit == 1 ? Qt::Key_Return : Qt::Key_F3);
+        EXPECT_EQ(viewer.Count(), QStringLiteral("%1 of %2").arg((hit - 1) % found + 1).arg(found));
+        EXPECT_EQ(viewer.Selected().toLower(), QStringLiteral("insert line"));
+        EXPECT_TRUE(viewer.page.viewport()->rect().contains(viewer.page.cursorRect()));
+        titles.insert(viewer.list.currentItem()->parent()->text(0));
+    }
+    EXPECT_EQ(static_cast<int>(titles.size()), viewer.list.topLevelItemCount());
+    viewer.Press(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(viewer.Count(), QStringLiteral("%1 of %1").arg(found));
+    viewer.list.setCurrentItem(viewer.list.topLevelItem(1)->child(0));
+    EXPECT_EQ(viewer.Selected().toLower(), QStringLiteral("insert line"));
+    viewer.Press(Qt::Key_Escape);
+    EXPECT_EQ(viewer.list.topLevelItemCount(), pages);
+    EXPECT_TRUE(viewer.window.isVisible());
+}
+
+TEST(HelpViewer, IsOpenToUseWhileABoxWaits) {
+    StartProgram();
+    ShowMainWindow(Proof);
+    WithBox([] { Dispatch([] { SendChoose(Proof.optPremise); }); },
+            [](QWidget& box) {
+                QTest::keyClick(Find<QTextEdit>(box, "RTB").viewport(), Qt::Key_P);
+                ReadBeside(box);
+                EXPECT_EQ(RuleMode, 1);
+            });
+    WithBox([] { MsgBox("Unable to save file", "WARNING"); }, ReadBeside);
+    // With the question whether to replace a file, which a file box asks by itself.
+    const QTemporaryDir directory;
+    const QString there = directory.filePath(QStringLiteral("there.proof"));
+    QFile(there).open(QIODevice::WriteOnly);
+    CommonDialog choice{there.toStdString(), "Proofs (*.proof)|*.proof", "", true, false};
+    WithBox([&] { ShowSave(choice); },
+            [](QWidget& box) {
+                ReadBeside(box);
+                WithBox([&] { QMetaObject::invokeMethod(&box, "accept"); }, ReadBeside);
+            });
+}
