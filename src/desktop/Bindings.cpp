@@ -176,13 +176,13 @@ Binding BindItem(MenuItem& item, QAction& action) {
     if (!item.Shortcut.empty()) action.setShortcuts(ShortcutsOf(item));
     QObject::connect(&action, &QAction::triggered, &action,
                      [&item] { Dispatch([&item] { SendChoose(item); }); });
-    return {&item, nullptr, {}, [&item, &action] {
+    return {&item, nullptr, {}, [&item, &action, shown = QString()]() mutable {
                 action.setVisible(item.Visible);
                 action.setEnabled(item.Enabled);
                 // A separator with a text would be painted as a heading, and two in a row both
                 // show.
                 const QString text = action.isSeparator() ? QString() : ItemText(item);
-                if (action.text() != text) action.setText(text);
+                if (shown != text) action.setText(shown = text);
                 const bool checkable = item.Checkable || item.Checked;
                 if (action.isCheckable() != checkable) action.setCheckable(checkable);
                 if (action.isChecked() != item.Checked) action.setChecked(item.Checked);

@@ -8,12 +8,14 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <algorithm>
 
 #include "desktop/Bindings.h"
 #include "desktop/Desktop.h"
 #include "desktop/HelpViewer.h"
 #include "desktop/Keys.h"
 #include "desktop/Layouts.h"
+#include "desktop/Mnemonics.h"
 #include "desktop/PaintedText.h"
 
 namespace tessaryn {
@@ -62,6 +64,7 @@ FormWindow::FormWindow(Form& form, WindowKind kind, QWidget* parent) : form_(for
     window_->installEventFilter(this);
     BindControls();
     Sync();
+    if (kind == WindowKind::Dialogue) MarkMenus();
     SetTabOrder();
 }
 
@@ -71,16 +74,15 @@ FormWindow::~FormWindow() {
 
 void FormWindow::MakeWindow(WindowKind kind, QWidget* parent) {
     QWidget* inside = nullptr;
-    QMenuBar* menus = nullptr;
     if (kind == WindowKind::Main) {
         auto* window = new FormMainWindow(form_);
         inside = new QWidget(window);
         window->setCentralWidget(inside);
-        menus = window->menuBar();
+        menuBar_ = window->menuBar();
         window_ = window;
     } else {
         window_ = inside = new FormDialogue(form_, parent);
-        if (!form_.MenuBar.empty()) menus = new QMenuBar(inside);
+        if (!form_.MenuBar.empty()) menuBar_ = new QMenuBar(inside);
     }
     for (Control* control : form_.Controls) {
         if (dynamic_cast<MenuItem*>(control) != nullptr) continue;
@@ -88,10 +90,9 @@ void FormWindow::MakeWindow(WindowKind kind, QWidget* parent) {
         if (QWidget* widget = bindings_.back().widget) controls_[widget] = control;
     }
     LayOut(*this, *inside);
-    if (menus != nullptr) {
-        BuildMenus(menus);
-        if (kind == WindowKind::Dialogue) inside->layout()->setMenuBar(menus);
-    }
+    if (menuBar_ == nullptr) return;
+    BuildMenus();
+    if (kind == WindowKind::Dialogue) inside->layout()->setMenuBar(menuBar_);
 }
 
 void FormWindow::BindControls() {
@@ -103,8 +104,8 @@ void FormWindow::BindControls() {
 
 // --- menus
 
-void FormWindow::BuildMenus(QMenuBar* bar) {
-    for (MenuItem* title : form_.MenuBar) bar->addMenu(BuildMenu(*title));
+void FormWindow::BuildMenus() {
+    for (MenuItem* title : form_.MenuBar) menuBar_->addMenu(BuildMenu(*title));
     // A menu that only pops up hangs under no title.
     for (Control* control : form_.Controls) {
         auto* item = dynamic_cast<MenuItem*>(control);
@@ -127,6 +128,12 @@ QMenu* FormWindow::BuildMenu(MenuItem& title) {
         }
     }
     return menu;
+}
+
+// The captions of a box's menus mark no letters, so they get some here.
+void FormWindow::MarkMenus() {
+    if (menuBar_ != nullptr) AddMnemonics(menuBar_->actions());
+    for (const auto& [title, menu] : menus_) AddMnemonics(menu->actions());
 }
 
 QMenu* FormWindow::MenuOf(const MenuItem& item) const {
@@ -212,6 +219,17 @@ void FormWindow::SetTabOrder() {
     }
 }
 
+bool FormWindow::OpenFirstMenu() {
+    if (menuBar_ == nullptr) return false;
+    QAction* title = menuBar_->actions().constFirst();
+    menuBar_->setActiveAction(title);
+    const QList<QAction*> items = title->menu()->actions();
+    const auto first = std::find_if(items.begin(), items.end(),
+                                    [](const QAction* item) { return item->isEnabled(); });
+    if (first != items.end()) title->menu()->setActiveAction(*first);
+    return true;
+}
+
 // --- events of all widgets
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -246,6 +264,7 @@ bool FormWindow::KeyPressed(QObject* watched, QKeyEvent& event) {
     if (key && DispatchKey(form_, focus, *key)) return true;
     // A key without a meaning is still any key to a form in which nothing takes keys.
     if (!key && focus == nullptr && DispatchKey(form_, nullptr, KeyEvent{})) return true;
+    if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::NoModifier) return OpenFirstMenu();
     const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     auto* button = qobject_cast<QAbstractButton*>(watched);
     // Enter on a check box or an option is for the default button.

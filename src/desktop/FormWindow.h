@@ -55,8 +55,10 @@ class FormWindow : public QObject {
   private:
     void MakeWindow(WindowKind kind, QWidget* parent);
     void BindControls();
-    void BuildMenus(QMenuBar* bar);
+    void BuildMenus();
     QMenu* BuildMenu(MenuItem& title);
+    void MarkMenus();
+    bool OpenFirstMenu();
     void SetTabOrder();
     void SyncFocus();
     bool KeyPressed(QObject* watched, QKeyEvent& event);
@@ -64,6 +66,7 @@ class FormWindow : public QObject {
     Form& form_;
     QPointer<QWidget> window_;
     std::vector<Binding> bindings_;
+    QMenuBar* menuBar_ = nullptr;            // nullptr in a box without menus
     std::map<QObject*, Control*> controls_;  // by widget
     std::map<const MenuItem*, QMenu*> menus_;
     QEventLoop* loop_ = nullptr;  // of RunUntilHidden

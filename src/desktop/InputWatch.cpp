@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCursor>
 #include <QEvent>
-#include <QPointer>
 #include <QWidget>
 #include <utility>
 
@@ -12,7 +11,6 @@ namespace tessaryn {
 namespace {
 
 bool KeyWasLast = false;
-QPointer<QWidget> PressedIn;  // the window of the last press of a mouse button
 
 class Watch : public QObject {
   public:
@@ -23,8 +21,6 @@ class Watch : public QObject {
         if (key || event->type() == QEvent::MouseButtonPress) {
             KeyWasLast = key;
             onInput_();
-            const auto* widget = qobject_cast<QWidget*>(watched);
-            if (!key && widget != nullptr) PressedIn = widget->window();
         }
         return QObject::eventFilter(watched, event);
     }
@@ -44,16 +40,13 @@ void WatchInput(std::function<void()> onInput) {
 }
 
 QPoint PlaceOfInput() {
-    // A dialogue that has come up meanwhile may well lie under the pointer.
-    const QWidget* dialogue = QApplication::activeModalWidget();
-    if (dialogue != nullptr && (KeyWasLast || dialogue != PressedIn)) {
-        return dialogue->frameGeometry().bottomLeft();
-    }
-    if (!KeyWasLast) return QCursor::pos();
     const QWidget* focus = QApplication::focusWidget();
-    if (focus == nullptr) return QCursor::pos();
+    if (!KeyWasLast || focus == nullptr) return QCursor::pos();
     const QRect caret = focus->inputMethodQuery(Qt::ImCursorRectangle).toRect();
-    return focus->mapToGlobal(caret.isNull() ? focus->rect().bottomLeft() : caret.bottomLeft());
+    // The caret may have been scrolled out of sight.
+    const QRect inSight = caret & focus->rect();
+    return focus->mapToGlobal(inSight.isEmpty() ? focus->rect().bottomLeft()
+                                                : inSight.bottomLeft());
 }
 
 }  // namespace tessaryn

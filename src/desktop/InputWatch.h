@@ -1,6 +1,4 @@
-// Where the user's last input took place: at the pointer or, after a key, at the caret. With a
-// dialogue open that was not clicked in, it is below the dialogue, so that nothing hides what that
-// shows.
+// Where the user's last input took place: at the pointer or, after a key, at the caret.
 #pragma once
 
 #include <QPoint>

@@ -1,5 +1,6 @@
 // Beeps with their reasons, and message boxes.
 #include <QApplication>
+#include <QDialog>
 #include <QFontInfo>
 #include <QLabel>
 #include <QMessageBox>
@@ -7,6 +8,8 @@
 #include <QPropertyAnimation>
 #include <QScreen>
 #include <QTimer>
+#include <algorithm>
+#include <utility>
 
 #include "desktop/Desktop.h"
 #include "desktop/HelpViewer.h"
@@ -23,8 +26,10 @@ constexpr int ShownFor = 5000;    // milliseconds, and more for a long reason
 constexpr int PerCharacter = 40;  // milliseconds
 constexpr int FadeFor = 600;      // milliseconds
 constexpr int WidestNote = 85;    // average characters
+constexpr int Gap = 6;            // pixels between a note and a box
 
-// Tells why a command was refused, beside the place of the input. Takes neither focus nor clicks.
+// Tells why a command was refused, beside the place of the input or outside the box in use. Takes
+// neither focus nor clicks.
 class Note : public QLabel {
   public:
     Note() : QLabel(nullptr, Qt::ToolTip | Qt::WindowTransparentForInput) {
@@ -49,7 +54,7 @@ class Note : public QLabel {
         connect(&wait_, &QTimer::timeout, this, [this] { Fade(); });
     }
 
-    void Tell(const QString& reason, const QPoint& place) {
+    void Tell(const QString& reason, const QWidget* box) {
         fade_.stop();
         setWindowOpacity(1.0);
         setFont(TellingFont());
@@ -58,7 +63,7 @@ class Note : public QLabel {
         const int natural = fontMetrics().horizontalAdvance(reason) + 2 * margin() + 4;
         const int width = std::min(natural, fontMetrics().averageCharWidth() * WidestNote);
         resize(width, heightForWidth(width));
-        move(Beside(place));
+        move(box == nullptr ? Beside(PlaceOfInput()) : Outside(*box));
         show();
         raise();
         wait_.start(ShownFor + PerCharacter * static_cast<int>(reason.size()));
@@ -72,15 +77,54 @@ class Note : public QLabel {
     }
 
   private:
-    // Below and to the right, so that what was clicked stays in sight.
-    QPoint Beside(const QPoint& place) const {
+    static QRect RoomAt(const QPoint& place) {
         const QScreen* screen = QGuiApplication::screenAt(place);
         if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-        const QRect room = screen->availableGeometry();
+        return screen->availableGeometry();
+    }
+
+    // Below and to the right, so that what was clicked stays in sight.
+    QPoint Beside(const QPoint& place) const {
+        const QRect room = RoomAt(place);
         QPoint corner = place + QPoint(14, 18);
         if (corner.y() + height() > room.bottom()) corner.setY(place.y() - height() - 12);
         corner.setX(std::max(room.left(), std::min(corner.x(), room.right() - width())));
         return corner;
+    }
+
+    // Below the box or where else there is room; over none of its entries if it fills the screen.
+    QPoint Outside(const QWidget& box) const {
+        const QRect frame = box.frameGeometry();
+        const QRect room = RoomAt(frame.center());
+        const int x =
+            std::clamp(frame.left(), room.left(), std::max(room.left(), room.right() - width()));
+        const int y =
+            std::clamp(frame.top(), room.top(), std::max(room.top(), room.bottom() - height()));
+        const QPoint places[] = {
+            {x, frame.bottom() + Gap},
+            {x, frame.top() - height() - Gap},
+            {frame.right() + Gap, y},
+            {frame.left() - width() - Gap, y},
+            {room.left(), room.bottom() - height()},
+            {room.right() - width(), room.bottom() - height()},
+            {room.left(), room.top()},
+        };
+        const auto* place =
+            std::find_if(std::begin(places), std::end(places), [&](const QPoint& at) {
+                const QRect note(at, size());
+                return room.contains(note) && !HidesEntryOf(box, note);
+            });
+        return place == std::end(places) ? places[4] : *place;
+    }
+
+    static bool HidesEntryOf(const QWidget& box, const QRect& note) {
+        const auto entries = box.findChildren<QWidget*>();
+        return std::any_of(entries.begin(), entries.end(), [&](const QWidget* entry) {
+            const bool counts = entry->focusPolicy() != Qt::NoFocus ||
+                                qobject_cast<const QLabel*>(entry) != nullptr;
+            return counts && entry->isVisible() &&
+                   note.intersects({entry->mapToGlobal(QPoint()), entry->size()});
+        });
     }
 
     QTimer wait_;
@@ -88,6 +132,32 @@ class Note : public QLabel {
 };
 
 QPointer<Note> Shown;
+QString Waiting;  // the reason that is to be told once the event is over
+
+// The box in which the user works; nullptr in the main window.
+QWidget* BoxOnTop() {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    return qobject_cast<QDialog*>(QApplication::activeWindow());
+}
+
+bool ALabelSays(const QString& reason, const QWidget* window) {
+    if (window == nullptr) return false;
+    QString words = reason.simplified();
+    if (words.endsWith(QLatin1Char('.'))) words.chop(1);
+    const auto labels = window->findChildren<QLabel*>();
+    return std::any_of(labels.begin(), labels.end(), [&](const QLabel* label) {
+        return label->isVisible() && label->text().simplified().contains(words);
+    });
+}
+
+void TellWaiting() {
+    const QString reason = std::exchange(Waiting, {});
+    const QWidget* box = BoxOnTop();
+    const QWidget* window = box != nullptr ? box : QApplication::activeWindow();
+    if (reason.isEmpty() || ALabelSays(reason, window)) return;
+    if (!Shown) Shown = new Note;
+    Shown->Tell(reason, box);
+}
 
 QMessageBox::StandardButton ButtonFor(Answer answer) {
     switch (answer) {
@@ -120,8 +190,9 @@ QFont TellingFont() {
 void Beep(const std::string& reason) {
     QApplication::beep();
     if (reason.empty()) return;
-    if (!Shown) Shown = new Note;
-    Shown->Tell(ToQt(reason), PlaceOfInput());
+    // By then the labels say what they have to say, and a box that the event opens is there.
+    if (Waiting.isEmpty()) QTimer::singleShot(0, qApp, TellWaiting);
+    Waiting = ToQt(reason);
 }
 
 void FadeNote() {
@@ -133,6 +204,7 @@ QString NoteShown() {
 }
 
 void ForgetNote() {
+    Waiting.clear();
     delete Shown;
 }
 

@@ -14,6 +14,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextEdit>
@@ -22,7 +23,6 @@
 #include "ShownForm.h"
 #include "axioms/InductionForm.h"
 #include "axioms/SubsetFrm.h"
-#include "desktop/InputWatch.h"
 #include "desktop/Messages.h"
 #include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
@@ -220,21 +220,73 @@ TEST(FormWindow, KeyboardAcceptsAndCancels) {
     EXPECT_EQ(form.Run([](QWidget& window) { window.close(); }), "closed");
 }
 
-// A dialogue that has come up at a click may lie under the pointer.
-TEST(FormWindow, NoteHidesNothingOfADialogue) {
-    QWidget elsewhere;
-    elsewhere.show();
-    QTest::mouseClick(&elsewhere, Qt::LeftButton);
-    EntryForm form;
-    form.Run([&](QWidget& window) {
-        const QPoint below = window.frameGeometry().bottomLeft();
-        EXPECT_EQ(PlaceOfInput(), below);
-        auto& entry = Find<QLineEdit>(window, "name");
-        QTest::mouseClick(&entry, Qt::LeftButton);
-        EXPECT_EQ(PlaceOfInput(), QCursor::pos());
-        QTest::keyClick(&entry, Qt::Key_A);
-        EXPECT_EQ(PlaceOfInput(), below);
+// A note says what no label says, and hides nothing of the box, wherever the user has clicked.
+TEST(FormWindow, NoteAddsToABoxAndHidesNothingOfIt) {
+    StartProgram();
+    const auto noteAt = []() -> QRect {
+        QCoreApplication::processEvents();
+        if (NoteShown().isEmpty()) return {};
+        for (const QWidget* widget : QApplication::topLevelWidgets()) {
+            const auto* label = qobject_cast<const QLabel*>(widget);
+            if (label != nullptr && label->text() == NoteShown()) return label->frameGeometry();
+        }
+        return {};
+    };
+    ClosedBy(TestParser, [&](QWidget& window) {
+        auto& editor = Find<QTextEdit>(window, "RTB");
+        QTest::mouseClick(editor.viewport(), Qt::LeftButton);
+        Type(editor, QStringLiteral("x+"));
+        Find<QPushButton>(window, "cmdContinue").click();
+        EXPECT_NE(TestParser.StatusLine.Caption, "");
+        EXPECT_EQ(noteAt(), QRect()) << "the label has told the reason";
+        const QRect screen = window.screen()->availableGeometry();
+        for (const QPoint place : {screen.topLeft(), screen.bottomLeft(), screen.topRight()}) {
+            window.move(place.x() > 0 ? place.x() - window.width() : 0,
+                        place.y() > 0 ? place.y() - window.height() : 0);
+            QTest::mouseClick(&Find<QPushButton>(window, "cmdCut"), Qt::LeftButton);
+            EXPECT_TRUE(screen.contains(noteAt()));
+            EXPECT_FALSE(window.frameGeometry().intersects(noteAt()));
+        }
+        window.setGeometry(screen);
+        Find<QPushButton>(window, "cmdCut").click();
+        EXPECT_NE(noteAt(), QRect());
+        EXPECT_FALSE(noteAt().intersects({editor.mapToGlobal(QPoint()), editor.size()}));
     });
+}
+
+TEST(FormWindow, MenusOfABoxOpenByKeys) {
+    StartProgram();
+    ClosedBy(TestParser, [](QWidget& window) {
+        auto& editor = Find<QTextEdit>(window, "RTB");
+        QStringList titles;
+        for (const QAction* title : window.findChild<QMenuBar*>()->actions())
+            titles += title->text();
+        EXPECT_EQ(titles, (QStringList{QStringLiteral("&Edit"), QStringLiteral("&Notation")}));
+        EXPECT_EQ(TestParser.Menus.mnuEdit.Caption, "Edit");
+        QMenu& edit = *WindowOf(TestParser).MenuOf(TestParser.Menus.mnuEdit);
+        QString letters;
+        for (const QAction* item : edit.actions()) {
+            letters += QKeySequence::mnemonic(item->text()).toString().right(1);
+        }
+        EXPECT_EQ(letters, QStringLiteral("URCOPDL"));
+
+        QTest::keyClick(&editor, Qt::Key_F10);
+        EXPECT_EQ(QApplication::activePopupWidget(), &edit);
+        EXPECT_EQ(edit.activeAction(), edit.actions()[2]) << "the first that is not greyed";
+        edit.close();
+
+        QTest::mouseClick(&Find<QPushButton>(window, "cmdClear"), Qt::LeftButton);
+        Type(editor, QStringLiteral("x+y"));
+        QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {}, {});
+        QApplication::sendEvent(editor.viewport(), &menuKey);
+        const QPoint caret = editor.viewport()->mapToGlobal(editor.cursorRect().bottomLeft());
+        EXPECT_LT((edit.pos() - caret).manhattanLength(), 4);
+        edit.close();
+    });
+    FormWindow& window = WindowOf(Comment);
+    for (const QAction* item : window.MenuOf(Comment.Menus.mnuNotation)->actions()) {
+        EXPECT_TRUE(item->text().contains(QLatin1Char('&'))) << item->text().toStdString();
+    }
 }
 
 TEST(FormWindow, TabGoesFromTheTextToContinue) {
@@ -297,6 +349,7 @@ TEST(FormWindow, AFaultInTheLogicIsToldAndLeavesTheWindowUsable) {
     EntryForm form;
     EXPECT_EQ(form.Run([&](QWidget& window) {
         Find<QPushButton>(window, "faulty").click();
+        QCoreApplication::processEvents();
         EXPECT_TRUE(NoteShown().contains(QStringLiteral("out of ink")));
         EXPECT_EQ(QApplication::activeModalWidget(), &window);
         Find<QPushButton>(window, "cancel").click();
