@@ -10,7 +10,6 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPointer>
-#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
@@ -24,6 +23,7 @@
 #include <QWindow>
 
 #include "desktop/Desktop.h"
+#include "desktop/Layouts.h"
 #include "desktop/Manual.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
@@ -35,7 +35,6 @@ namespace tessaryn {
 namespace {
 
 constexpr QSize NaturalSize(1000, 700);
-constexpr QSize FrameSize(16, 48);  // room for what the window manager adds
 constexpr int StartRole = Qt::UserRole + 1;
 constexpr int LengthRole = Qt::UserRole + 2;
 
@@ -75,7 +74,7 @@ class HelpWindow : public QWidget {
         connect(&list_, &QTreeWidget::currentItemChanged, this, [this] { GoToItem(); });
         connect(&list_, &QTreeWidget::itemClicked, this, [this] { GoToItem(); });
         connect(&text_, &QTextBrowser::anchorClicked, this, [this](const QUrl& to) { Follow(to); });
-        resize(NaturalSize.boundedTo(screen()->availableSize() - FrameSize));
+        resize(NaturalSize.boundedTo(RoomOnScreen(*this)));
         TakeLook();
         Visit({});
         text_.setFocus();
@@ -165,6 +164,11 @@ class HelpWindow : public QWidget {
     void TakeLook() {
         manual_.font = font();
         manual_.linkColour = LinkColour(palette());
+        QPalette colours = palette();
+        QColor faint = colours.color(QPalette::Text);
+        faint.setAlphaF(0.6F);
+        colours.setColor(QPalette::PlaceholderText, faint);  // not every desktop theme has one
+        search_.setPalette(colours);
         const int scroll = text_.verticalScrollBar()->value();
         text_.setDocument(nullptr);
         for (ManualPage& page : manual_.pages) page.text.reset();

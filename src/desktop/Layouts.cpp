@@ -11,6 +11,7 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <initializer_list>
@@ -367,6 +368,13 @@ void LayOut(FormWindow& window, QWidget& inside) {
         by(LayOutTips) || by(LayOutPrintProof) || by(LayOutComment) || by(LayOutEditCaption) ||
         by(LayOutFind) || by(LayOutWarning) || by(LayOutGeneralize) || by(LayOutSubstitution);
     if (!known) LayOutAnyForm(window, inside);
+    // With a large font on a small screen there is more to scroll.
+    if (inside.isWindow()) inside.resize(inside.size().boundedTo(RoomOnScreen(inside)));
+}
+
+QSize RoomOnScreen(const QWidget& window) {
+    constexpr QSize frame(16, 48);  // of most window managers, and some to spare
+    return window.screen()->availableSize() - frame;
 }
 
 }  // namespace tessaryn

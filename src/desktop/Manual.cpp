@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextFrame>
+#include <QTextTable>
 #include <algorithm>
 
 namespace tessaryn {
@@ -16,6 +18,7 @@ namespace {
 constexpr int CharactersAhead = 24;  // of a place, in what a list shows around it
 constexpr int CharactersShown = 120;
 constexpr int Margin = 12;  // of a page, in pixels
+constexpr int CellPadding = 3;
 
 QString ContentOf(const QString& path) {
     QFile file(path);
@@ -48,6 +51,25 @@ void PaintLinks(QTextDocument& text, const QColor& colour) {
             cursor.setPosition(cursor.position() + stretch.length, QTextCursor::KeepAnchor);
             cursor.mergeCharFormat(painted);
         }
+    }
+}
+
+// The reader keeps the backslash of a "|" in the code of a table.
+void DropEscapes(QTextDocument& text) {
+    for (QTextCursor found(&text); !(found = text.find(QStringLiteral("\\|"), found)).isNull();) {
+        found.setPosition(found.selectionStart());
+        found.deleteChar();
+    }
+}
+
+void SetOffCells(const QTextDocument& text) {
+    for (QTextFrame* frame : text.rootFrame()->childFrames()) {
+        auto* table = qobject_cast<QTextTable*>(frame);
+        if (table == nullptr) continue;
+        QTextTableFormat format = table->format();
+        format.setBorderCollapse(true);
+        format.setCellPadding(CellPadding);
+        table->setFormat(format);
     }
 }
 
@@ -94,6 +116,8 @@ QTextDocument& TextOf(Manual& manual, int page) {
     shown.text->setDocumentMargin(Margin);
     shown.text->setBaseUrl(QUrl::fromLocalFile(shown.path));
     shown.text->setMarkdown(ContentOf(shown.path));
+    DropEscapes(*shown.text);
+    SetOffCells(*shown.text);
     PaintLinks(*shown.text, manual.linkColour);
     return *shown.text;
 }

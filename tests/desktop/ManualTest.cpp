@@ -51,3 +51,9 @@ TEST(Manual, EveryLinkLeadsSomewhereAndTheContentsToEveryPage) {
         }
     }
 }
+
+TEST(Manual, BarsInTheCodeOfTablesHaveNoBackslash) {
+    Manual manual{ReadPages(QStringLiteral(TESSARYN_SOURCE_DIR "/docs/manual")), {}, {}};
+    EXPECT_TRUE(FindInManual(manual, QStringLiteral("\\|")).empty());
+    EXPECT_FALSE(FindInManual(manual, QStringLiteral("~P | Q")).empty());
+}
