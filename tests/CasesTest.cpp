@@ -1,0 +1,68 @@
+// Runs the tables of cases: tests/rules/*.txt and tests/axioms/*.txt.
+//
+// A case is a row of steps (Steps.h) that begins with an empty proof. It goes on in the lines below
+// it that are indented. "#" begins a comment, also within a case. The items that are hidden in the
+// window can be chosen.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "Steps.h"
+
+namespace tessaryn {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Case {
+    int line;
+    std::string steps;
+};
+
+std::vector<Case> ReadCases(const fs::path& path) {
+    std::vector<Case> cases;
+    std::ifstream file(path);
+    std::string text;
+    for (int line = 1; std::getline(file, text); ++line) {
+        if (text.empty() || text.starts_with('#')) continue;
+        if (text.starts_with(' ') && !cases.empty()) {
+            cases.back().steps += " ; " + text;
+        } else {
+            cases.push_back({line, text});
+        }
+    }
+    return cases;
+}
+
+std::vector<std::string> Tables() {
+    std::vector<std::string> tables;
+    for (const char* folder : {"rules", "axioms"}) {
+        const fs::path path = fs::path(TESSARYN_SOURCE_DIR) / "tests" / folder;
+        for (const auto& entry : fs::directory_iterator(path)) {
+            if (entry.path().extension() == ".txt") tables.push_back(entry.path().string());
+        }
+    }
+    return tables;
+}
+
+class Cases : public testing::TestWithParam<std::string> {};
+
+TEST_P(Cases, Hold) {
+    const std::vector<Case> cases = ReadCases(GetParam());
+    EXPECT_FALSE(cases.empty());
+    for (const auto& [line, steps] : cases) {
+        EXPECT_EQ(Do(steps), "") << GetParam() << ":" << line;
+    }
+}
+
+std::string NameOf(const testing::TestParamInfo<std::string>& info) {
+    std::string name = fs::path(info.param).stem().string();
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Tables, Cases, testing::ValuesIn(Tables()), NameOf);
+
+}  // namespace
+}  // namespace tessaryn
