@@ -11,7 +11,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -39,8 +38,6 @@ namespace {
 struct EntryForm : Form {
     EntryForm() : Form("Entry", "An entry") {
         DefaultButton = &accept;
-        box.KeyDown = [this](const KeyEvent& key) { return InsertElementSign(key); };
-        box.Change = [this] { ++changes; };
         accept.Click = [this] { End("accepted " + name.Text); };
         cancel.Click = [this] { End("cancelled"); };
         faulty.Click = [] { throw std::runtime_error("out of ink"); };
@@ -62,14 +59,6 @@ struct EntryForm : Form {
         Hide();
     }
 
-    bool InsertElementSign(const KeyEvent& key) {
-        if (key.text != "@") return false;
-        box.SelFontName = "Symbol";
-        box.SelText = "e";
-        box.SelFontName = "Courier New";
-        return true;
-    }
-
     // How the form ended by what was done in its window.
     std::string Run(const std::function<void(QWidget&)>& act) {
         ended = "closed";
@@ -88,7 +77,6 @@ struct EntryForm : Form {
     MenuItem item{*this, "item", "'&&'     (And)", ""};
     MenuItem line{*this, "line", "-"};
     std::string ended;
-    int changes = 0;
 };
 
 // A key of its own for each character, those beyond ASCII included.
@@ -99,23 +87,6 @@ void Type(QWidget& widget, const QString& text) {
 }
 
 }  // namespace
-
-TEST(EditBox, ElementSignsTypedOrPastedReadBackAsTheSignOfTheSurface) {
-    EntryForm form;
-    form.Run([&](QWidget& window) {
-        auto& editor = Find<QTextEdit>(window, "box");
-        Type(editor, QStringLiteral("x@S"));
-        QTest::keyClick(&editor, Qt::Key_Return);
-        Type(editor, QStringLiteral("e\u00E9"));
-        QTest::keyClick(&editor, Qt::Key_Backspace);
-        EXPECT_EQ(editor.toPlainText(), QStringLiteral("x\u03B5S\ne"));
-        EXPECT_EQ(form.box.GetText(), "xeS\r\ne");
-        for (const int other : {0, 2, 5}) EXPECT_EQ(form.box.FormatAt(other).Font, "Courier New");
-        EXPECT_EQ(form.box.FormatAt(1).Font, "Symbol");
-        EXPECT_EQ(form.box.GetSelStart(), 6);
-        EXPECT_EQ(form.changes, 6);  // "@" is the logic's own doing
-    });
-}
 
 // By the box's own keys and by what the toolkit brings along: its keys, the middle button, a drop.
 TEST(EditBox, EveryWayInAndOutKnowsTheElementSign) {
@@ -140,6 +111,12 @@ TEST(EditBox, EveryWayInAndOutKnowsTheElementSign) {
                            key(Qt::Key_Delete, Qt::ShiftModifier)};
     ClosedBy(TestParser, [&](QWidget& window) {
         auto& editor = Find<QTextEdit>(window, "RTB");
+        Type(editor, QStringLiteral("x@S"));
+        QTest::keyClick(&editor, Qt::Key_Return);
+        Type(editor, QStringLiteral("e\u00E9"));
+        QTest::keyClick(&editor, Qt::Key_Backspace);
+        EXPECT_EQ(editor.toPlainText(), QStringLiteral("x\u03B5S\ne"));
+        EXPECT_EQ(ConvertEpsilon(TestParser.RTB), "x@S\r\ne");
         for (const Act& takeIn : waysIn) {
             clipboard.setText(QStringLiteral("\tx @ \u2208\n"));
             SendChoose(TestParser.Tools.Clear);
@@ -399,15 +376,4 @@ TEST(ProofWindow, DragPastTheRightEdgeGoesOnToTheEndOfTheLine) {
     EXPECT_GT(area->horizontalScrollBar()->value(), 300);
     QTest::mouseRelease(viewport, Qt::LeftButton, {}, edge);
     ForgetWindows();
-}
-
-TEST(Clipboard, HoldsPlainTextAndRtf) {
-    const Clip rich{"P\r\nQ", "{\\rtf1 P}"};
-    SetClipboard(rich);
-    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
-    EXPECT_EQ(content->text(), QStringLiteral("P\nQ"));
-    EXPECT_EQ(content->data(QStringLiteral("application/rtf")), QByteArray("{\\rtf1 P}"));
-    EXPECT_EQ(ClipboardContent(), rich);
-    SetClipboard({"plain", ""});
-    EXPECT_EQ(ClipboardContent(), (Clip{"plain", ""}));
 }

@@ -140,22 +140,6 @@ TEST_F(RichTextBoxTest, WholeText) {
     EXPECT_EQ(Shown(box), "C12.0[new]");
 }
 
-TEST_F(RichTextBoxTest, RichTextGoesFromBoxToBox) {
-    Fill();
-    box.SelAlignment = Alignment::Center;
-    RichTextBox other(form, "Other");
-    other.TextRTF = box.TextRTF;
-    EXPECT_EQ(Shown(other), Shown(box));
-    EXPECT_EQ(other.SelAlignment(), Alignment::Center);
-    Select(1, 2);
-    other.SelStart = 6;
-    other.SelRTF = box.SelRTF;
-    EXPECT_EQ(Shown(other), "C12.1[ab]C12.2[cd]C12.3[ef]C12.1[b]C12.2[c]");
-    EXPECT_EQ(other.SelStart, 8);
-    other.SelRTF = "plain";
-    EXPECT_EQ(Shown(other, 6, 99), "C12.1[b]C12.2[cplain]");
-}
-
 TEST_F(RichTextBoxTest, UserEditing) {
     const struct {
         int start, length;

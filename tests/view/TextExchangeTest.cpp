@@ -53,14 +53,6 @@ TEST(TextExchange, EveryBoxTakesTheElementSignHoweverItIsWritten) {
     EXPECT_EQ(ProofCaption, "x @ s");
 }
 
-TEST(TextExchange, UndoTakesBackWhatCameInBesidePaste) {
-    ASSERT_EQ(Build("choose optPremise\ntype \"ab\"\n"), "");
-    SendPaste(TestParser.RTB, {"∈", ""});
-    EXPECT_EQ(BoxText(TestParser.RTB), "ab@");
-    SendChoose(TestParser.Tools.Undo);
-    EXPECT_EQ(BoxText(TestParser.RTB), "ab");
-}
-
 TEST(TextExchange, ADragWithinABoxMovesTextAsOneStep) {
     RichTextBox& box = TestParser.RTB;
     const struct {
