@@ -13,13 +13,13 @@ namespace tessaryn {
 
 namespace {
 
-constexpr int Margin = 6;           // pixels around the text
-constexpr int CaretWidth = 2;       // pixels
-constexpr int LayoutsKept = 500;    // more than any screen shows
-constexpr double NoWrap = 8000000;  // pixels; close to the widest line that Qt can lay out
+constexpr int Margin = 6;         // pixels around the text
+constexpr int CaretWidth = 2;     // pixels
+constexpr int LayoutsKept = 500;  // more than any screen shows
 
+// To pixels; what lies further off than any text should reach is as far as that.
 int Round(double value) {
-    return static_cast<int>(std::lround(value));
+    return static_cast<int>(std::lround(std::clamp(value, -1e9, 1e9)));
 }
 
 }  // namespace
@@ -81,55 +81,39 @@ void ProofDisplay::MeasureFont() {
     if (size == fontSize_) return;
     CharFormat format;
     format.Size = fontSize_ = size;
-    const QFontMetricsF metrics(FontOf(format));
+    style_.font = FontOf(format);
+    style_.tabColumns = LineIndex::TabColumns;
+    const QFontMetricsF metrics(style_.font);
     ascent_ = static_cast<int>(std::ceil(metrics.ascent()));
     lineHeight_ = ascent_ + static_cast<int>(std::ceil(metrics.descent() + metrics.leading())) + 1;
-    columnWidth_ = metrics.horizontalAdvance(QLatin1Char('0'));
+    style_.columnWidth = metrics.horizontalAdvance(QLatin1Char('0'));
     UpdateScrollBars();
 }
 
 void ProofDisplay::UpdateScrollBars() {
     const QSize room = viewport()->size();
-    const int height = index_.Count() * lineHeight_ + 2 * Margin;
-    const int width = Round(index_.WidestLine() * columnWidth_) + 2 * Margin + CaretWidth;
+    const int height = Round(double(index_.Count()) * lineHeight_) + 2 * Margin;
+    const int width = Round(index_.WidestLine() * style_.columnWidth) + 2 * Margin + CaretWidth;
     verticalScrollBar()->setRange(0, std::max(0, height - room.height()));
     verticalScrollBar()->setPageStep(room.height());
     verticalScrollBar()->setSingleStep(lineHeight_);
     horizontalScrollBar()->setRange(0, std::max(0, width - room.width()));
     horizontalScrollBar()->setPageStep(room.width());
-    horizontalScrollBar()->setSingleStep(Round(columnWidth_ * 4));
+    horizontalScrollBar()->setSingleStep(Round(style_.columnWidth * 4));
 }
 
 // --- layout
 
-ProofDisplay::Line& ProofDisplay::LaidOut(int number) {
+LineLayout& ProofDisplay::LaidOut(int number) {
     if (const auto found = lines_.find(number); found != lines_.end()) return found->second;
     if (lines_.size() > LayoutsKept) lines_.clear();
-
-    Line& line = lines_[number];
-    line.painted = PaintText(box_, index_.Start(number), index_.End(box_.GetText(), number));
-    QList<QTextLayout::FormatRange> formats;
-    for (const auto& span : line.painted.spans) {
-        formats.append({span.start, span.length, TextFormat(span.format)});
-    }
-    CharFormat plain;
-    plain.Size = fontSize_;
-    line.layout = std::make_unique<QTextLayout>(line.painted.text, FontOf(plain));
-    QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
-    option.setTabStopDistance(columnWidth_ * LineIndex::TabColumns);
-    line.layout->setTextOption(option);
-    line.layout->setFormats(formats);
-    line.layout->setCacheEnabled(true);
-    line.layout->beginLayout();
-    line.layout->createLine().setLineWidth(NoWrap);
-    line.layout->endLayout();
     ++linesLaidOut_;
-    return line;
+    const int end = index_.End(box_.GetText(), number);
+    return lines_.try_emplace(number, box_, index_.Start(number), end, style_).first->second;
 }
 
 int ProofDisplay::LineTop(int line) const {
-    return Margin + line * lineHeight_ - verticalScrollBar()->value();
+    return Round(double(line) * lineHeight_ + Margin - verticalScrollBar()->value());
 }
 
 int ProofDisplay::LineAtY(int y) const {
@@ -138,10 +122,8 @@ int ProofDisplay::LineAtY(int y) const {
 }
 
 int ProofDisplay::PositionAt(const QPoint& place, QTextLine::CursorPosition kind) {
-    const Line& line = LaidOut(LineAtY(place.y()));
     const double x = place.x() + horizontalScrollBar()->value() - Margin;
-    const int unit = line.layout->lineAt(0).xToCursor(x, kind);
-    return line.painted.bytes[static_cast<std::size_t>(unit)];
+    return LaidOut(LineAtY(place.y())).ByteAt(x, kind);
 }
 
 int ProofDisplay::BoundaryAt(const QPoint& place) {
@@ -154,10 +136,8 @@ int ProofDisplay::CharacterAt(const QPoint& place) {
 
 QRect ProofDisplay::CaretRect(int position) {
     const int number = index_.LineAt(position);
-    const Line& line = LaidOut(number);
-    const double x = line.layout->lineAt(0).cursorToX(line.painted.UnitAt(position));
-    return {Round(x) + Margin - horizontalScrollBar()->value(), LineTop(number), CaretWidth,
-            lineHeight_};
+    return {Round(LaidOut(number).XAt(position)) + Margin - horizontalScrollBar()->value(),
+            LineTop(number), CaretWidth, lineHeight_};
 }
 
 // Scrolls no further than needed; but back to the line starts where the place is in sight there.
@@ -189,32 +169,31 @@ void ProofDisplay::paintEvent(QPaintEvent* event) {
 }
 
 void ProofDisplay::PaintLine(QPainter& painter, int number) {
-    const Line& line = LaidOut(number);
-    const QTextLine shown = line.layout->lineAt(0);
-    const QPointF origin(Margin - horizontalScrollBar()->value(),
-                         LineTop(number) + ascent_ - shown.ascent());
-    const int start = std::min(anchor_, caret_);
+    LineLayout& line = LaidOut(number);
+    QScrollBar* bar = horizontalScrollBar();
+    const double left = bar->value() - Margin;  // of the line, in sight
+    const double right = left + viewport()->width();
+    const int first = std::max(std::min(anchor_, caret_), index_.Start(number));
     const int end = std::max(anchor_, caret_);
-    const int first = std::max(start, index_.Start(number));
     const int lineEnd = index_.End(box_.GetText(), number);
-    QList<QTextLayout::FormatRange> selections;
+    const int last = std::min(end, lineEnd);
     const QPalette::ColorGroup group = hasFocus() ? QPalette::Active : QPalette::Inactive;
-    if (start < end && first <= lineEnd && end > index_.Start(number)) {
-        const double left = shown.cursorToX(line.painted.UnitAt(first));
-        double right = shown.cursorToX(line.painted.UnitAt(std::min(end, lineEnd)));
-        if (end > lineEnd) right += columnWidth_ / 2;  // the line end is selected as well
-        const QRectF box(origin.x() + left, LineTop(number), right - left, lineHeight_);
+    if (anchor_ != caret_ && first <= lineEnd && end > index_.Start(number)) {
+        const double selectedLeft = std::max(line.XAt(first), left);
+        double selectedRight = line.XAt(last);
+        if (end > lineEnd) selectedRight += style_.columnWidth / 2;  // the line end is selected too
+        selectedRight = std::min(selectedRight, right);
+        const QRectF box(selectedLeft - left, LineTop(number), selectedRight - selectedLeft,
+                         lineHeight_);
         painter.fillRect(box, palette().brush(group, QPalette::Highlight));
-        const int unit = line.painted.UnitAt(first);
-        QTextCharFormat format;
-        format.setForeground(palette().brush(group, QPalette::HighlightedText));
-        selections.append({unit, line.painted.UnitAt(std::min(end, lineEnd)) - unit, format});
     }
-    line.layout->draw(&painter, origin, selections);
+    QTextCharFormat selected;
+    selected.setForeground(palette().brush(group, QPalette::HighlightedText));
+    line.Draw(painter, {-left, double(LineTop(number) + ascent_)}, left, right, first, last,
+              selected);
 
     // A wide character or a fallback font may be wider than the index can tell.
-    const int width = Round(shown.naturalTextWidth()) + 2 * Margin + CaretWidth;
-    QScrollBar* bar = horizontalScrollBar();
+    const int width = Round(line.Width()) + 2 * Margin + CaretWidth;
     if (width - viewport()->width() > bar->maximum()) {
         bar->setMaximum(width - viewport()->width());
     }

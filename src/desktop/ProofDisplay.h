@@ -6,12 +6,10 @@
 
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
-#include <QTextLayout>
 #include <map>
-#include <memory>
 
 #include "desktop/LineIndex.h"
-#include "desktop/PaintedText.h"
+#include "desktop/LineLayout.h"
 #include "platform/RichTextBox.h"
 
 namespace tessaryn {
@@ -48,17 +46,13 @@ class ProofDisplay : public QAbstractScrollArea {
     void changeEvent(QEvent* event) override;
 
   private:
-    struct Line {
-        PaintedText painted;
-        std::unique_ptr<QTextLayout> layout;
-    };
     enum class Unit { Character, Word };
 
     // ProofDisplay.cpp: content, layout, painting
     bool TakeContent();
     void MeasureFont();
     void UpdateScrollBars();
-    Line& LaidOut(int line);
+    LineLayout& LaidOut(int line);
     int LineTop(int line) const;  // in the viewport
     int LineAtY(int y) const;
     int PositionAt(const QPoint& place, QTextLine::CursorPosition kind);
@@ -83,12 +77,12 @@ class ProofDisplay : public QAbstractScrollArea {
 
     RichTextBox& box_;
     LineIndex index_;
-    std::map<int, Line> lines_;  // laid out, by number; dropped at each change
+    std::map<int, LineLayout> lines_;  // laid out, by number; dropped at each change
     int linesLaidOut_ = 0;
     int fontSize_ = 0;  // points; of the statements
     int lineHeight_ = 1;
     int ascent_ = 1;
-    double columnWidth_ = 1;
+    LineStyle style_;
 
     int anchor_ = 0;  // bytes of the surface; the selection lies between it and the caret
     int caret_ = 0;

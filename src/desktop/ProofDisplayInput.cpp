@@ -44,34 +44,27 @@ void ProofDisplay::MoveCaret(int position, bool extend) {
 void ProofDisplay::MoveByLines(int lines, bool extend) {
     const int from = index_.LineAt(caret_);
     const int to = std::clamp(from + lines, 0, index_.Count() - 1);
-    const Line& old = LaidOut(from);
-    const double x =
-        goalX_ >= 0 ? goalX_ : old.layout->lineAt(0).cursorToX(old.painted.UnitAt(caret_));
-    const Line& line = LaidOut(to);
-    const int unit = line.layout->lineAt(0).xToCursor(x);
-    if (to != from) MoveCaret(line.painted.bytes[static_cast<std::size_t>(unit)], extend);
+    const double x = goalX_ >= 0 ? goalX_ : LaidOut(from).XAt(caret_);
+    if (to != from) MoveCaret(LaidOut(to).ByteAt(x), extend);
     goalX_ = x;
 }
 
 int ProofDisplay::Next(int position, Unit unit) {
     const int number = index_.LineAt(position);
-    const Line& line = LaidOut(number);
-    const int at = line.painted.UnitAt(position);
-    if (at >= line.painted.text.size()) {
+    if (position >= index_.End(box_.GetText(), number)) {
         return number + 1 < index_.Count() ? index_.Start(number + 1) : position;
     }
     const auto mode = unit == Unit::Word ? QTextLayout::SkipWords : QTextLayout::SkipCharacters;
-    return line.painted.bytes[static_cast<std::size_t>(line.layout->nextCursorPosition(at, mode))];
+    return LaidOut(number).Next(position, mode);
 }
 
 int ProofDisplay::Previous(int position, Unit unit) {
     const int number = index_.LineAt(position);
-    const Line& line = LaidOut(number);
-    const int at = line.painted.UnitAt(position);
-    if (at == 0) return number > 0 ? index_.End(box_.GetText(), number - 1) : position;
+    if (position <= index_.Start(number)) {
+        return number > 0 ? index_.End(box_.GetText(), number - 1) : position;
+    }
     const auto mode = unit == Unit::Word ? QTextLayout::SkipWords : QTextLayout::SkipCharacters;
-    const int to = line.layout->previousCursorPosition(at, mode);
-    return line.painted.bytes[static_cast<std::size_t>(to)];
+    return LaidOut(number).Previous(position, mode);
 }
 
 // --- keyboard
