@@ -46,12 +46,16 @@ bool PressShortcut(Form& form, const KeyEvent& key) {
     return false;
 }
 
-void ReplaceSelection(TextBox& box, const std::string& entered) {
+// True if the text has become another, as in those that follow.
+bool ReplaceSelection(TextBox& box, const std::string& entered) {
     const std::string text = TakenInOnOneLine(entered);
     const auto start = static_cast<std::size_t>(box.SelStart);
-    box.Text.replace(start, static_cast<std::size_t>(box.SelLength), text);
+    const auto length = static_cast<std::size_t>(box.SelLength);
+    const bool differs = box.Text.compare(start, length, text) != 0;
+    box.Text.replace(start, length, text);
     box.SelStart += static_cast<int>(text.size());
     box.SelLength = 0;
+    return differs;
 }
 
 void Select(TextBox& box, int start, int end) {
@@ -60,14 +64,14 @@ void Select(TextBox& box, int start, int end) {
 }
 
 // The selection, or else the character ahead of or behind the caret.
-void Delete(TextBox& box, bool forward) {
+bool Delete(TextBox& box, bool forward) {
     if (box.SelLength == 0) {
         const int caret = box.SelStart;
         const int length = static_cast<int>(box.Text.size());
         if (forward && caret < length) Select(box, caret, StepEnd(box.Text, caret));
         if (!forward && caret > 0) Select(box, StepStart(box.Text, caret - 1), caret);
     }
-    ReplaceSelection(box, "");
+    return ReplaceSelection(box, "");
 }
 
 std::string Selected(const TextBox& box) {
@@ -75,11 +79,11 @@ std::string Selected(const TextBox& box) {
                            static_cast<std::size_t>(box.SelLength));
 }
 
-void EditByCtrlKey(TextBox& box, const std::string& letter) {
+bool EditByCtrlKey(TextBox& box, const std::string& letter) {
     if (letter == "A") Select(box, 0, static_cast<int>(box.Text.size()));
     if ((letter == "C" || letter == "X") && box.SelLength > 0) SetClipboard({Selected(box), ""});
-    if (letter == "X") ReplaceSelection(box, "");
-    if (letter == "V") ReplaceSelection(box, ClipboardContent().plain);
+    if (letter == "X") return ReplaceSelection(box, "");
+    return letter == "V" && ReplaceSelection(box, ClipboardContent().plain);
 }
 
 // Programs may have shortened the text under the selection.
@@ -99,19 +103,17 @@ void MoveCaret(TextBox& box, Key key) {
     box.SelLength = 0;
 }
 
+bool ChangedBy(const KeyEvent& key, TextBox& box) {
+    if (key.key == Key::Char && key.ctrl) return EditByCtrlKey(box, key.text);
+    if (key.key == Key::Char) return ReplaceSelection(box, key.text);
+    if (key.key == Key::Del || key.key == Key::Backspace) return Delete(box, key.key == Key::Del);
+    MoveCaret(box, key.key);
+    return false;
+}
+
 void Edit(TextBox& box, const KeyEvent& key) {
     LimitSelection(box);
-    const std::string before = box.Text;
-    if (key.key == Key::Char && key.ctrl) {
-        EditByCtrlKey(box, key.text);
-    } else if (key.key == Key::Char) {
-        ReplaceSelection(box, key.text);
-    } else if (key.key == Key::Del || key.key == Key::Backspace) {
-        Delete(box, key.key == Key::Del);
-    } else {
-        MoveCaret(box, key.key);
-    }
-    if (box.Text != before && box.Change) box.Change();
+    if (ChangedBy(key, box) && box.Change) box.Change();
 }
 
 void SelectAll(Control& box) {
@@ -189,17 +191,14 @@ Control* FocusOf(const Form& form) {
     return first == form.Controls.end() ? nullptr : *first;
 }
 
-std::vector<KeyEvent> KeysOf(const std::string& text) {
-    std::vector<KeyEvent> keys;
-    for (int at = 0, next = 0; at < static_cast<int>(text.size()); at = next) {
-        next = StepEnd(text, at);
-        KeyEvent key;
-        key.text = text.substr(static_cast<std::size_t>(at), static_cast<std::size_t>(next - at));
-        if (key.text.find_first_of("\r\n") == 0) key = PlainKey(Key::Enter);
-        if (key.text == "\t") key = PlainKey(Key::Tab);
-        keys.push_back(key);
-    }
-    return keys;
+KeyEvent TakeKey(const std::string& text, std::size_t& at) {
+    const std::size_t start = at;
+    at = static_cast<std::size_t>(StepEnd(text, static_cast<int>(start)));
+    if (text[start] == '\r' || text[start] == '\n') return PlainKey(Key::Enter);
+    if (text[start] == '\t') return PlainKey(Key::Tab);
+    KeyEvent key;
+    key.text = text.substr(start, at - start);
+    return key;
 }
 
 bool KeyFromName(const std::string& name, KeyEvent& key) {
@@ -240,8 +239,8 @@ void ReplaceByTyping(Control& box, const std::string& text) {
     if (ControlText(box) != wanted) {
         SelectAll(box);
         if (wanted.empty()) PressKey(box.Parent, PlainKey(Key::Del));
-        for (const KeyEvent& key : KeysOf(wanted)) {
-            PressKey(box.Parent, key);
+        for (std::size_t at = 0; at < wanted.size();) {
+            PressKey(box.Parent, TakeKey(wanted, at));
             if (rich != nullptr) CutBehindCaret(*rich);
         }
     }

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "platform/Form.h"
 
@@ -12,8 +11,9 @@ namespace tessaryn {
 // The control that keys go to; nullptr if the form has none that could take them.
 Control* FocusOf(const Form& form);
 
-// The keys that type a text; a line feed is Enter.
-std::vector<KeyEvent> KeysOf(const std::string& text);
+// The key that types the character at a byte of a text, a line feed being Enter. Moves on behind
+// it.
+KeyEvent TakeKey(const std::string& text, std::size_t& at);
 
 // "Esc", "Enter", "Del", "F2" to "F12", "Ctrl+A" to "Ctrl+Z". False: no such key.
 bool KeyFromName(const std::string& name, KeyEvent& key);

@@ -2,7 +2,6 @@
 // action says that it can't be done.
 #pragma once
 
-#include <deque>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -23,7 +22,8 @@ struct ScriptRun {
     std::ostream& out;
     std::vector<std::string> lines;
     std::size_t line = 0;        // number of the line last begun, 1-based; 0 ahead of the first
-    std::deque<KeyEvent> keys;   // those of a `type` that are still to be pressed
+    std::string typing;          // the text of a `type`
+    std::size_t typed = 0;       // bytes of it whose keys have been pressed
     bool checkDocument = false;  // after each action
     std::string failure;         // "" as long as all is well; then the run is over
 

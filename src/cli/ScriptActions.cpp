@@ -65,8 +65,8 @@ void Type(ScriptRun& run, Arguments& arguments) {
     const std::string text = arguments.Text();
     arguments.End();
     if (FocusOf(TopForm()) == nullptr) throw ActionFailed{"no box has the focus"};
-    const std::vector<KeyEvent> keys = KeysOf(text);
-    run.keys.assign(keys.begin(), keys.end());
+    run.typing = text;
+    run.typed = 0;
 }
 
 void GoTo(DirectoryBox& list, const std::string& directory) {

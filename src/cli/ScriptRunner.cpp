@@ -60,10 +60,8 @@ bool ClosesStartForm(const std::string& line) {
 
 // False at the end of the script.
 bool DoNext(ScriptRun& run) {
-    if (!run.keys.empty()) {
-        const KeyEvent key = run.keys.front();
-        run.keys.pop_front();
-        PressKey(TopForm(), key);
+    if (run.typed < run.typing.size()) {
+        PressKey(TopForm(), TakeKey(run.typing, run.typed));
         return true;
     }
     while (run.line < run.lines.size()) {

@@ -106,14 +106,9 @@ void TextBlocks::EnsureFormatted(StoredBlock& block) {
 // --- places
 
 const std::vector<int>& TextBlocks::Starts() {
-    if (starts.empty()) {
-        starts.reserve(blocks.size() + 1);
-        int start = 0;
-        for (const StoredBlock& block : blocks) {
-            starts.push_back(start);
-            start += block.length;
-        }
-        starts.push_back(start);
+    if (starts.empty()) starts.push_back(0);
+    while (starts.size() <= blocks.size()) {
+        starts.push_back(starts.back() + blocks[starts.size() - 1].length);
     }
     return starts;
 }
@@ -197,7 +192,7 @@ void TextBlocks::ReplaceBlocks(std::size_t first, std::size_t last,
         blocks.insert(at(last), std::make_move_iterator(rest),
                       std::make_move_iterator(replacement.end()));
     }
-    starts.clear();
+    starts.resize(std::min(starts.size(), first + 1));
 }
 
 SurfaceChange TextBlocks::Replace(int start, int removed, std::string_view newText,

@@ -95,7 +95,7 @@ struct TextBlocks {
 
     std::string text;
     std::vector<StoredBlock> blocks;  // their lengths add up to that of the text
-    std::vector<int> starts;          // of each block, and the end; empty: to be worked out anew
+    std::vector<int> starts;          // of the first blocks; the rest, and the end, when asked for
     FormatTable formats;
     Formatter formatter;
 };

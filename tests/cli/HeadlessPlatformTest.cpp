@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 #include "cli/FormState.h"
 #include "cli/Keyboard.h"
 
@@ -49,7 +51,7 @@ void Press(EntryForm& form, const std::string& name) {
 }
 
 void TypeInto(EntryForm& form, const std::string& text) {
-    for (const KeyEvent& key : KeysOf(text)) PressKey(form, key);
+    for (std::size_t at = 0; at < text.size();) PressKey(form, TakeKey(text, at));
 }
 
 TEST(HeadlessPlatform, NestsModalForms) {
@@ -90,6 +92,14 @@ TEST(Keyboard, EditsAOneLineBox) {
     form.Line.Text = "a";  // the program shortens it under the caret
     TypeInto(form, "b");
     EXPECT_EQ(form.Line.Text, "ab");
+}
+
+TEST(Keyboard, TypingALongTextTakesTimeInProportion) {
+    EntryForm form;
+    const std::clock_t start = std::clock();
+    ReplaceByTyping(form.Line, std::string(1'000'000, 'x'));
+    EXPECT_EQ(form.Line.Text.size(), 1'000'000u);
+    EXPECT_LT(std::clock() - start, 8 * CLOCKS_PER_SEC) << "less than a second is right";
 }
 
 TEST(Keyboard, EnterPressesTheDefaultButtonWhereNoBoxTakesIt) {
