@@ -14,6 +14,7 @@
 #include "desktop/Clipboard.h"
 #include "desktop/Desktop.h"
 #include "desktop/PaintedText.h"
+#include "desktop/Sheet.h"
 #include "view/TextExchange.h"
 
 namespace tessaryn {
@@ -81,6 +82,7 @@ EditBox::EditBox(RichTextBox& box, QWidget* parent) : QTextEdit(parent), box_(bo
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
     setFont(FontOf({}));
+    MakeSheet(*this);
     if (!box.MultiLine) {
         setLineWrapMode(NoWrap);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

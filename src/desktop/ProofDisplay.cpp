@@ -9,6 +9,8 @@
 #include <cmath>
 #include <iterator>
 
+#include "desktop/Sheet.h"
+
 namespace tessaryn {
 
 namespace {
@@ -29,6 +31,7 @@ ProofDisplay::ProofDisplay(RichTextBox& box, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setCursor(Qt::IBeamCursor);
     viewport()->setBackgroundRole(QPalette::Base);
+    MakeSheet(*this);
     horizontalScrollBar()->setFocusPolicy(Qt::NoFocus);
     verticalScrollBar()->setFocusPolicy(Qt::NoFocus);
     box_.TakeChange();
