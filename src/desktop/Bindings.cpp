@@ -13,6 +13,7 @@
 #include "desktop/EditBox.h"
 #include "desktop/PaintedText.h"
 #include "desktop/ProofDisplay.h"
+#include "desktop/ShownText.h"
 #include "desktop/SmallBoxes.h"
 
 namespace tessaryn {
@@ -21,7 +22,7 @@ namespace {
 
 template <class Widget>
 void SetTextOf(Widget& widget, const std::string& caption) {
-    const QString text = ToQt(caption);
+    const QString text = ShownText(caption);
     if (widget.text() != text) widget.setText(text);
 }
 
@@ -43,7 +44,7 @@ Binding BindLabel(Label& label, QWidget* parent) {
     widget->setWordWrap(true);
     return {&label, widget, {}, [&label, widget] {
                 SetTextOf(*widget, label.Caption);
-                widget->setAccessibleName(ToQt(label.Caption));
+                widget->setAccessibleName(ShownText(label.Caption));
             }};
 }
 
@@ -139,7 +140,7 @@ Binding BindByKind(Control& control, QWidget* parent, WindowKind kind) {
 // Blanks at the end of a caption set off a last column, which here is the one of the shortcuts.
 QString ItemText(const MenuItem& item) {
     static const QRegularExpression lastColumn(QStringLiteral("^(.*\\S) {2,}(\\S.*?) *$"));
-    QString caption = ToQt(item.Caption);
+    QString caption = ShownText(item.Caption);
     if (item.Literal) return caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
     if (!item.Shortcut.empty()) return caption;
     const auto columns = lastColumn.match(caption);

@@ -17,6 +17,7 @@
 #include "desktop/Layouts.h"
 #include "desktop/Mnemonics.h"
 #include "desktop/PaintedText.h"
+#include "desktop/ShownText.h"
 
 namespace tessaryn {
 
@@ -176,9 +177,7 @@ void FormWindow::Pull() {
 }
 
 void FormWindow::Sync() {
-    if (const QString title = ToQt(form_.Caption); window_->windowTitle() != title) {
-        window_->setWindowTitle(title);
-    }
+    SetTitle(*window_, form_.Caption);
     // What is hidden or disabled here passes the focus on, which is nobody's wish if the logic has
     // given it to another control.
     Control* focus = form_.ActiveControl;

@@ -15,7 +15,7 @@
 #include "desktop/HelpViewer.h"
 #include "desktop/InputWatch.h"
 #include "desktop/Messages.h"
-#include "desktop/PaintedText.h"
+#include "desktop/ShownText.h"
 #include "view/Display.h"
 
 namespace tessaryn {
@@ -192,7 +192,7 @@ void Beep(const std::string& reason) {
     if (reason.empty()) return;
     // By then the labels say what they have to say, and a box that the event opens is there.
     if (Waiting.isEmpty()) QTimer::singleShot(0, qApp, TellWaiting);
-    Waiting = ToQt(reason);
+    Waiting = ShownText(reason);
 }
 
 void FadeNote() {
@@ -213,9 +213,9 @@ Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons
     SyncWindows();
     QMessageBox box(TopWindow());
     LeaveManualUsable(box);
-    box.setWindowTitle(ToQt(title));
+    SetTitle(box, title);
     box.setTextFormat(Qt::PlainText);
-    box.setText(ToQt(text));
+    box.setText(ShownText(text));
     const bool asks = buttons == Buttons::YesNoCancel;
     box.setIcon(asks ? QMessageBox::Question : QMessageBox::Warning);
     box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel

@@ -6,6 +6,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
+#include "desktop/ShownText.h"
 #include "view/TextExchange.h"
 
 namespace tessaryn {
@@ -50,7 +51,7 @@ void StatusView::Sync() {
     setMinimumHeight(fontMetrics().lineSpacing() + 8);
     const bool centred = box_.GetSelAlignment() == Alignment::Center;
     setAlignment(Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft));
-    const QString shown = ToQt(box_.GetText()).trimmed();
+    const QString shown = ShownText(box_.GetText()).trimmed();
     if (shown == text()) return;
     setText(shown);
     setToolTip(shown);
