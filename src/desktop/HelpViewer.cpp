@@ -27,6 +27,7 @@
 #include "desktop/Manual.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
+#include "desktop/ShownText.h"
 #include "mainwindow/Commands.h"
 #include "platform/Platform.h"
 
@@ -61,7 +62,7 @@ QColor LinkColour(const QPalette& palette) {
 class HelpWindow : public QWidget {
   public:
     explicit HelpWindow(const QString& directory) {
-        setWindowTitle(QStringLiteral("Tessaryn Manual"));
+        SetTitle(*this, "Tessaryn Manual");
         setFont(TellingFont());
         manual_.pages = ReadPages(directory);
         MakeTools();
