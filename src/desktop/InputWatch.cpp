@@ -1,8 +1,8 @@
 #include "desktop/InputWatch.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QCursor>
-#include <QEvent>
 #include <QWidget>
 #include <utility>
 
@@ -12,12 +12,19 @@ namespace {
 
 bool KeyWasLast = false;
 
+bool IsKey(QEvent& event) {
+    if (event.type() == QEvent::KeyPress) return true;
+    // The Menu key's own press comes behind the menu that it opens.
+    return event.type() == QEvent::ContextMenu &&
+           static_cast<QContextMenuEvent&>(event).reason() == QContextMenuEvent::Keyboard;
+}
+
 class Watch : public QObject {
   public:
     explicit Watch(std::function<void()> onInput) : onInput_(std::move(onInput)) {}
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        const bool key = event->type() == QEvent::KeyPress;
+        const bool key = IsKey(*event);
         if (key || event->type() == QEvent::MouseButtonPress) {
             KeyWasLast = key;
             onInput_();

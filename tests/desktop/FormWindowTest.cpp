@@ -254,8 +254,8 @@ TEST(FormWindow, MenusOfABoxOpenByKeys) {
         EXPECT_EQ(edit.activeAction(), edit.actions()[2]) << "the first that is not greyed";
         edit.close();
 
-        QTest::mouseClick(&Find<QPushButton>(window, "cmdClear"), Qt::LeftButton);
         Type(editor, QStringLiteral("x+y"));
+        QTest::mouseClick(editor.viewport(), Qt::LeftButton, {}, QPoint(90, 60));
         QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {}, {});
         QApplication::sendEvent(editor.viewport(), &menuKey);
         const QPoint caret = editor.viewport()->mapToGlobal(editor.cursorRect().bottomLeft());
