@@ -268,7 +268,8 @@ TEST(FormWindow, MenusOfABoxOpenByKeys) {
     }
 }
 
-TEST(FormWindow, TabGoesFromTheTextToContinue) {
+// A small screen is one of 960 x 540 points, less what the frame takes.
+TEST(FormWindow, TabGoesFromTheTextToContinueInABoxThatFitsASmallScreen) {
     const struct {
         Form& form;
         const char* text;
@@ -287,6 +288,8 @@ TEST(FormWindow, TabGoesFromTheTextToContinue) {
             next = next->nextInFocusChain();
         }
         EXPECT_EQ(next, window.WidgetOf(row.accept)) << row.form.Name;
+        const QSize size = window.Window().size().expandedTo(window.Window().minimumSizeHint());
+        EXPECT_EQ(size, size.boundedTo(QSize(944, 492))) << row.form.Name;
     }
 }
 
