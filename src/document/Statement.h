@@ -37,6 +37,8 @@ struct Statement {
     bool Flagged = false;  // scratch of deletion: doomed
     int NewNumber = 0;     // scratch of deletion: number after it
     bool Highlight = false;  // the number is bold
+
+    bool operator==(const Statement&) const = default;
 };
 
 int Depth(const Statement& stmt);
