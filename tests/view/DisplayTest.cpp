@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
+#include "Steps.h"
 #include "Workbench.h"
 #include "mainwindow/Proof.h"
 #include "output/WrittenProof.h"
@@ -89,6 +92,27 @@ TEST(Display, HandsOnTheChangedRange) {
     EXPECT_LE(change.start + change.inserted, StmtTable[3].ViewerStartLine - 1);
     ResetFonts();
     EXPECT_FALSE(Proof.RTB.TakeChange().any);
+}
+
+TEST(Display, FollowsEveryFieldThatDecidesAFormat) {
+    const std::function<void()> changes[] = {
+        [] { EditAt(2).Highlight = false; },
+        [] { EditAt(2).FreeVars = ""; },
+        [] { EditAt(2).FixedVars = " x "; },
+        [] { EditAt(2).SpareVars = " x "; },
+        [] { StmtFontSize = 14; },
+        [] { EditAt(4).Rule = Rule::Premise; },
+        [] { EditAt(2).EndUserComment += 2; },
+    };
+    for (const auto& change : changes) {
+        ASSERT_EQ(Do("+ P ; + x=x ; click 2 ; set CommentBox \"why\" ; choose Continue ; + Q ;"
+                     " Conclusion"),
+                  "");
+        Proof.RTB.Runs();
+        change();
+        ResetFonts();
+        EXPECT_EQ(CheckDisplay(), "") << &change - changes;
+    }
 }
 
 TEST(Display, NamesInUseOutsideTheInnermostPremiseAreFixed) {
