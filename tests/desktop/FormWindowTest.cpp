@@ -207,10 +207,14 @@ TEST(FormWindow, NoteAddsToABoxAndHidesNothingOfIt) {
         if (NoteShown().isEmpty()) return {};
         for (const QWidget* widget : QApplication::topLevelWidgets()) {
             const auto* label = qobject_cast<const QLabel*>(widget);
-            if (label != nullptr && label->text() == NoteShown()) return label->frameGeometry();
+            if (label == nullptr || label->text() != NoteShown()) continue;
+            EXPECT_EQ(label->accessibleName(), NoteShown());
+            EXPECT_EQ(label->font(), TellingFont());
+            return label->frameGeometry();
         }
         return {};
     };
+    RuleFontSize = 12;
     ClosedBy(TestParser, [&](QWidget& window) {
         auto& editor = Find<QTextEdit>(window, "RTB");
         QTest::mouseClick(editor.viewport(), Qt::LeftButton);

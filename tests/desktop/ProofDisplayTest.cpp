@@ -181,6 +181,7 @@ TEST(ProofDisplay, KeyboardMovesSelectsAndClicks) {
     EXPECT_EQ(shown.box.GetSelLength(), static_cast<int>(text.size()));
     press(Qt::Key_X);
     EXPECT_EQ(shown.box.GetText(), text);
+    EXPECT_FALSE(shown.display.inputMethodQuery(Qt::ImEnabled).toBool()) << "nothing is typed here";
 
     press(Qt::Key_Home, Qt::ControlModifier);
     press(Qt::Key_End);
