@@ -1,8 +1,11 @@
 // The box for expressions: its red mark and its clipboard.
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
+#include "cli/Keyboard.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/TestParser.h"
 #include "platform/Events.h"
@@ -48,6 +51,20 @@ TEST(EntryBox, MarksTheFaultUntilTheNextTry) {
         TestParser.RTB.SelText = "x+y";
         SendChoose(TestParser.cmdContinue);
         EXPECT_EQ(Content(), "x+y");
+    }
+}
+
+TEST(EntryBox, WhatIsPutInTakesThePlaceOfTheSelection) {
+    const std::pair<std::function<void()>, const char*> rows[] = {
+        {[] { PressKey(TestParser, {.text = "@"}); }, "x@z"},
+        {[] { SendChoose(TestParser.Menus.optelement); }, "x@z"},
+        {[] { SendChoose(TestParser.Menus.optAnd); }, "x&z"},
+    };
+    for (const auto& [putIn, content] : rows) {
+        OpenBox("xyyz");
+        SelectInBox(1, 2);
+        putIn();
+        EXPECT_EQ(Content(), content);
     }
 }
 
