@@ -85,6 +85,7 @@ TEST(EntryBox, CopiesAndPastesInBothModes) {
         EXPECT_EQ(Content(), "a@b|");
         SendChoose(TestParser.Tools.Redo);
         EXPECT_EQ(Content(), "a@b|a@b");
+        EXPECT_EQ(TestParser.RTB.SelStart, 7);
         EXPECT_FALSE(TestParser.Tools.Redo.Enabled);
     }
 }
