@@ -1,4 +1,4 @@
-// Runs the tables of cases: tests/rules/*.txt and tests/axioms/*.txt.
+// Runs the tables of cases: the texts beside the tests of some folders.
 //
 // A case is a row of steps (Steps.h) that begins with an empty proof. It goes on in the lines below
 // it that are indented. "#" begins a comment, also within a case. The items that are hidden in the
@@ -37,7 +37,7 @@ std::vector<Case> ReadCases(const fs::path& path) {
 
 std::vector<std::string> Tables() {
     std::vector<std::string> tables;
-    for (const char* folder : {"rules", "axioms"}) {
+    for (const char* folder : {"axioms", "mainwindow", "rules", "view"}) {
         const fs::path path = fs::path(TESSARYN_SOURCE_DIR) / "tests" / folder;
         for (const auto& entry : fs::directory_iterator(path)) {
             if (entry.path().extension() == ".txt") tables.push_back(entry.path().string());
