@@ -91,8 +91,7 @@ void DefinitionAtEnd(benchmark::State& state) {
 void SubsetAtEnd(benchmark::State& state) {
     MakeProof(state);
     SubsetFrm.Activated();
-    SubsetPrimes = 0;
-    SubsetParent = "s";
+    SubsetOf = {0, "s"};
     Measure(state, 1, [] {
         RuleMode = Rule::Subset;
         Arg1Pending = 1;

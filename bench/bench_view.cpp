@@ -9,6 +9,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
+#include "menu/ClickTable.h"
 #include "platform/Events.h"
 #include "view/Comment.h"
 #include "view/Display.h"

@@ -1,8 +1,8 @@
 // The commands of the menus Sets and Numbers that write axioms and definitions. Their texts stand
-// in AxiomTexts.h; the statements refer to no earlier line, save that of Subset.
+// in inference/AxiomTexts.h; the statements refer to no earlier line, save that of Subset.
 #pragma once
 
-#include "axioms/AxiomTexts.h"
+#include "inference/AxiomTexts.h"
 
 namespace tessaryn {
 
@@ -15,7 +15,7 @@ void AskForAxiomOrder(int rule);
 void ContinueAxiomScheme();
 
 // Writes a single axiom.
-void WriteAxiom(const FixedAxiom& axiom);
+void WriteAxiom(int rule, const char* text);
 
 // Writes all axioms of a group, as one step of undo, if there is no premise ahead and no reserved
 // name has another meaning yet.
@@ -32,9 +32,9 @@ template <int rule>
 void WriteScheme() {
     AskForAxiomOrder(rule);
 }
-template <const FixedAxiom& axiom>
+template <int rule, const char* const& text>
 void Write() {
-    WriteAxiom(axiom);
+    WriteAxiom(rule, text);
 }
 template <const AxiomGroup& group>
 void WriteGroup() {

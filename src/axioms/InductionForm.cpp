@@ -1,16 +1,14 @@
 #include "axioms/InductionForm.h"
 
-#include <algorithm>
-
 #include "document/PutStmt.h"
 #include "expr/Blanks.h"
+#include "expr/Operands.h"
 #include "expr/Parse.h"
+#include "inference/Induction.h"
 #include "mainwindow/EntryChecks.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "rules/Operands.h"
-#include "rules/VariableNames.h"
 #include "view/Display.h"
 
 namespace tessaryn {
@@ -28,26 +26,6 @@ const PaletteEntry InductionPalette[] = {
     {&M::optLessThanOrEqual, "optLessThanOrEqaul", "<="},
     {&M::optComplement, "optComplement", "`"},
 };
-
-// The property in NewStmtText and the tables, for a term in the place of the variable.
-std::string PropertyOf(const std::string& var, const std::string& term) {
-    const std::string text = ReplaceNames(NewStmtText, TokenTable, {var}, {term});
-    const int root = Root(ParseTable).Rule;
-    return root >= Node::LAnd && root <= Node::Iff ? "[" + text + "]" : text;
-}
-
-// P(1) & ALL(k):[k @ n & P(k) => P(k+1)] => ALL(k):[k @ n => P(k)]
-std::string InductionText(const std::string& var) {
-    const std::string property = PropertyOf(var, var);
-    const std::string head = "ALL(" + var + "):[" + var + "@n";
-    return PropertyOf(var, "1") + "\r\n& " + head + "&" + property + "=>" +
-           PropertyOf(var, "(" + var + "+1)") + "]\r\n=> " + head + "=>" + property + "]";
-}
-
-bool BindsOne() {
-    return std::any_of(TokenTable.begin(), TokenTable.end(),
-                       [](const TokenRec& token) { return token.Bound && token.Token == "1"; });
-}
 
 }  // namespace
 
@@ -109,10 +87,10 @@ bool InductionDialogue::TakeBoundVar() {
         return Refuse(fault, BoundVarTextBox);
     }
     const Expression entry = ParseExpression(BoundVarTextBox.Text);
-    if (!entry.error.empty() || entry.nodes.size() != 2 || Root(entry.nodes).Rule != Node::Atom) {
+    if (!entry.error.empty() || entry.nodes.size() != 2 || Root(entry).Rule != Node::Atom) {
         return RefuseVar("Enter a single name that begins with a small letter, such as k.");
     }
-    var_ = Root(entry.nodes).Name;
+    var_ = Root(entry).Name;
     if (var_ != "1" && var_ != "n") return true;
     return RefuseVar("1 and n have a meaning of their own here: take another name.");
 }
@@ -140,7 +118,7 @@ bool InductionDialogue::CheckPropertyNames() {
         return RefuseProperty("Variable '" + name + "' not found in an axiom or active premise");
     }
     // Put in for the variable, the number 1 would be caught.
-    if (!BindsOne()) return true;
+    if (!BindsOne(InHand)) return true;
     Editor.MarkName("1");
     return Refuse(InvalidVariable, RTB,
                   "ALL or EXIST binds 1 in the property: bind another name there.");
@@ -149,7 +127,7 @@ bool InductionDialogue::CheckPropertyNames() {
 void InductionDialogue::Continue() {
     StatusLine.Caption.clear();
     if (!TakeBoundVar() || !TakeProperty()) return;
-    NewStmtText = InductionText(var_);
+    NewStmtText = Induction(InHand, var_).texts[0];
     Parse();
     if (ParseError == UnableToParse) {
         RefuseProperty(ParseError);  // too long with the property in it five times

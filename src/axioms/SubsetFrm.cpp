@@ -3,18 +3,16 @@
 #include <algorithm>
 
 #include "document/PutStmt.h"
+#include "expr/Operands.h"
 #include "expr/Parse.h"
 #include "mainwindow/EntryChecks.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "rules/Operands.h"
 #include "view/Display.h"
 
 namespace tessaryn {
 namespace {
-
-constexpr std::size_t LineLength = 51;  // from this length on the text is folded ahead of "<=>"
 
 using M = EditorMenus;
 
@@ -49,31 +47,9 @@ bool IsListOfNames(const NodeList& nodes, std::size_t count) {
 }
 
 std::string WhatToList() {
-    if (SubsetPrimes == 0) return "Enter a single name, such as a.";
-    return "Enter " + std::to_string(SubsetPrimes + 1) +
+    if (SubsetOf.primes == 0) return "Enter a single name, such as a.";
+    return "Enter " + std::to_string(SubsetOf.primes + 1) +
            " different names with commas between them.";
-}
-
-struct SubsetEntries {
-    const std::string& subset;
-    const std::vector<std::string>& vars;
-    const std::string& criterion;
-};
-
-// EXIST(y):[Set(y) & ALL(a):[a @ y <=> [a @ x & [P(a)]]]]
-std::string SubsetText(const SubsetEntries& entries) {
-    const std::string primes(static_cast<std::size_t>(SubsetPrimes), '\'');
-    std::string text =
-        "EXIST(" + entries.subset + "):[Set" + primes + "(" + entries.subset + ") & ";
-    std::string element;
-    for (const std::string& var : entries.vars) {
-        text += "ALL(" + var + "):";
-        element += (element.empty() ? "" : ",") + var;
-    }
-    if (SubsetPrimes > 0) element = "(" + element + ")";
-    text += "[" + element + "@" + entries.subset;
-    text += SubsetPrimes > 0 && text.size() >= LineLength ? "\r\n" : " ";
-    return text + "<=> [" + element + "@" + SubsetParent + " & [" + entries.criterion + "]]]]";
 }
 
 }  // namespace
@@ -139,8 +115,8 @@ bool SubsetDialogue::TakeSubsetName() {
         return Refuse("Invalid subset name", SubsetName,
                       "Enter a single name that begins with a small letter, such as y.");
     }
-    subset_ = Root(entry.nodes).Name;
-    if (Contains(Atoms(ParseExpression(SubsetParent).nodes), subset_)) {
+    subset_ = Root(entry).Name;
+    if (Contains(Atoms(ParseExpression(SubsetOf.parent).nodes), subset_)) {
         return Refuse("Name of subset cannot be " + subset_, SubsetName);
     }
     return true;
@@ -152,12 +128,11 @@ bool SubsetDialogue::TakeBoundVars() {
     }
     const Expression entry = ParseExpression(BoundVars.Text);
     if (!entry.error.empty() ||
-        !IsListOfNames(entry.nodes, static_cast<std::size_t>(SubsetPrimes) + 1)) {
+        !IsListOfNames(entry.nodes, static_cast<std::size_t>(SubsetOf.primes) + 1)) {
         return Refuse("Invalid list of bound variables", BoundVars, WhatToList());
     }
     vars_ = Atoms(entry.nodes);
-    ParseTable2 = entry.nodes;
-    for (const std::string& name : Atoms(ParseExpression(SubsetParent).nodes)) {
+    for (const std::string& name : Atoms(ParseExpression(SubsetOf.parent).nodes)) {
         if (!Contains(vars_, name)) continue;
         return Refuse(name + " cannot be in list bound variables", BoundVars);
     }
@@ -181,11 +156,7 @@ bool SubsetDialogue::TakeCriterion() {
         return Refuse(fault, SelectExpression);
     }
     if (!RootIsLogical()) return Refuse("Expecting a logical expression", SelectExpression);
-    if (!CheckCriterionNames()) return false;
-    const int root = Root(ParseTable).Rule;
-    const bool brackets = root == Node::LAnd || root == Node::LOr;
-    criterion_ = brackets ? "[" + NewStmtText + "]" : NewStmtText;
-    return true;
+    return CheckCriterionNames();
 }
 
 bool SubsetDialogue::CheckCriterionNames() {
@@ -203,7 +174,7 @@ bool SubsetDialogue::CheckCriterionNames() {
 void SubsetDialogue::Continue() {
     StatusLine.Caption.clear();
     if (!TakeSubsetName() || !TakeBoundVars() || !TakeCriterion()) return;
-    NewStmtText = SubsetText({subset_, vars_, criterion_});
+    NewStmtText = tessaryn::Subset(SubsetOf, subset_, vars_, InHand).texts[0];
     Parse();
     if (ParseError == UnableToParse) {
         Refuse(ParseError, SelectExpression);  // too long with the criterion in it

@@ -9,13 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "inference/Subset.h"
 #include "mainwindow/ExpressionEditor.h"
 #include "platform/Form.h"
 
 namespace tessaryn {
 
-inline int SubsetPrimes = 0;      // primes behind the clicked Set; the tuples have one place more
-inline std::string SubsetParent;  // what the clicked statement says to be a set
+inline SetStatement SubsetOf;  // the clicked statement
 
 struct SubsetDialogue : Form {
     SubsetDialogue();
@@ -50,9 +50,8 @@ struct SubsetDialogue : Form {
     bool Refuse(const std::string& message, Control& focus, const std::string& reason = "");
     bool RefuseAtName(const std::string& message, const std::string& name);
 
-    std::string subset_;             // the accepted entries
+    std::string subset_;             // the accepted entries; the criterion is in hand
     std::vector<std::string> vars_;  //
-    std::string criterion_;          //
 };
 
 inline SubsetDialogue SubsetFrm;

@@ -10,9 +10,9 @@
 
 #include "axioms/Axioms.h"
 #include "axioms/EnteredNumber.h"
-#include "axioms/SchemeText.h"
 #include "document/PutStmt.h"
 #include "expr/Expression.h"
+#include "inference/SchemeText.h"
 #include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -21,26 +21,50 @@
 namespace tessaryn {
 namespace {
 
-const AxiomScheme& SchemeOf(int rule) {
-    const AxiomScheme* scheme = std::begin(AxiomSchemes);
-    while (scheme->rule != rule) ++scheme;
-    return *scheme;
+struct SchemeRow {
+    int rule;
+    const AxiomScheme& scheme;
+    const char* caption;
+    const char* prompt;
+};
+
+const SchemeRow SchemeRows[] = {
+    {Rule::CartProd, CartesianProductScheme, " Cartesian Product Axiom",
+     "Enter the number of sets in the product (2 or more)"},
+    {Rule::PowerSet, PowerSetScheme, "Power Set Axiom",
+     "Enter order of set  (1 for a regular set, 2 for a set of order pairs, etc.)"},
+    {Rule::SetEquality, SetEqualityScheme, " Set Equality Axiom",
+     "Enter order of sets to be compared  (1 for regular sets, 2 for sets of order pairs, etc.)"},
+    {Rule::NtupleEquality, NtupleEqualityScheme, " N-tuple Equality Axiom",
+     "Enter order of n-tuple (2 for ordered pairs, 3 for ordered triples, etc.)"},
+    {Rule::Function, FunctionExistenceScheme, "Function Axiom",
+     "Enter the number of variables in the function (1 or more)"},
+    {Rule::FnSpace, FunctionSpaceScheme, "Function Space",
+     "Enter the number of variables in the function (1 or more)"},
+    {Rule::FnEquality, FunctionEqualityScheme, " Function Equality Axiom",
+     "Enter number of variables in functions"},
+};
+
+const SchemeRow& RowOf(int rule) {
+    const SchemeRow* row = std::begin(SchemeRows);
+    while (row->rule != rule) ++row;
+    return *row;
 }
 
 }  // namespace
 
 void AskForAxiomOrder(int rule) {
-    const AxiomScheme& scheme = SchemeOf(rule);
+    const SchemeRow& row = RowOf(rule);
     RuleMode = rule;
     SetPrompt("");
-    MyInputBox.Caption = scheme.caption;
-    MyInputBox.Label1.Caption = scheme.prompt;
+    MyInputBox.Caption = row.caption;
+    MyInputBox.Label1.Caption = row.prompt;
     MyInputBox.Label2.Caption.clear();
     ShowModal(MyInputBox);
 }
 
 void ContinueAxiomScheme() {
-    const AxiomScheme& scheme = SchemeOf(RuleMode);
+    const AxiomScheme& scheme = RowOf(RuleMode).scheme;
     const std::string wanted = "Enter a whole number from " + std::to_string(scheme.least) +
                                " to " + std::to_string(MaxAxiomOrder) + ".";
     int order = 0;
@@ -59,12 +83,12 @@ void ContinueAxiomScheme() {
     MyInputBox.Hide();
 }
 
-void WriteAxiom(const FixedAxiom& axiom) {
+void WriteAxiom(int rule, const char* text) {
     Proof.RTB.SetFocus();
-    RuleMode = axiom.rule;
+    RuleMode = rule;
     SetPrompt("");
     Arg1Pending = Arg2Pending = 0;
-    NewStmtText = axiom.text;
+    NewStmtText = text;
     FinishRule(WriteStatement());
 }
 

@@ -4,10 +4,10 @@
 #include <unordered_set>
 
 #include "document/Document.h"
+#include "document/RuleNames.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
 #include "expr/Same.h"
-#include "mainwindow/RuleModes.h"
 #include "text/Utf8.h"
 
 namespace tessaryn {

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "document/Invariants.h"
-#include "mainwindow/RuleModes.h"
+#include "document/RuleNames.h"
 #include "text/Encoding.h"
 #include "text/Utf8.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "mainwindow/RuleModes.h"
+#include "document/RuleNames.h"
 
 namespace tessaryn {
 

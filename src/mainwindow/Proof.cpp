@@ -12,6 +12,7 @@
 #include "mainwindow/ExpressionEditor.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/RuleModes.h"
+#include "menu/ClickTable.h"
 #include "output/Settings.h"
 #include "output/StartUp.h"
 #include "output/Tips.h"

@@ -15,7 +15,6 @@
 #include "output/Tips.h"
 #include "rules/Generalize.h"
 #include "rules/Substitution.h"
-#include "rules/modCases.h"
 #include "rules/modConclusion.h"
 #include "view/Comment.h"
 #include "view/Display.h"
@@ -54,11 +53,9 @@ void StartProgram() {
     CheckStoredText();
     ResetUndo();
     ResetConclusion();
-    CasesOr = {};
     GenExpression.clear();
     GenParseTable.assign(1, {});
-    SubsetPrimes = 0;
-    SubsetParent.clear();
+    SubsetOf = {};
     SubstEquation.clear();
     SubstSource.clear();
     SubstTarget.clear();

@@ -7,6 +7,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
+#include "rules/ArbitraryOperand.h"
 #include "rules/Rules.h"
 #include "view/InsertMode.h"
 

@@ -1,21 +1,27 @@
-// What Arb Or, Arb Ante, Arb Cons and Or Not share: an expression of the user's own choice becomes
-// an operand of the new statement.
+// Arb Or, Arb Ante, Arb Cons and Or Not: an expression of the user's own choice, whose free
+// variables are in use, becomes an operand of the new statement. It is asked for in TestParser.
 #pragma once
 
 #include <string>
 
 namespace tessaryn {
 
-// The click on a statement: keeps it as the second expression and asks for the other operand, with
-// the dialogue's caption up to the line number. False if the statement's text does not parse; a
-// miss beeps and leaves the rule pending.
-bool AskForOperand(const std::string& captionStart);
+// One click on any active statement, then the box.
+void ArbOr();
+void ArbAnte();
+void ArbCons();
+// No click.
+void OrNot();
 
-// The entered operand in the tables, checked: a logical expression without new free variables. ""
-// or the message.
-std::string CheckOperand();
+// Make Arb Or pending for one side.
+void ArbOrLeftCommand();
+void ArbOrRightCommand();
 
-// Writes the statement, or gives the message.
-std::string WriteWithOperand(const std::string& text);
+// What `Continue` of TestParser does with an entry that parses: checks it and writes the statement.
+// Gives "" or the message of the refusal.
+std::string AcceptArbOr();
+std::string AcceptArbAnte();
+std::string AcceptArbCons();
+std::string AcceptOrNot();
 
 }  // namespace tessaryn

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "expr/Operands.h"
 #include "expr/Parse.h"
+#include "inference/Quantifiers.h"
 #include "mainwindow/EntryChecks.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -60,9 +62,9 @@ bool GeneralizeForm::AcceptBoundVar() {
     const std::string fault = ForbiddenCharacter(BoundVarTextBox.Text);
     if (!fault.empty()) return refuse(fault);
     const Expression entry = ParseExpression(BoundVarTextBox.Text);
-    const bool isName = entry.nodes.size() == 2 && Root(entry.nodes).Rule == Node::Atom;
+    const bool isName = entry.nodes.size() == 2 && Root(entry).Rule == Node::Atom;
     if (!isName) return refuse("Invalid bound variable, syntax error");
-    const std::string& name = Root(entry.nodes).Name;
+    const std::string& name = Root(entry).Name;
 
     const Expression statement = ExpressionIn(RTB);
     if (!statement.error.empty()) return refuse("PARSER ERROR: " + statement.error);
@@ -108,7 +110,7 @@ void GeneralizeForm::Reset() {
 
 void GeneralizeForm::Continue() {
     if (!ParseOrRefuse(ExpressionIn(RTB).text)) return;
-    if (!ParseOrRefuse("EXIST(" + BoundVar + "):[" + NewStmtText + "]")) return;
+    if (!ParseOrRefuse(ExistGen(NewStmtText, BoundVar).texts[0])) return;
     Arg2Pending = 0;
     WriteAndClose();
 }

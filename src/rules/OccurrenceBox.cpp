@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "expr/Occurrences.h"
 #include "expr/Parse.h"
 #include "mainwindow/Proof.h"
-#include "rules/Occurrences.h"
 #include "view/Display.h"
 
 namespace tessaryn {

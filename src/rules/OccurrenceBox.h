@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "expr/Expression.h"
+#include "expr/Operands.h"
 #include "platform/RichTextBox.h"
-#include "rules/Operands.h"
 
 namespace tessaryn {
 

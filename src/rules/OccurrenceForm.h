@@ -4,9 +4,9 @@
 
 #include <string>
 
+#include "expr/Occurrences.h"
 #include "platform/Form.h"
 #include "platform/RichTextBox.h"
-#include "rules/Occurrences.h"
 
 namespace tessaryn {
 

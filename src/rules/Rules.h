@@ -12,34 +12,15 @@ inline constexpr const char* JoinPrompt = "Join:  Click any active statement (1s
 void Premise();
 void Axiom();
 void Conclusion();
-void OrNot();
-
-// Make Arb Or pending for one side.
-void ArbOrLeftCommand();
-void ArbOrRightCommand();
 void Reflexivity();
 
 // Click rules. firstClick: the first of two clicks is awaited; the rule changes it.
 void Join(bool& firstClick);
-void Split();
-void Detach(bool& firstClick);
-void Cases(bool& firstClick);
 void Spec();
-void ImpliesAnd();
-void ImpliesOr();
-void Contrapostive();
-void DeMorgan();
-void IffSplit();
-void RemDNeg();
-void Quant();
-void ArbOr();
-void ArbPrecedent();   // Arb Ante
-void ArbAntecedent();  // Arb Cons
 void Rename();
 void Reorder();
 void ExistGenSelect();
 void Subsitute(bool& firstClick);
-void Symmetry();
 
 // What `Continue` of MyInputBox does for the Conclusion Rule: checks the new names of the bound
 // variables and puts the renamed statement into NewStmtText. Hides the box when all is well.
@@ -54,11 +35,7 @@ void ContinueReorder();
 // writes the statement. Gives "" or the message of the refusal.
 std::string AcceptReflexTerm();
 
-// The same for U Spec and the rules with an operand of the user's own choice.
+// The same for U Spec.
 std::string AcceptUSpec();
-std::string AcceptArbOr();
-std::string AcceptArbAnte();
-std::string AcceptArbCons();
-std::string AcceptOrNot();
 
 }  // namespace tessaryn

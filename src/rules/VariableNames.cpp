@@ -1,11 +1,8 @@
 #include "rules/VariableNames.h"
 
-#include <algorithm>
-
 #include "expr/Parse.h"
-#include "expr/Same.h"
+#include "inference/Quantifiers.h"
 #include "mainwindow/MyInputBox.h"
-#include "rules/Operands.h"
 
 namespace tessaryn {
 namespace {
@@ -14,7 +11,7 @@ namespace {
 std::vector<std::string> EnteredNames(std::size_t count) {
     std::vector<std::string> names;
     const bool isList = ParseError.empty() && ParseTable.size() == 2 * count &&
-                        (count == 1 || Root(ParseTable).Rule == Node::Ntuple);
+                        (count == 1 || Root(InHand).Rule == Node::Ntuple);
     for (std::size_t i = 1; isList && i <= count; ++i) {
         if (ParseTable[i].Rule != Node::Atom) return {};
         names.push_back(ParseTable[i].Name);
@@ -55,23 +52,10 @@ std::string RenamedAsEntered(const std::vector<std::string>& oldNames, const cha
         RefuseNames(oldNames.size());
         return "";
     }
-    const std::string text = ReplaceNames(StmtText2, TokenTable2, oldNames, newNames);
-    if (Same(StmtText2, text)) return text;
-    RefuseEntry(alreadyUsed);
+    Outcome outcome = Rename(Second, oldNames, newNames, alreadyUsed);
+    if (outcome.Applies()) return outcome.texts[0];
+    RefuseEntry(outcome.refusal);
     return "";
-}
-
-std::string ReplaceNames(std::string text, const TokenList& tokens,
-                         const std::vector<std::string>& oldNames,
-                         const std::vector<std::string>& newNames) {
-    // From the right, so that the positions to the left stay valid.
-    for (auto token = tokens.rbegin(); token != tokens.rend(); ++token) {
-        const auto found = std::find(oldNames.begin(), oldNames.end(), token->Token);
-        if (found == oldNames.end()) continue;
-        text.replace(static_cast<std::size_t>(token->Position - 1), token->Token.size(),
-                     newNames[static_cast<std::size_t>(found - oldNames.begin())]);
-    }
-    return text;
 }
 
 }  // namespace tessaryn

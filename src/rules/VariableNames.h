@@ -4,8 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "expr/Expression.h"
-
 namespace tessaryn {
 
 // "a, b"
@@ -14,14 +12,9 @@ std::string CommaList(const std::vector<std::string>& names);
 // What MyInputBox asks for.
 std::string AskForNamesText(std::size_t count);
 
-// Its answer: StmtText2 with the entered names in the place of the old ones. "" after a refusal,
-// with the message `alreadyUsed` if the statement would not be the same but for the names of bound
-// variables.
+// Its answer: the second expression with the entered names in the place of the old ones. "" after a
+// refusal, with the message `alreadyUsed` if the statement would not be the same but for the names
+// of bound variables.
 std::string RenamedAsEntered(const std::vector<std::string>& oldNames, const char* alreadyUsed);
-
-// The text with each token that is one of the old names replaced by the new one in its place.
-std::string ReplaceNames(std::string text, const TokenList& tokens,
-                         const std::vector<std::string>& oldNames,
-                         const std::vector<std::string>& newNames);
 
 }  // namespace tessaryn

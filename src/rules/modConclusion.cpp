@@ -16,14 +16,14 @@
 #include "document/PutStmt.h"
 #include "expr/NameList.h"
 #include "expr/Parse.h"
-#include "expr/Same.h"
+#include "inference/Conclusion.h"
 #include "mainwindow/ActiveStmts.h"
 #include "mainwindow/EntryChecks.h"
 #include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "rules/Operands.h"
+#include "rules/ClickPatterns.h"
 #include "rules/Rules.h"
 #include "rules/VariableNames.h"
 #include "view/InsertMode.h"
@@ -31,8 +31,6 @@
 
 namespace tessaryn {
 namespace {
-
-constexpr std::size_t LineLength = 50;  // from this length on the result is folded ahead of "=>"
 
 void Refuse(const std::string& message, const std::string& reason) {
     Beep(reason);
@@ -54,32 +52,6 @@ bool ParseLine(int line) {
     return ParseOrReport();
 }
 
-// --- contradictions: A & ~A, ~A & A, A <=> ~A, ~A <=> A and ~x=x
-
-bool OperandsContradict(const TokenList& tokens) {
-    const int last = static_cast<int>(tokens.size()) - 1;
-    const std::string left = JoinWritten(tokens, 3, TokenAt(tokens, 2).TPtr - 1);
-    const std::string right = JoinWritten(tokens, TokenAt(tokens, last - 1).TPtr + 1, last - 2);
-    return Same("~(" + left + ")", right) || Same(left, "~(" + right + ")");
-}
-
-bool DeniesIdentity(const TokenList& tokens) {
-    const int last = static_cast<int>(tokens.size()) - 1;
-    const int leftEnd = TokenAt(tokens, 4).TPtr;
-    return Same(JoinWritten(tokens, 4, leftEnd), JoinWritten(tokens, leftEnd + 2, last - 2));
-}
-
-// The statement whose parse is in the tables; overwrites them.
-bool IsContradiction() {
-    const TokenList tokens = TokenTable;
-    const int rule = Root(ParseTable).Rule;
-    if (rule == Node::LAnd || rule == Node::Iff) return OperandsContradict(tokens);
-    if (rule != Node::LNeg || NodeAt(ParseTable, RootIndex(ParseTable) - 1).Rule != Node::EQ) {
-        return false;
-    }
-    return DeniesIdentity(tokens);
-}
-
 // --- the statement
 
 void CollectNames(int premise, int last, bool contradiction) {
@@ -93,27 +65,6 @@ void CollectNames(int premise, int last, bool contradiction) {
             ConclusionEVars.push_back(name);
         }
     }
-}
-
-// Puts a quantifier for each name in front of the text, the first outermost.
-std::string Quantify(const char* quantifier, const std::vector<std::string>& names,
-                     const std::string& text) {
-    std::string prefix;
-    for (const std::string& name : names) prefix += quantifier + ("(" + name) + "):";
-    return prefix + text;
-}
-
-std::string BuildImplication(const std::string& premise, std::string last) {
-    for (auto name = ConclusionEVars.rbegin(); name != ConclusionEVars.rend(); ++name) {
-        last = "EXIST(" + *name + "):[" + last + "]";
-    }
-    const bool fits = last.size() + premise.size() < LineLength;
-    const std::string text = "[[" + premise + "]" + (fits ? " => [" : "\r\n=> [") + last + "]]";
-    return Quantify("ALL", ConclusionUVars, text);
-}
-
-std::string BuildNegation(const std::string& premise) {
-    return "~" + Quantify("EXIST", ConclusionUVars, "[[" + premise + "]]");
 }
 
 // --- insert mode: what stands behind the new Conclusion must survive it
@@ -183,7 +134,7 @@ std::vector<std::string> BoundNames() {
 bool AskForNames() {
     const std::vector<std::string> names = BoundNames();
     if (names.empty()) return true;
-    KeepAsSecond();
+    Second = InHand;
     MyInputBox.Caption = "Conclusion Rule: Generalizing on " + CommaList(names);
     MyInputBox.Label1.Caption = AskForNamesText(names.size());
     MyInputBox.Text1.Text = CommaList(names);
@@ -197,13 +148,11 @@ bool AskForNames() {
 // Builds the statement in NewStmtText and tests it. False after a refusal.
 bool BuildStatement(int premise, int line) {
     if (!ParseLine(premise)) return false;
-    const std::string premiseText = NewStmtText;
+    const Expression premiseStatement = InHand;
     if (!ParseLine(line - 1)) return false;
-    const std::string lastText = NewStmtText;
-    const bool contradiction = IsContradiction();
-    CollectNames(premise, line - 1, contradiction);
-    NewStmtText =
-        contradiction ? BuildNegation(premiseText) : BuildImplication(premiseText, lastText);
+    const Expression last = InHand;
+    CollectNames(premise, line - 1, IsContradiction(last));
+    NewStmtText = Conclude(premiseStatement, last, ConclusionUVars, ConclusionEVars).texts[0];
     Parse();
     if (!ParseError.empty()) {
         Refuse("Conclusion Rule: Inconsistent usage of same variable name in lines " +

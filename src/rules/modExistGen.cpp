@@ -8,13 +8,13 @@
 
 #include "document/Document.h"
 #include "expr/NameList.h"
+#include "expr/Operands.h"
 #include "expr/Parse.h"
 #include "mainwindow/ActiveStmts.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "rules/Generalize.h"
-#include "rules/Operands.h"
 #include "rules/Rules.h"
 
 namespace tessaryn {
@@ -26,7 +26,7 @@ bool TakeSelectedText(int& line) {
     int last = 0;
     SelectTokenRange(line, first, last);
     if (line != 0 && first != 0 && last != 0) {
-        NewStmtText = Cut(NewStmtText, WrittenSpan(TokenTable, first, last));
+        NewStmtText = Cut(NewStmtText, WrittenSpan(InHand, first, last));
         return true;
     }
     if (line == 0) {
@@ -47,7 +47,7 @@ std::string NameNotFree(int line) {
 }
 
 bool IsTermOfFreeNames(int line) {
-    if (!IsAlgebraic(Root(ParseTable).Rule)) {
+    if (!IsAlgebraic(Root(InHand).Rule)) {
         Beep("'" + NewStmtText +
              "' is no term: E Gen needs a variable or an algebraic expression.");
         return false;

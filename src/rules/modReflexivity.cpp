@@ -6,6 +6,7 @@
 
 #include "document/PutStmt.h"
 #include "expr/Expression.h"
+#include "inference/Equality.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
@@ -28,7 +29,7 @@ std::string AcceptReflexTerm() {
     if (const std::string fault = CheckTerm({}, term); !fault.empty()) return fault;
     Arg1Pending = term.isName ? 0 : term.footing;
     Arg2Pending = 0;
-    NewStmtText = term.text + "=" + term.text;
+    NewStmtText = Reflex(InHand).texts[0];
     WriteStatement();
     return "";
 }

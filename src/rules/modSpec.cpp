@@ -11,8 +11,9 @@
 #include "document/Document.h"
 #include "document/PutStmt.h"
 #include "expr/NameList.h"
+#include "expr/Operands.h"
 #include "expr/Parse.h"
-#include "expr/Same.h"
+#include "inference/Quantifiers.h"
 #include "mainwindow/ActiveStmts.h"
 #include "mainwindow/EntryChecks.h"
 #include "mainwindow/MyInputBox.h"
@@ -21,9 +22,8 @@
 #include "mainwindow/RuleModes.h"
 #include "mainwindow/TermChecks.h"
 #include "mainwindow/TestParser.h"
-#include "rules/Operands.h"
+#include "rules/ClickPatterns.h"
 #include "rules/Rules.h"
-#include "rules/VariableNames.h"
 #include "view/InsertMode.h"
 
 namespace tessaryn {
@@ -44,17 +44,6 @@ void AskForTerm(int line) {
     ShowModal(TestParser);
 }
 
-// The clicked statement without its quantifier.
-Expression Body() {
-    return ParseExpression(Cut(StmtText2, SpanOfNode(TokenTable2, Root(ParseTable2).Ptr2)));
-}
-
-// Puts the term for the variable. No inner quantifier binds the same name, so that every occurrence
-// is meant.
-std::string Specified(const Expression& body, const std::string& term) {
-    return ReplaceNames(body.text, body.tokens, {BoundVarName}, {term});
-}
-
 // --- E Spec
 
 // The line that a name is in use on, 0 if none: the highest active one, or the first one behind the
@@ -71,19 +60,9 @@ int LineThatUses(const std::string& name) {
     return 0;
 }
 
-// Does a quantifier inside the clicked statement bind the name?
-bool IsBoundInside(const std::string& name) {
-    for (int n = RootIndex(ParseTable2) - 1; n >= 1; --n) {
-        const ParseRec& node = NodeAt(ParseTable2, n);
-        if (node.Rule != Node::ALL && node.Rule != Node::EXIST) continue;
-        if (NodeAt(ParseTable2, node.Ptr1).Name == name) return true;
-    }
-    return false;
-}
-
 // The message of a name that can't be taken; "" if it can.
 std::string CheckNewName(const std::string& name) {
-    if (IsBoundInside(name)) return "Inconsistent usage of free variable in this statement";
+    if (BindsInside(Second, name)) return "Inconsistent usage of free variable in this statement";
     const int line = LineThatUses(name);
     return line == 0 ? "" : "Free variable already used in statement " + std::to_string(line);
 }
@@ -98,16 +77,13 @@ void Spec() {
     Arg2Pending = 0;
     Parse();
     if (!ParseError.empty()) return SetPrompt("PARSER ERROR: " + ParseError);
-    const ParseRec& root = Root(ParseTable);
-    if (root.Rule != Node::ALL && root.Rule != Node::EXIST) {
-        return BeepAtLine(line,
-                          "does not begin with a quantifier over the whole of it: Specify "
-                          "needs ALL or EXIST as its outermost sign.");
-    }
+    const Outcome fit = SpecifyFrom(InHand);
+    if (!fit.Applies()) return BeepRefusal(line, fit);
+    const ParseRec& root = Root(InHand);
     RuleMode = root.Rule == Node::EXIST ? Rule::ESpec : Rule::USpec;
     SetPrompt("");
-    BoundVarName = NodeAt(ParseTable, root.Ptr1).Name;
-    KeepAsSecond();
+    BoundVarName = NodeAt(InHand, root.Ptr1).Name;
+    Second = InHand;
     if (RuleMode == Rule::ESpec) {
         AskForName(line);
     } else {
@@ -119,14 +95,14 @@ void Spec() {
 void ContinueESpec() {
     NewStmtText = MyInputBox.Text1.Text;
     Parse();
-    if (!ParseError.empty() || ParseTable.size() != 2 || Root(ParseTable).Rule != Node::Atom) {
+    if (!ParseError.empty() || ParseTable.size() != 2 || Root(InHand).Rule != Node::Atom) {
         return RefuseEntry("Invalid variable name",
                            "Enter one name that begins with a small letter or a digit.");
     }
-    const std::string name = Root(ParseTable).Name;
+    const std::string name = Root(InHand).Name;
     if (const std::string fault = CheckNewName(name); !fault.empty()) return RefuseEntry(fault);
     SpecName = name;
-    NewStmtText = Specified(Body(), name);
+    NewStmtText = Specify(Second, InHand).texts[0];
     Parse();
     if (!ParseError.empty()) return RefuseEntry("PARSER ERROR: " + ParseError);
     if (!WriteStatement()) return ShowEntryFault(ParseError);
@@ -137,9 +113,8 @@ void ContinueESpec() {
 std::string AcceptUSpec() {
     EnteredTerm term;
     if (const std::string fault = CheckTerm(TokenTable2, term); !fault.empty()) return fault;
-    const Expression body = Body();
-    NewStmtText = Specified(body, term.isName ? term.text : "(" + term.text + ")");
-    const bool restsOnFooting = !term.isName && HoldsName(FreeVarsOf(body), BoundVarName);
+    const bool restsOnFooting = !term.isName && BindsSomething(Second);
+    NewStmtText = Specify(Second, InHand).texts[0];
     Arg2Pending = restsOnFooting ? term.footing : 0;
     Parse();
     if (!ParseError.empty()) {

@@ -55,7 +55,7 @@ void ToggleInsertMode() {
         if (Proof.RTB.SelLength > 0) Proof.RTB.SelLength = 0;
         Proof.RTB.SetFocus();
     } else {
-        StartClickRule(Rule::SetInsertMode);
+        AwaitClick(Rule::SetInsertMode, SetInsertModePrompt);
     }
 }
 

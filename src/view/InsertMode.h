@@ -4,6 +4,9 @@
 
 namespace tessaryn {
 
+inline constexpr const char* SetInsertModePrompt =
+    "Insert Mode: Click insert line for an ACTIVE statement";
+
 inline bool InsertMode = false;
 inline int InsertLine = 0;  // the number of the next statement; 0 while the mode is off
 

@@ -1,6 +1,6 @@
 // The fast search for occurrences against one that asks Same about each candidate, and the box in
 // which occurrences are replaced.
-#include "rules/Occurrences.h"
+#include "expr/Occurrences.h"
 
 #include <gtest/gtest.h>
 
@@ -24,12 +24,12 @@ struct Candidate {
     bool bracketed;
 };
 
-Candidate CandidateOf(const TokenList& tokens, int open, int close) {
-    while (TokenAt(tokens, open).Position == 0) ++open;
-    while (TokenAt(tokens, close).Position == 0) --close;
-    Span span = WrittenSpan(tokens, open, close);
-    const std::string& first = TokenAt(tokens, open).Token;
-    const bool bracketed = (first == "(" || first == "[") && TokenAt(tokens, open).TPtr == close;
+Candidate CandidateOf(const Expression& in, int open, int close) {
+    while (TokenAt(in, open).Position == 0) ++open;
+    while (TokenAt(in, close).Position == 0) --close;
+    Span span = WrittenSpan(in, open, close);
+    const std::string& first = TokenAt(in, open).Token;
+    const bool bracketed = (first == "(" || first == "[") && TokenAt(in, open).TPtr == close;
     if (bracketed) span = {span.start + 1, span.end - 1};
     return {span, close, bracketed};
 }
@@ -42,13 +42,13 @@ std::vector<Span> SlowAllOccurrences(const Expression& term, const Expression& i
     std::vector<Span> spans;
     int i = static_cast<int>(in.tokens.size()) - 1;
     while (i > 0) {
-        const int open = TokenAt(in.tokens, i).TPtr;
-        const int node = TokenAt(in.tokens, i).DPtr;
-        if (open == 0 || open > i || NodeAt(in.nodes, node).Rule != Root(term.nodes).Rule) {
+        const int open = TokenAt(in, i).TPtr;
+        const int node = TokenAt(in, i).DPtr;
+        if (open == 0 || open > i || NodeAt(in, node).Rule != Root(term).Rule) {
             --i;
             continue;
         }
-        const Candidate candidate = CandidateOf(in.tokens, open, i);
+        const Candidate candidate = CandidateOf(in, open, i);
         const bool found = IsOccurrence(term, in, candidate.span);
         const bool inside = !spans.empty() && candidate.span.end >= spans.back().start;
         if (found && !inside) spans.push_back(candidate.span);
@@ -64,9 +64,9 @@ std::vector<Span> SlowAllOccurrences(const Expression& term, const Expression& i
 
 std::optional<Span> SlowOccurrenceAt(const Expression& term, const Expression& in, int place) {
     for (int i = 1; i < static_cast<int>(in.tokens.size()); ++i) {
-        const int close = TokenAt(in.tokens, i).TPtr;
+        const int close = TokenAt(in, i).TPtr;
         if (close <= i) continue;
-        const Span span = CandidateOf(in.tokens, i, close).span;
+        const Span span = CandidateOf(in, i, close).span;
         if (place < span.start || place > span.end) continue;
         if (IsOccurrence(term, in, span)) return span;
     }
@@ -89,8 +89,8 @@ std::string Shown(const std::optional<Span>& span) {
 Expression SomeTermOf(const Expression& formula, Random& random) {
     for (int attempt = 0; attempt < 20; ++attempt) {
         const int node = 1 + static_cast<int>(random() % (formula.nodes.size() - 1));
-        if (!IsAlgebraic(NodeAt(formula.nodes, node).Rule)) continue;
-        std::string text = Cut(formula.text, SpanOfNode(formula.tokens, node));
+        if (!IsAlgebraic(NodeAt(formula, node).Rule)) continue;
+        std::string text = TextOfNode(formula, node);
         if (random() % 4 == 0) std::replace(text.begin(), text.end(), '+', '*');
         Expression term = ParseExpression(text);
         if (term.error.empty()) return term;

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "expr/Operands.h"
 #include "expr/Parse.h"
-#include "rules/Operands.h"
 
 namespace tessaryn {
 
@@ -18,8 +18,8 @@ class Structure {
     Structure(unsigned seed, int size) : seed_(seed), size_(size) {}
 
     bool Holds(const Expression& statement) {
-        nodes_ = &statement.nodes;
-        return Value(RootIndex(statement.nodes)) != 0;
+        statement_ = &statement;
+        return Value(RootIndex(statement)) != 0;
     }
 
     // Does a test succeed for all values of the names, or for some?
@@ -48,13 +48,13 @@ class Structure {
     }
 
     std::string Values(int n) {
-        const ParseRec& node = NodeAt(*nodes_, n);
+        const ParseRec& node = NodeAt(*statement_, n);
         if (node.Rule != Node::Ntuple) return std::to_string(Value(n));
         return Values(node.Ptr1) + "," + Values(node.Ptr2);
     }
 
     int Value(int n) {
-        const ParseRec& node = NodeAt(*nodes_, n);
+        const ParseRec& node = NodeAt(*statement_, n);
         const auto left = [&] { return Value(node.Ptr1); };
         const auto right = [&] { return Value(node.Ptr2); };
         switch (node.Rule) {
@@ -63,7 +63,7 @@ class Structure {
             case Node::Prop:
                 return Draw(node.Name, 2);
             case Node::Pred:
-                return Draw(NodeAt(*nodes_, node.Ptr1).Name + "(" + Values(node.Ptr2), 2);
+                return Draw(NodeAt(*statement_, node.Ptr1).Name + "(" + Values(node.Ptr2), 2);
             case Node::LNeg:
                 return 1 - left();
             case Node::LAnd:
@@ -77,7 +77,7 @@ class Structure {
                 return left() == right() ? 1 : 0;
             case Node::ALL:
             case Node::EXIST:
-                return Try({NodeAt(*nodes_, node.Ptr1).Name}, node.Rule == Node::ALL,
+                return Try({NodeAt(*statement_, node.Ptr1).Name}, node.Rule == Node::ALL,
                            [&] { return right() != 0; });
             default:
                 return Draw(std::to_string(node.Rule) + " " + Values(node.Ptr1) + " " +
@@ -88,7 +88,7 @@ class Structure {
 
     unsigned seed_;
     int size_;
-    const NodeList* nodes_ = nullptr;
+    const Expression* statement_ = nullptr;
 };
 
 }  // namespace tessaryn

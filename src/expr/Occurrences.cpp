@@ -1,4 +1,4 @@
-#include "rules/Occurrences.h"
+#include "expr/Occurrences.h"
 
 #include <algorithm>
 #include <map>
@@ -28,8 +28,11 @@ struct Ends {
 // Finds the ends of any pair of a token table in one step.
 class EndFinder {
   public:
-    explicit EndFinder(const TokenList& tokens)
-        : tokens_(tokens), firstFrom_(tokens.size()), lastUpTo_(tokens.size()) {
+    explicit EndFinder(const Expression& statement)
+        : statement_(statement),
+          firstFrom_(statement.tokens.size()),
+          lastUpTo_(statement.tokens.size()) {
+        const TokenList& tokens = statement.tokens;
         for (std::size_t i = 1; i < tokens.size(); ++i) {
             lastUpTo_[i] = tokens[i].Position > 0 ? static_cast<int>(i) : lastUpTo_[i - 1];
         }
@@ -43,16 +46,16 @@ class EndFinder {
     Ends Of(int open, int close) const {
         const int first = firstFrom_[static_cast<std::size_t>(open)];
         const int last = lastUpTo_[static_cast<std::size_t>(close)];
-        return {first, last, TokenAt(tokens_, first).TPtr == last};
+        return {first, last, TokenAt(statement_, first).TPtr == last};
     }
 
     Span SpanOf(const Ends& ends) const {
-        const Span whole = WrittenSpan(tokens_, ends.first, ends.last);
+        const Span whole = WrittenSpan(statement_, ends.first, ends.last);
         return ends.bracketed ? Span{whole.start + 1, whole.end - 1} : whole;
     }
 
   private:
-    const TokenList& tokens_;
+    const Expression& statement_;
     std::vector<int> firstFrom_;  // by token: the first written one at or behind it
     std::vector<int> lastUpTo_;   // by token: the last written one at or ahead of it
 };
@@ -81,12 +84,12 @@ std::vector<bool> NodesThatAre(const NodeList& term, const NodeList& nodes) {
 std::vector<Span> AllOccurrences(const NodeList& term, const Expression& statement, Search search) {
     const TokenList& tokens = statement.tokens;
     const std::vector<bool> same = NodesThatAre(term, statement.nodes);
-    const EndFinder finder(tokens);
+    const EndFinder finder(statement);
     std::vector<Span> spans;
     for (int i = static_cast<int>(tokens.size()) - 1; i > 0;) {
-        const TokenRec& token = TokenAt(tokens, i);
+        const TokenRec& token = TokenAt(statement, i);
         const bool closes = token.TPtr > 0 && token.TPtr < i;
-        if (!closes || NodeAt(statement.nodes, token.DPtr).Rule != Root(term).Rule) {
+        if (!closes || NodeAt(statement, token.DPtr).Rule != term.back().Rule) {
             --i;
             continue;
         }
@@ -110,9 +113,9 @@ std::vector<Span> AllOccurrences(const NodeList& term, const Expression& stateme
 std::optional<Span> OccurrenceAt(const NodeList& term, const Expression& statement, int place) {
     const TokenList& tokens = statement.tokens;
     const std::vector<bool> same = NodesThatAre(term, statement.nodes);
-    const EndFinder finder(tokens);
+    const EndFinder finder(statement);
     for (int i = 1; i < static_cast<int>(tokens.size()); ++i) {
-        const TokenRec& token = TokenAt(tokens, i);
+        const TokenRec& token = TokenAt(statement, i);
         if (token.TPtr <= i || !same[static_cast<std::size_t>(token.DPtr)]) continue;
         const Span span = finder.SpanOf(finder.Of(i, token.TPtr));
         if (span.start <= place && place <= span.end) return span;

@@ -1,4 +1,4 @@
-#include "axioms/SchemeText.h"
+#include "inference/SchemeText.h"
 
 #include <string_view>
 

@@ -7,8 +7,6 @@
 
 #include <span>
 
-#include "mainwindow/RuleModes.h"
-
 namespace tessaryn {
 
 // --- schemes: one axiom for each number n that the user enters
@@ -16,9 +14,6 @@ namespace tessaryn {
 // In a text, {...} stands for its content repeated with 2 to n in the place of #: for n = 3,
 // "a1{,a#}" is "a1,a2,a3" and "Set{'}" is "Set''".
 struct AxiomScheme {
-    int rule;
-    const char* caption;
-    const char* prompt;
     int least;  // the smallest n
     const char* text;
     const char* textOfOne;  // for n = 1 where that has a form of its own; nullptr if not
@@ -27,79 +22,70 @@ struct AxiomScheme {
 
 inline constexpr int MaxAxiomOrder = 99;
 
-inline constexpr AxiomScheme AxiomSchemes[] = {
-    {Rule::CartProd, " Cartesian Product Axiom",
-     "Enter the number of sets in the product (2 or more)", 2,
-     "ALL(a1):{ALL(a#):}[Set(a1){& Set(a#)}=>\r\n"
-     "EXIST(b):[Set{'}(b)&ALL(c1):{ALL(c#):}[(c1{,c#})@b<=>c1@a1{&c#@a#}]]]",
-     nullptr},
+inline constexpr AxiomScheme CartesianProductScheme = {
+    2,
+    "ALL(a1):{ALL(a#):}[Set(a1){& Set(a#)}=>\r\n"
+    "EXIST(b):[Set{'}(b)&ALL(c1):{ALL(c#):}[(c1{,c#})@b<=>c1@a1{&c#@a#}]]]",
+    nullptr};
 
-    {Rule::PowerSet, "Power Set Axiom",
-     "Enter order of set  (1 for a regular set, 2 for a set of order pairs, etc.)", 1,
-     "ALL(a):[Set{'}(a)=>EXIST(b):[Set(b)\r\n"
-     "& ALL(c):[c@b<=> Set{'}(c)&ALL(d1):{ALL(d#):}[(d1{,d#})@c=>(d1{,d#})@a]]]]",
-     "ALL(a):[Set(a)=>EXIST(b):[Set(b)\r\n"
-     "& ALL(c):[c@b<=> Set(c)&ALL(d):[d@c=>d@a]]]]"},
+inline constexpr AxiomScheme PowerSetScheme = {
+    1,
+    "ALL(a):[Set{'}(a)=>EXIST(b):[Set(b)\r\n"
+    "& ALL(c):[c@b<=> Set{'}(c)&ALL(d1):{ALL(d#):}[(d1{,d#})@c=>(d1{,d#})@a]]]]",
+    "ALL(a):[Set(a)=>EXIST(b):[Set(b)\r\n"
+    "& ALL(c):[c@b<=> Set(c)&ALL(d):[d@c=>d@a]]]]"};
 
-    {Rule::SetEquality, " Set Equality Axiom",
-     "Enter order of sets to be compared  (1 for regular sets, 2 for sets of order pairs, etc.)", 1,
-     "ALL(a):ALL(b):[Set{'}(a)&Set{'}(b)=>[a=b\r\n"
-     "<=>ALL(c1):{ALL(c#):}[(c1{,c#})@a<=>(c1{,c#})@b]]]",
-     "ALL(a):ALL(b):[Set(a)&Set(b)=>[a=b<=>ALL(c):[c@a<=>c@b]]]"},
+inline constexpr AxiomScheme SetEqualityScheme = {
+    1,
+    "ALL(a):ALL(b):[Set{'}(a)&Set{'}(b)=>[a=b\r\n"
+    "<=>ALL(c1):{ALL(c#):}[(c1{,c#})@a<=>(c1{,c#})@b]]]",
+    "ALL(a):ALL(b):[Set(a)&Set(b)=>[a=b<=>ALL(c):[c@a<=>c@b]]]"};
 
-    {Rule::NtupleEquality, " N-tuple Equality Axiom",
-     "Enter order of n-tuple (2 for ordered pairs, 3 for ordered triples, etc.)", 2,
-     "ALL(a1):{ALL(a#):}ALL(b1):{ALL(b#):}[(a1{,a#})=(b1{,b#})\r\n"
-     "<=>a1=b1{&a#=b#}]",
-     nullptr, "Invalid number. Must be 2 or more."},
+inline constexpr AxiomScheme NtupleEqualityScheme = {
+    2,
+    "ALL(a1):{ALL(a#):}ALL(b1):{ALL(b#):}[(a1{,a#})=(b1{,b#})\r\n"
+    "<=>a1=b1{&a#=b#}]",
+    nullptr, "Invalid number. Must be 2 or more."};
 
-    {Rule::Function, "Function Axiom", "Enter the number of variables in the function (1 or more)",
-     1,
-     "ALL(dom):ALL(cod):ALL(gra):[Set{'}(dom) & Set(cod) & Set'{'}(gra)\r\n"
-     "=>[ALL(a1):{ALL(a#):}ALL(b):[(a1{,a#},b) @ gra => (a1{,a#})@dom & b@cod]\r\n"
-     "& ALL(a1):{ALL(a#):}[(a1{,a#})@dom => EXIST(b):[b @ cod & (a1 {,a#},b) @ gra]]\r\n"
-     "&ALL(a1):{ALL(a#):}ALL(b1):ALL(b2):[(a1{,a#})@dom & b1@cod & b2@cod\r\n"
-     "=>[(a1{,a#},b1)@gra & (a1{,a#},b2)@gra => b1=b2]]\r\n"
-     "=> EXIST(fun):[Function(fun,dom,cod) &ALL(a1):{ALL(a#):}ALL(b): [(a1{,a#})@dom & b@cod\r\n"
-     "=> [fun(a1{,a#})=b <=> (a1{,a#},b)@gra]]]]]",
-     nullptr},
+inline constexpr AxiomScheme FunctionExistenceScheme = {
+    1,
+    "ALL(dom):ALL(cod):ALL(gra):[Set{'}(dom) & Set(cod) & Set'{'}(gra)\r\n"
+    "=>[ALL(a1):{ALL(a#):}ALL(b):[(a1{,a#},b) @ gra => (a1{,a#})@dom & b@cod]\r\n"
+    "& ALL(a1):{ALL(a#):}[(a1{,a#})@dom => EXIST(b):[b @ cod & (a1 {,a#},b) @ gra]]\r\n"
+    "&ALL(a1):{ALL(a#):}ALL(b1):ALL(b2):[(a1{,a#})@dom & b1@cod & b2@cod\r\n"
+    "=>[(a1{,a#},b1)@gra & (a1{,a#},b2)@gra => b1=b2]]\r\n"
+    "=> EXIST(fun):[Function(fun,dom,cod) &ALL(a1):{ALL(a#):}ALL(b): [(a1{,a#})@dom & b@cod\r\n"
+    "=> [fun(a1{,a#})=b <=> (a1{,a#},b)@gra]]]]]",
+    nullptr};
 
-    {Rule::FnSpace, "Function Space", "Enter the number of variables in the function (1 or more)",
-     1,
-     "ALL(dom):ALL(cod):[Set{'}(dom) & Set(cod)\r\n"
-     "=> EXIST(fsp):[Set(fsp) & ALL(f):[f@fsp <=> Function(f,dom,cod) &"
-     "ALL(a1):{ALL(a#):}[(a1{,a#})@dom => f(a1{,a#})@cod]]]]",
-     nullptr},
+inline constexpr AxiomScheme FunctionSpaceScheme = {
+    1,
+    "ALL(dom):ALL(cod):[Set{'}(dom) & Set(cod)\r\n"
+    "=> EXIST(fsp):[Set(fsp) & ALL(f):[f@fsp <=> Function(f,dom,cod) &"
+    "ALL(a1):{ALL(a#):}[(a1{,a#})@dom => f(a1{,a#})@cod]]]]",
+    nullptr};
 
-    {Rule::FnEquality, " Function Equality Axiom", "Enter number of variables in functions", 1,
-     "ALL(dom):ALL(cod):ALL(f1):ALL(f2):[Set{'}(dom) & Set(cod)\r\n"
-     "&Function(f1,dom,cod) & Function(f2,dom,cod)\r\n"
-     "=>[f1=f2 <=>ALL(a1):{ALL(a#):}[(a1{,a#})@dom => f1(a1{,a#})=f2(a1{,a#})]]]",
-     "ALL(dom):ALL(cod):ALL(f1):ALL(f2):[Set(dom) & Set(cod)\r\n"
-     "& Function(f1,dom,cod)& Function(f2,dom,cod)\r\n"
-     "=>[f1=f2 <=> ALL(a):[a @ dom => f1(a)=f2(a)]]] "},
-};
+inline constexpr AxiomScheme FunctionEqualityScheme = {
+    1,
+    "ALL(dom):ALL(cod):ALL(f1):ALL(f2):[Set{'}(dom) & Set(cod)\r\n"
+    "&Function(f1,dom,cod) & Function(f2,dom,cod)\r\n"
+    "=>[f1=f2 <=>ALL(a1):{ALL(a#):}[(a1{,a#})@dom => f1(a1{,a#})=f2(a1{,a#})]]]",
+    "ALL(dom):ALL(cod):ALL(f1):ALL(f2):[Set(dom) & Set(cod)\r\n"
+    "& Function(f1,dom,cod)& Function(f2,dom,cod)\r\n"
+    "=>[f1=f2 <=> ALL(a):[a @ dom => f1(a)=f2(a)]]] "};
 
 // --- single axioms
 
-struct FixedAxiom {
-    int rule;
-    const char* text;
-};
+inline constexpr const char* PairwiseUnion =
+    "ALL(a):ALL(b):[Set(a) & Set(b) => EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ a | d @ b]]]";
 
-inline constexpr FixedAxiom PairwiseUnion = {
-    Rule::PwUnion,
-    "ALL(a):ALL(b):[Set(a) & Set(b) => EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ a | d @ b]]]"};
-
-inline constexpr FixedAxiom ArbitraryUnion = {
-    Rule::ArbUnion,
+inline constexpr const char* ArbitraryUnion =
     "ALL(f):[Set(f) & ALL(a):[a @ f => Set(a)]\r\n"
-    "=> EXIST(a):[Set(a) & ALL(b):[b @ a <=> EXIST(c):[c @ f & b @ c]]]]"};
+    "=> EXIST(a):[Set(a) & ALL(b):[b @ a <=> EXIST(c):[c @ f & b @ c]]]]";
 
-inline constexpr FixedAxiom AxiomOfChoice = {
-    Rule::Choice,
+inline constexpr const char* AxiomOfChoice =
     "ALL(f):[Set(f) & ALL(a):[a @ f => Set(a) & EXIST(b):b @ a]\r\n"
-    "=> EXIST(c):ALL(a):[a @ f => c(a) @ a]]"};
+    "=> EXIST(c):ALL(a):[a @ f => c(a) @ a]]";
 
 // --- groups of axioms about names of their own, which the proof must not use for anything else
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "axioms/AxiomTexts.h"
+#include "inference/AxiomTexts.h"
 
 namespace tessaryn {
 

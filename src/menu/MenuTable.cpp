@@ -9,11 +9,13 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
+#include "menu/ClickTable.h"
 #include "output/AboutTessaryn.h"
 #include "output/HTML.h"
 #include "output/PrintProof.h"
 #include "output/SelectDir.h"
 #include "output/Settings.h"
+#include "rules/ArbitraryOperand.h"
 #include "rules/Rules.h"
 #include "view/Comment.h"
 #include "view/EditCaption.h"
@@ -176,9 +178,11 @@ const MenuRow MenuRows[] = {
      Hidden},
     {1, &P::barSets3, "barSets3", "-"},
     {1, &P::optUnionOfSets, "optUnionOfSets", "Union"},
-    {2, &P::optPairwiseUnion, "optPairwiseUnion", "Pairwise", "", Write<PairwiseUnion>},
-    {2, &P::optArbitraryUnion, "optArbitraryUnion", "Arbitrary", "", Write<ArbitraryUnion>},
-    {1, &P::optChoice, "optChoice", "Choice", "", Write<AxiomOfChoice>},
+    {2, &P::optPairwiseUnion, "optPairwiseUnion", "Pairwise", "",
+     Write<Rule::PwUnion, PairwiseUnion>},
+    {2, &P::optArbitraryUnion, "optArbitraryUnion", "Arbitrary", "",
+     Write<Rule::ArbUnion, ArbitraryUnion>},
+    {1, &P::optChoice, "optChoice", "Choice", "", Write<Rule::Choice, AxiomOfChoice>},
 
     {0, &P::mnuNumbers, "mnuNumbers", "&Numbers"},
     {1, &P::optNumberAxioms, "optNumberAxioms", "&Number Axioms    (n, 1, +)", "",

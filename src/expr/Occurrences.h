@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "expr/Expression.h"
-#include "rules/Operands.h"
+#include "expr/Operands.h"
 
 namespace tessaryn {
 

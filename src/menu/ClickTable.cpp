@@ -1,0 +1,130 @@
+// The click rules: of each its prompt, and how it takes its clicks. A rule with a conversation of
+// its own has a function for them; of the others the row is all there is, besides the inference.
+#include "menu/ClickTable.h"
+
+#include <algorithm>
+#include <iterator>
+#include <variant>
+
+#include "axioms/Axioms.h"
+#include "document/Document.h"
+#include "inference/Connectives.h"
+#include "inference/Equality.h"
+#include "inference/Quantifiers.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "mainwindow/RuleModes.h"
+#include "rules/ArbitraryOperand.h"
+#include "rules/ClickPatterns.h"
+#include "rules/Rules.h"
+#include "view/Comment.h"
+#include "view/Delete.h"
+#include "view/InsertMode.h"
+#include "view/ShowHide.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr auto StayPending = AfterParseError::StayPending;
+
+using Conversation = void (*)();
+// The same for a rule with two clicks, which is told whether the first is awaited.
+using TwoClicks = void (*)(bool& firstClick);
+using ClickTarget =
+    std::variant<std::monostate, LineClick, SignClick, LinesClick, Conversation, TwoClicks>;
+
+struct ClickRow {
+    int ruleMode;
+    const char* prompt;
+    ClickTarget click = std::monostate();
+};
+
+const ClickRow ClickRows[] = {
+    {DeleteAllRefMode, "Delete All References: Click statement", Conversation(DeleteAllRef)},
+    {Rule::Spec, "Specify:  Click any active quantified statement", Conversation(Spec)},
+    {Rule::EGen, "E Gen: Click a free variable or highlight an expression in an active statement",
+     Conversation(ExistGenSelect)},
+    {Rule::DeleteAtSub, "Delete All Subsequent Lines: Click statement", Conversation(DeleteAllSub)},
+    {Rule::Quant, "Quant: Click a quantifier in any active statement",
+     SignClick{Quant, QuantNeeds}},
+    {Rule::RemDNeg, "Rem DNeg:  Click on the first ~ of a double negative in an active statement",
+     SignClick{RemDNeg, RemDNegNeeds}},
+    {Rule::Join, JoinPrompt, TwoClicks(Join)},
+    {Rule::Split, "Split:  Click any active AND (&) statement", LineClick{Split}},
+    {Rule::Detach, "Detach: Click on any active IMPLICATION (=>) statement...",
+     LinesClick{DetachFrom, Detach,
+                "Detach:  Click any active statement that matches LHS of line %1"}},
+    {Rule::IffAnd, "Iff - And:  Click on any <=> or equivalent & in any active statement",
+     SignClick{IffAnd, IffAndNeeds}},
+    {Rule::Subset, "Subset:  Click any active SET-statement", Conversation(Subset)},
+    {Rule::ImplyAnd, "Implies - And:  Click on => or & in any active statement",
+     SignClick{ImplyAnd, ImplyAndNeeds, StayPending}},
+    {Rule::Contra, "Contra:  Click on => in any active statement", SignClick{Contra, ContraNeeds}},
+    {Rule::DeMorgan, "DeMorgan:  Click on '&' or '|' in any active statement",
+     SignClick{DeMorgan, DeMorganNeeds}},
+    {Rule::ArbOr, "", Conversation(ArbOr)},
+    {Rule::ArbAnte, "Arb Ante:  Click any active statement", Conversation(ArbAnte)},
+    {Rule::ArbCons, "Arb Cons:  Click any active statement", Conversation(ArbCons)},
+    {Rule::Substitute,
+     "Subst:  Select SOURCE expression. Click LHS or RHS of in any active EQUALS-statement...",
+     TwoClicks(Subsitute)},
+    {Rule::Sym, "Symmetry:  Click = sign in any active statement",
+     SignClick{Sym, SymNeeds, StayPending}},
+    {ToggleHighlightMode, "Toggle Highlight:  Click any statement number but that on a Premise"},
+    {Rule::ImplyOr, "Implies - Or:  Click on => or | in any active statement",
+     SignClick{ImplyOr, ImplyOrNeeds, StayPending}},
+    {Rule::Cases, "Cases: Click any active OR-statement of the form  P1 | P2 | P3 | ...",
+     LinesClick{CasesFrom, Cases,
+                "Cases: Click any active AND-statement of the form [P1=>Q] & [P2=>Q] & [P3=>Q] ...",
+                StayPending, false}},
+    {Rule::SetInsertMode, SetInsertModePrompt, Conversation(GetInsertLineNo)},
+    {Rule::Rename, "Rename:  Click any active universally quantified statement",
+     Conversation(Rename)},
+    {Rule::Reorder,
+     "Reorder:  Click any active statement beginning with 2 or more universally quantifiers",
+     Conversation(Reorder)},
+    {Rule::Copy, "Make Copy:  Click on any active statement", LineClick{Copy, StayPending}},
+};
+
+const ClickRow* FindRow(int ruleMode) {
+    const ClickRow* row =
+        std::find_if(std::begin(ClickRows), std::end(ClickRows),
+                     [&](const ClickRow& each) { return each.ruleMode == ruleMode; });
+    return row == std::end(ClickRows) ? nullptr : row;
+}
+
+bool HasTwoClicks(const ClickTarget& click) {
+    return std::holds_alternative<LinesClick>(click) || std::holds_alternative<TwoClicks>(click);
+}
+
+struct TakeClick {
+    void operator()(std::monostate) const { ToggleConclusion(); }
+    void operator()(const LineClick& rule) const { ClickLine(rule); }
+    void operator()(const SignClick& rule) const { ClickSign(rule); }
+    void operator()(const LinesClick& rule) const { ClickLines(rule); }
+    void operator()(Conversation talk) const { talk(); }
+    void operator()(TwoClicks talk) const { talk(FirstClick); }
+};
+
+}  // namespace
+
+void StartClickRule(int ruleMode) {
+    const ClickRow* row = FindRow(ruleMode);
+    if (HasTwoClicks(row->click)) FirstClick = true;
+    AwaitClick(ruleMode, row->prompt);
+}
+
+void ClickInDisplay() {
+    ToggledNumber = 0;
+    ClickedNumber = NumberAt(Proof.RTB.SelStart + 1);
+    if (Proof.RTB.SelLength > 0 && RuleMode != Rule::EGen) return;
+    if (StmtCount == 0) {
+        RuleMode = 0;
+        SetPrompt("");
+        return EditIntroduction();
+    }
+    const ClickRow* row = FindRow(RuleMode);
+    std::visit(TakeClick(), row == nullptr ? ClickTarget() : row->click);
+}
+
+}  // namespace tessaryn
