@@ -50,9 +50,6 @@ void ClearDocument();
 
 // Where the first visible block begins in the display, 1-based.
 int FirstViewerStartLine();
-// The visible statement whose block holds a place of the display, 1-based; 0 if none does. The line
-// ends behind the annotation belong to no block.
-int ShownStmtAt(int place);
 
 // The text between two 1-based indexes of ProofText, both included.
 std::string_view ProofSlice(int first, int last);

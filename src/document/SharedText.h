@@ -27,6 +27,9 @@ class SharedText {
     }
     operator std::string_view() const { return View(); }  // NOLINT: reads like any text
 
+    // Do the two texts hold one and the same bytes, as far as both go? They may do so without.
+    bool SharesBytes(const SharedText& other) const { return bytes_ == other.bytes_; }
+
     std::size_t size() const { return length_; }
     bool empty() const { return length_ == 0; }
     char operator[](std::size_t position) const { return (*bytes_)[position]; }

@@ -35,16 +35,6 @@ int FirstViewerStartLine() {
     return IntroEnd > 0 ? IntroEnd + 5 : 1;
 }
 
-int ShownStmtAt(int place) {
-    for (int line = 1; line <= StmtCount; ++line) {
-        const Statement& stmt = StmtTable[line];
-        if (!stmt.Visible) continue;
-        if (place < stmt.ViewerStartLine) return 0;
-        if (place <= ViewerEndRule(stmt)) return line;
-    }
-    return 0;
-}
-
 void ShiftIndexes(Statement& stmt, int shift) {
     stmt.StartLine += shift;
     if (stmt.EndUserComment > 0) stmt.EndUserComment += shift;

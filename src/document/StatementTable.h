@@ -1,13 +1,16 @@
 // The statements of a document, by line number, in pages that copies of the table share.
 #pragma once
 
+#include <algorithm>
 #include <concepts>
 #include <cstddef>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
+#include "document/RuleNames.h"
 #include "document/Statement.h"
 
 namespace tessaryn {
@@ -25,7 +28,8 @@ class StatementTable {
     }
     const Statement& back() const { return (*this)[count_]; }
 
-    // The statement for writing, valid until the table is copied or grows.
+    // The statement for writing, valid until the table is copied or grows. Its rule is written
+    // ahead of all else.
     template <std::integral Line>
     Statement& Edit(Line line) {
         const std::size_t index = static_cast<std::size_t>(line) - 1;
@@ -64,6 +68,52 @@ class StatementTable {
         count_ = 0;
     }
 
+    // The nearest Premise or Conclusion from `line` on; behind the last line if there is none.
+    int BlockEdgeFrom(int line) const {
+        while (line <= count_) {
+            const std::size_t page = (static_cast<std::size_t>(line) - 1) / PageSize;
+            const int end = std::min(count_, static_cast<int>((page + 1) * PageSize));
+            if (!HasBlockEdge(*pages_[page])) {
+                line = end + 1;
+                continue;
+            }
+            for (; line <= end; ++line) {
+                if (IsBlockEdge((*this)[line])) return line;
+            }
+        }
+        return count_ + 1;
+    }
+    // The nearest one up to `line`; 0 if there is none.
+    int BlockEdgeUpTo(int line) const {
+        while (line > 0) {
+            const std::size_t page = (static_cast<std::size_t>(line) - 1) / PageSize;
+            const int start = static_cast<int>(page * PageSize) + 1;
+            if (!HasBlockEdge(*pages_[page])) {
+                line = start - 1;
+                continue;
+            }
+            for (; line >= start; --line) {
+                if (IsBlockEdge((*this)[line])) return line;
+            }
+        }
+        return 0;
+    }
+
+    // How many lines at the head, or at the end if both have as many lines, stand in pages that the
+    // two tables share, and are therefore the same in both.
+    int SharedHead(const StatementTable& other) const {
+        const auto differ =
+            std::mismatch(pages_.begin(), pages_.end(), other.pages_.begin(), other.pages_.end());
+        const auto pages = static_cast<std::size_t>(differ.first - pages_.begin());
+        return std::min({static_cast<int>(pages * PageSize), count_, other.count_});
+    }
+    int SharedTail(const StatementTable& other) const {
+        if (count_ != other.count_) return 0;
+        std::size_t page = pages_.size();
+        while (page > 0 && pages_[page - 1] == other.pages_[page - 1]) --page;
+        return std::max(count_ - static_cast<int>(page * PageSize), 0);
+    }
+
     // Reading in order of the lines.
     class Iterator {
       public:
@@ -95,7 +145,19 @@ class StatementTable {
     static constexpr std::size_t PageSize = 64;
     struct Page {
         std::vector<Statement> statements;
+        std::optional<bool> hasBlockEdge;  // kept once it has been asked for
     };
+
+    static bool IsBlockEdge(const Statement& stmt) {
+        return stmt.Rule == Rule::Premise || stmt.Rule == Rule::Conclusion;
+    }
+    static bool HasBlockEdge(Page& page) {
+        if (!page.hasBlockEdge) {
+            page.hasBlockEdge =
+                std::any_of(page.statements.begin(), page.statements.end(), IsBlockEdge);
+        }
+        return *page.hasBlockEdge;
+    }
 
     void AddPage() {
         pages_.push_back(std::make_shared<Page>());
@@ -109,6 +171,7 @@ class StatementTable {
             own->statements = page->statements;
             page = std::move(own);
         }
+        page->hasBlockEdge.reset();
         return *page;
     }
     // Drops the lines from `line` on, and gives the table as it was.

@@ -18,6 +18,9 @@ inline std::vector<int> ActiveLines() {
     return ActiveLines(InsertionLimit());
 }
 
+// Is this line one of them?
+bool IsActive(int line);
+
 // The highest active line that is an open Premise; 0 if there is none.
 int InnermostOpenPremise();
 

@@ -50,7 +50,7 @@ void StartProgram() {
     InsertMode = false;
     InsertLine = 0;
     ClearDocument();
-    CheckStoredText();
+    ResetDisplay();
     ResetUndo();
     ResetConclusion();
     GenExpression.clear();

@@ -1,18 +1,12 @@
-#include <algorithm>
-
 #include "document/Document.h"
 #include "expr/Parse.h"
 #include "mainwindow/ActiveStmts.h"
 #include "mainwindow/Proof.h"
+#include "view/Display.h"
 #include "view/InsertMode.h"
 
 namespace tessaryn {
 namespace {
-
-// Does the block of a statement hold a place of the display (1-based)?
-bool IsShownAt(const Statement& stmt, int place) {
-    return stmt.Visible && stmt.ViewerStartLine <= place && place <= ViewerEndRule(stmt);
-}
 
 // Where the text of a statement begins in the display, 0-based.
 int ViewerStartStmt(const Statement& stmt) {
@@ -84,19 +78,30 @@ std::vector<int> ActiveLines(int limit) {
     return lines;
 }
 
+bool IsActive(int line) {
+    if (line >= InsertionLimit()) return false;
+    int edge = StmtTable.BlockEdgeFrom(1);
+    while (edge <= line) {
+        const bool closed = IsClosedPremise(At(edge));
+        if (closed && line < At(edge).Arg1) return false;
+        edge = StmtTable.BlockEdgeFrom(closed ? At(edge).Arg1 : edge + 1);
+    }
+    return true;
+}
+
 int InnermostOpenPremise() {
-    const std::vector<int> lines = ActiveLines();
-    const auto found = std::find_if(lines.rbegin(), lines.rend(),
-                                    [](int line) { return IsOpenPremise(At(line)); });
-    return found == lines.rend() ? 0 : *found;
+    int innermost = 0;
+    for (int edge = StmtTable.BlockEdgeFrom(1); edge < InsertionLimit();) {
+        const Statement& stmt = At(edge);
+        if (IsOpenPremise(stmt)) innermost = edge;
+        edge = StmtTable.BlockEdgeFrom(IsClosedPremise(stmt) ? stmt.Arg1 : edge + 1);
+    }
+    return innermost;
 }
 
 void ActiveStmtAtCaret(int& stmt, std::string& text) {
-    const int place = Proof.RTB.SelStart + 1;
-    const std::vector<int> lines = ActiveLines();
-    const auto found = std::find_if(lines.begin(), lines.end(),
-                                    [&](int line) { return IsShownAt(At(line), place); });
-    stmt = found == lines.end() ? 0 : *found;
+    const int line = ShownStmtAt(Proof.RTB.SelStart + 1);
+    stmt = line > 0 && IsActive(line) ? line : 0;
     if (stmt != 0) text = StoredText(stmt);
 }
 
@@ -128,13 +133,12 @@ void SelectTokenRange(int& stmt, int& first, int& last) {
 }
 
 void BeepNoActiveStmt() {
-    const int place = Proof.RTB.SelStart + 1;
-    for (int line = 1; line <= StmtCount; ++line) {
-        if (!IsShownAt(At(line), place)) continue;
-        if (line >= InsertionLimit()) {
-            return Beep("Line " + std::to_string(line) + " is not above the insert line " +
-                        std::to_string(InsertLine) + ": click a line above it.");
-        }
+    const int line = ShownStmtAt(Proof.RTB.SelStart + 1);
+    if (line >= InsertionLimit()) {
+        return Beep("Line " + std::to_string(line) + " is not above the insert line " +
+                    std::to_string(InsertLine) + ": click a line above it.");
+    }
+    if (line > 0) {
         return Beep("Line " + std::to_string(line) +
                     " lies in a closed premise block: click an active line.");
     }

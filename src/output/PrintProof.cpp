@@ -7,6 +7,7 @@
 #include "document/Document.h"
 #include "mainwindow/Proof.h"
 #include "output/Printing.h"
+#include "view/Display.h"
 
 namespace tessaryn {
 namespace {

@@ -151,6 +151,12 @@ void RichTextBox::SetBlocks(std::string text, const std::vector<Block>& blocks,
     Select(CharStart(GetText(), Limited(selStart_)), 0);
 }
 
+void RichTextBox::SetBlocks(std::size_t first, std::size_t last, std::string_view text,
+                            const std::vector<Block>& blocks) {
+    Record(content_.SetBlocks(first, last, text, blocks));
+    Select(CharStart(GetText(), Limited(selStart_)), 0);
+}
+
 // --- attributes
 
 CharFormat RichTextBox::InsertionFormat() const {

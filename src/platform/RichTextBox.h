@@ -138,6 +138,10 @@ struct RichTextBox : Control {
     // valid and give a block the runs that belong to its key: what it reads may change only once
     // the block has been reformatted.
     void SetBlocks(std::string text, const std::vector<Block>& blocks, BlockFormatter formatter);
+    // The same for blocks first to last - 1 alone (0-based); `text` is what stands there then, and
+    // the new blocks cover it. The formatter stays, and knows all blocks by their new places.
+    void SetBlocks(std::size_t first, std::size_t last, std::string_view text,
+                   const std::vector<Block>& blocks);
 
     // --- for the front end
 

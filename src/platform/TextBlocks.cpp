@@ -95,16 +95,20 @@ TextBlocks::StoredRuns TextBlocks::Stored(const std::vector<FormatRun>& runs, in
     return stored;
 }
 
-void TextBlocks::EnsureFormatted(StoredBlock& block) {
-    if (block.pending < 0) return;
-    block.runs =
-        Stored(formatter ? formatter(block.pending) : std::vector<FormatRun>(), block.length);
+// The block, with its runs there.
+TextBlocks::StoredBlock& TextBlocks::Formatted(std::size_t index) {
+    StoredBlock& block = blocks[index];
+    if (!block.pending) return block;
+    const auto runs = formatter ? formatter(static_cast<int>(index)) : std::vector<FormatRun>();
+    block.runs = Stored(runs, block.length);
     block.runs.shrink_to_fit();
-    block.pending = -1;
+    block.pending = false;
+    return block;
 }
 
 // --- places
 
+// Of each block, and the end.
 const std::vector<int>& TextBlocks::Starts() {
     if (starts.empty()) starts.push_back(0);
     while (starts.size() <= blocks.size()) {
@@ -124,8 +128,7 @@ std::size_t TextBlocks::BlockAt(int position) {
 
 CharFormat TextBlocks::FormatAt(int position) {
     const std::size_t index = BlockAt(position);
-    StoredBlock& block = blocks[index];
-    EnsureFormatted(block);
+    const StoredBlock& block = Formatted(index);
     return formats[block.runs[RunAt(block.runs, position - Starts()[index])].format];
 }
 
@@ -134,8 +137,7 @@ std::vector<FormatRun> TextBlocks::RunsIn(int first, int last) {
     if (first >= last) return result;
     StoredRuns found;  // across blocks, so that equal neighbours join
     for (std::size_t i = BlockAt(first); i < blocks.size() && Starts()[i] < last; ++i) {
-        EnsureFormatted(blocks[i]);
-        AppendPart(found, blocks[i].runs, first - starts[i], last - starts[i]);
+        AppendPart(found, Formatted(i).runs, first - starts[i], last - starts[i]);
     }
     result.reserve(found.size());
     int start = first;
@@ -208,10 +210,9 @@ SurfaceChange TextBlocks::Replace(int start, int removed, std::string_view newTe
     if (!blocks.empty()) {
         first = BlockAt(removed > 0 ? start : std::max(start - 1, 0));
         last = removed > 0 ? BlockAt(start + removed - 1) : first;
-        EnsureFormatted(blocks[first]);
-        EnsureFormatted(blocks[last]);
+        Formatted(last);
         StoredRuns all;
-        AppendPart(all, blocks[first].runs, 0, start - starts[first]);
+        AppendPart(all, Formatted(first).runs, 0, start - starts[first]);
         AppendPart(all, merged[0].runs, 0, inserted);
         AppendPart(all, blocks[last].runs, start + removed - starts[last], blocks[last].length);
         merged[0].runs = std::move(all);
@@ -256,8 +257,7 @@ SurfaceChange TextBlocks::Reformat(int start, int length, const Reformatter& ref
     if (length <= 0) return change;
     const int end = start + length;
     for (std::size_t i = BlockAt(start); i < blocks.size() && Starts()[i] < end; ++i) {
-        StoredBlock& block = blocks[i];
-        EnsureFormatted(block);
+        StoredBlock& block = Formatted(i);
         const int offset = starts[i];
         SurfaceChange part = ReformatBlock(block, std::max(start - offset, 0),
                                            std::min(end - offset, block.length), reformatter);
@@ -269,7 +269,7 @@ SurfaceChange TextBlocks::Reformat(int start, int length, const Reformatter& ref
 
 // --- the display's blocks
 
-bool TextBlocks::SameBlock(const StoredBlock& old, int oldStart, const std::string& newText,
+bool TextBlocks::SameBlock(const StoredBlock& old, int oldStart, std::string_view newText,
                            const Block& block, int newStart) const {
     return old.key == block.key && old.length == block.length && !old.edited &&
            std::memcmp(text.data() + oldStart, newText.data() + newStart,
@@ -305,44 +305,46 @@ std::optional<std::vector<TextBlocks::Block>> Fitted(const std::vector<TextBlock
 
 SurfaceChange TextBlocks::SetBlocks(std::string newText, const std::vector<Block>& newBlocks,
                                     Formatter newFormatter) {
-    const int newLength = static_cast<int>(newText.size());
-    const auto fitted = Fitted(newBlocks, newLength);
-    const std::vector<Block>& given = fitted ? *fitted : newBlocks;
+    const auto fitted = Fitted(newBlocks, static_cast<int>(newText.size()));
+    formatter = std::move(newFormatter);
+    return SetBlocks(0, blocks.size(), newText, fitted ? *fitted : newBlocks);
+}
 
-    const std::size_t most = std::min(blocks.size(), given.size());
+SurfaceChange TextBlocks::SetBlocks(std::size_t first, std::size_t last, std::string_view newText,
+                                    const std::vector<Block>& newBlocks) {
+    const int offset = Starts()[first];
+    const std::size_t most = std::min(last - first, newBlocks.size());
     std::size_t head = 0;
     int start = 0;
-    while (head < most && SameBlock(blocks[head], start, newText, given[head], start)) {
-        start += given[head].length;
+    while (head < most &&
+           SameBlock(blocks[first + head], offset + start, newText, newBlocks[head], start)) {
+        start += newBlocks[head].length;
         ++head;
     }
     std::size_t tail = 0;
-    int oldEnd = Length();
-    int newEnd = newLength;
+    int oldEnd = Starts()[last];
+    int newEnd = static_cast<int>(newText.size());
     while (tail < most - head) {
-        const Block& block = given[given.size() - tail - 1];
-        const StoredBlock& old = blocks[blocks.size() - tail - 1];
+        const Block& block = newBlocks[newBlocks.size() - tail - 1];
+        const StoredBlock& old = blocks[last - tail - 1];
         if (!SameBlock(old, oldEnd - old.length, newText, block, newEnd - block.length)) break;
         oldEnd -= block.length;
         newEnd -= block.length;
         ++tail;
     }
-
-    const std::size_t oldTail = blocks.size() - tail;
-    const std::size_t newTail = given.size() - tail;
-    std::vector<StoredBlock> fresh(newTail - head);
+    std::vector<StoredBlock> fresh(newBlocks.size() - tail - head);
     for (std::size_t i = 0; i < fresh.size(); ++i) {
-        fresh[i].key = given[head + i].key;
-        fresh[i].length = given[head + i].length;
-        fresh[i].pending = 0;
+        fresh[i].key = newBlocks[head + i].key;
+        fresh[i].length = newBlocks[head + i].length;
+        fresh[i].pending = true;
     }
-    ReplaceBlocks(head, oldTail, std::move(fresh));
-    for (std::size_t i = 0; i < blocks.size(); ++i) {
-        if (blocks[i].pending >= 0) blocks[i].pending = static_cast<int>(i);
-    }
-    text = std::move(newText);
-    formatter = std::move(newFormatter);
-    return {oldEnd > start || newEnd > start, start, oldEnd - start, newEnd - start};
+    ReplaceBlocks(first + head, last - tail, std::move(fresh));
+    const int removed = oldEnd - offset - start;
+    const int inserted = newEnd - start;
+    text.replace(
+        static_cast<std::size_t>(offset + start), static_cast<std::size_t>(removed),
+        newText.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(inserted)));
+    return {removed > 0 || inserted > 0, offset + start, removed, inserted};
 }
 
 }  // namespace tessaryn

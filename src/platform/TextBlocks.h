@@ -63,6 +63,10 @@ struct TextBlocks {
     SurfaceChange Reformat(int start, int length, const Reformatter& reformatter);
     SurfaceChange SetBlocks(std::string newText, const std::vector<Block>& newBlocks,
                             Formatter newFormatter);
+    // The same for blocks first to last - 1 alone (0-based); newText is what stands there then, and
+    // the new blocks cover it. The formatter stays.
+    SurfaceChange SetBlocks(std::size_t first, std::size_t last, std::string_view newText,
+                            const std::vector<Block>& newBlocks);
 
   private:
     struct StoredRun {
@@ -74,8 +78,8 @@ struct TextBlocks {
     struct StoredBlock {
         std::uint64_t key = 0;
         int length = 0;
-        int pending = -1;     // number that the formatter knows it by; -1: runs are there
-        bool edited = false;  // changed since it was given, so that its key says nothing any more
+        bool pending = false;  // the formatter has not been asked for its runs
+        bool edited = false;   // changed since it was given, so that its key says nothing any more
         StoredRuns runs;
     };
 
@@ -84,12 +88,12 @@ struct TextBlocks {
     static void AppendPart(StoredRuns& runs, const StoredRuns& source, int first, int last);
     static std::vector<StoredBlock> Pieces(const StoredRuns& runs, int length);
     StoredRuns Stored(const std::vector<FormatRun>& runs, int length);
-    void EnsureFormatted(StoredBlock& block);
+    StoredBlock& Formatted(std::size_t index);
     const std::vector<int>& Starts();
     std::size_t BlockAt(int position);
     SurfaceChange ReformatBlock(StoredBlock& block, int first, int last,
                                 const Reformatter& reformatter);
-    bool SameBlock(const StoredBlock& old, int oldStart, const std::string& newText,
+    bool SameBlock(const StoredBlock& old, int oldStart, std::string_view newText,
                    const Block& block, int newStart) const;
     void ReplaceBlocks(std::size_t first, std::size_t last, std::vector<StoredBlock> replacement);
 

@@ -43,8 +43,7 @@ void Refuse(const std::string& message) {
 
 // The innermost open premise, if the line above the insertion point is in force; 0 otherwise.
 int FindPremise(int line) {
-    const std::vector<int> lines = ActiveLines();
-    return lines.empty() || lines.back() != line - 1 ? 0 : InnermostOpenPremise();
+    return line > 1 && IsActive(line - 1) ? InnermostOpenPremise() : 0;
 }
 
 bool ParseLine(int line) {

@@ -27,8 +27,15 @@ inline constexpr Colour FreeGreen = Rgb(0, 175, 0);
 // changed is handed on, and a statement is lexed and coloured when its place is first looked at.
 void ResetFonts();
 
+// The statement whose block holds a place of the display, 1-based; 0 if none does. The line ends
+// behind the annotation belong to no block.
+int ShownStmtAt(int place);
+
 // "", or how the display differs from one that is built from nothing. Changes nothing.
 std::string CheckDisplay();
+
+// Forgets what was shown: the surface is a new one.
+void ResetDisplay();
 
 // Lexes all stored text. A statement that can't be lexed, which only a damaged file can hold, is
 // reported by this and by each ResetFonts from then on until a sound document replaces it.

@@ -3,6 +3,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "view/Delete.h"
+#include "view/Display.h"
 #include "view/Undo.h"
 
 namespace tessaryn {

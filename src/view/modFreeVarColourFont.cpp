@@ -11,18 +11,11 @@ namespace {
 // The innermost premise around a statement, itself included; 0 if there is none. Closed blocks
 // ahead of it are jumped over.
 int InnermostPremise(int stmt) {
-    int i = stmt;
-    while (i >= 1) {
-        const Statement& here = At(i);
-        if (IsConclusion(here)) {
-            i = here.Arg1 - 1;
-        } else if (here.Rule == 1) {
-            return i;
-        } else {
-            --i;
-        }
+    int edge = StmtTable.BlockEdgeUpTo(stmt);
+    while (edge > 0 && IsConclusion(At(edge))) {
+        edge = StmtTable.BlockEdgeUpTo(At(edge).Arg1 - 1);
     }
-    return 0;
+    return edge;
 }
 
 // Takes out of `names` those that occur free ahead of line `limit`, outside closed blocks.

@@ -212,16 +212,14 @@ struct Content {
     std::vector<int> numbers;  // of each block's statement
 };
 
-Content ContentFromDocument() {
+Content ContentOf(int firstLine, int lastLine) {
     Content content;
-    content.text.reserve(ProofText.size());
-    content.blocks.reserve(static_cast<std::size_t>(StmtCount) + 1);
-    if (IntroEnd > 0) {
+    if (firstLine == 1 && IntroEnd > 0) {
         AppendIntroduction(content.text);
         content.blocks.push_back({IntroEnd + 4, static_cast<std::uint64_t>(StmtFontSize)});
         content.numbers.push_back(Introduction);
     }
-    for (int number = 1; number <= StmtCount; ++number) {
+    for (int number = firstLine; number <= lastLine; ++number) {
         const Statement& stmt = At(number);
         if (!stmt.Visible) continue;
         AppendBlock(content.text, stmt);
@@ -229,6 +227,62 @@ Content ContentFromDocument() {
         content.numbers.push_back(number);
     }
     return content;
+}
+
+// --- what has changed since the last time
+
+// What the display was built from. What the open document still shares with it looks the same.
+struct Shown {
+    Document document;
+    int fontSize = 0;
+    std::uint64_t revision = 0;  // of the surface then; another: something else has written to it
+};
+Shown LastShown;
+
+// The lines at the head that look as they did, and those at the end.
+struct Unchanged {
+    int head = 0;
+    int tail = 0;
+};
+
+Unchanged LinesThatLookTheSame() {
+    const Document& old = LastShown.document;
+    if (LastShown.fontSize != StmtFontSize || old.IntroEnd != IntroEnd ||
+        LastShown.revision != Proof.RTB.ContentRevision()) {
+        return {};
+    }
+    Unchanged lines{StmtTable.SharedHead(old.StmtTable), 0};
+    if (lines.head == 0) return {};
+    if (ProofText.SharesBytes(old.ProofText)) {
+        if (ProofText.size() == old.ProofText.size()) {
+            lines.tail = std::min(StmtTable.SharedTail(old.StmtTable), StmtCount - lines.head);
+        }
+        return lines;
+    }
+    const auto length = static_cast<std::size_t>(At(lines.head).EndRule);
+    const bool same = ProofText.View().substr(0, length) == old.ProofText.View().substr(0, length);
+    return same ? lines : Unchanged();
+}
+
+// Replaces the blocks of the lines between those that look the same.
+void RedrawBetween(const Unchanged& same) {
+    const int behind = StmtCount - same.tail + 1;
+    Content content = ContentOf(same.head + 1, behind - 1);
+    const auto first = std::upper_bound(ShownBlocks.begin(), ShownBlocks.end(), same.head);
+    // Without lines at the end that look the same, old blocks may bear numbers that are gone.
+    const auto last =
+        same.tail > 0 ? std::lower_bound(first, ShownBlocks.end(), behind) : ShownBlocks.end();
+    const auto firstBlock = static_cast<std::size_t>(first - ShownBlocks.begin());
+    const auto lastBlock = static_cast<std::size_t>(last - ShownBlocks.begin());
+    ShownBlocks.insert(ShownBlocks.erase(first, last), content.numbers.begin(),
+                       content.numbers.end());
+    Proof.RTB.SetBlocks(firstBlock, lastBlock, content.text, content.blocks);
+}
+
+void RedrawAll() {
+    Content content = ContentOf(1, StmtCount);
+    ShownBlocks = std::move(content.numbers);
+    Proof.RTB.SetBlocks(std::move(content.text), content.blocks, BlockRuns);
 }
 
 // Where two rows of runs that cover the same text differ first, in words.
@@ -243,16 +297,31 @@ std::string Difference(const std::vector<FormatRun>& shown, const std::vector<Fo
 }  // namespace
 
 void ResetFonts() {
-    Content content = ContentFromDocument();
-    Proof.RTB.SetBlocks(std::move(content.text), content.blocks, BlockRuns);
-    ShownBlocks = std::move(content.numbers);
+    const Unchanged same = LinesThatLookTheSame();
+    same.head > 0 ? RedrawBetween(same) : RedrawAll();
+    LastShown = {Doc, StmtFontSize, Proof.RTB.ContentRevision()};
     Proof.RTB.SelLength = 0;
     Proof.StatusLine.SelAlignment = Alignment::Center;
     if (StoredTextIsDamaged) ReportDamagedStatements();
 }
 
+void ResetDisplay() {
+    ShownBlocks.clear();
+    StoredTextIsDamaged = false;
+    LastShown = {};
+}
+
+int ShownStmtAt(int place) {
+    const auto behind = std::partition_point(
+        ShownBlocks.begin(), ShownBlocks.end(),
+        [&](int number) { return number == Introduction || At(number).ViewerStartLine <= place; });
+    if (behind == ShownBlocks.begin()) return 0;
+    const int number = *(behind - 1);
+    return number != Introduction && place <= ViewerEndRule(At(number)) ? number : 0;
+}
+
 std::string CheckDisplay() {
-    Content content = ContentFromDocument();
+    Content content = ContentOf(1, StmtCount);
     if (content.text != Proof.RTB.GetText()) {
         return "the display's text differs from that of a rebuild";
     }

@@ -13,6 +13,7 @@
 #include "mainwindow/TestParser.h"
 #include "output/WrittenProof.h"
 #include "view/Delete.h"
+#include "view/Display.h"
 #include "view/Undo.h"
 
 namespace tessaryn {
@@ -113,6 +114,7 @@ TEST(Limits, TheLastStatementIsRefusedBeforeAnythingIsWritten) {
     StartProof();
     while (StmtCount < MaxStatements - 2) AddLine("P & Q & R", Rule::Premise);
     RelayoutViewer();
+    ResetFonts();
     ProofChanged = false;
     RuleMode = 15;
     Proof.RTB.SelStart = 0;

@@ -5,6 +5,7 @@
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
 #include "mainwindow/Proof.h"
+#include "view/Display.h"
 #include "view/InsertMode.h"
 
 namespace tessaryn {
