@@ -33,7 +33,6 @@ class ProofDisplay : public QAbstractScrollArea {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -71,9 +70,6 @@ class ProofDisplay : public QAbstractScrollArea {
     void DragTo(const QPoint& place);
     void LeaveBlockEnd();
     void DoubleClickAtCaret();
-    void HoldClick();
-    bool DropHeldClick();
-    void SendHeldClick();
 
     RichTextBox& box_;
     LineIndex index_;
@@ -95,7 +91,6 @@ class ProofDisplay : public QAbstractScrollArea {
     bool pressed_ = false;      // the left button is down since a press on the display
     bool dragging_ = false;     // and the pointer has been moved
     bool secondPress_ = false;  // that press was the second of a double click
-    QBasicTimer heldClick_;     // runs while a click may still become a double click
     QPoint pressPlace_;
     int pressBoundary_ = 0;
     int formsAtPress_ = 0;

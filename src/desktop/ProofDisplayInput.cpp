@@ -1,5 +1,4 @@
 // Mouse and keyboard of the proof display.
-#include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -141,40 +140,6 @@ void ProofDisplay::DoubleClickAtCaret() {
     Dispatch([this] { SendDoubleClick(box_, caret_); });
 }
 
-// --- a click that may be the first half of a double click
-
-// It is sent when the time for the second half is over, or ahead of the user's next input.
-void ProofDisplay::HoldClick() {
-    heldClick_.start(QApplication::doubleClickInterval(), this);
-    qApp->installEventFilter(this);
-}
-
-bool ProofDisplay::DropHeldClick() {
-    if (!heldClick_.isActive()) return false;
-    heldClick_.stop();
-    qApp->removeEventFilter(this);
-    return true;
-}
-
-void ProofDisplay::SendHeldClick() {
-    if (DropHeldClick()) Dispatch([this] { SendRelease(box_); });
-}
-
-bool ProofDisplay::eventFilter(QObject* watched, QEvent* event) {
-    switch (event->type()) {
-        case QEvent::MouseButtonPress:
-        case QEvent::KeyPress:
-        case QEvent::ShortcutOverride:
-        case QEvent::WindowDeactivate:
-        case QEvent::Close:
-            SendHeldClick();
-            break;
-        default:
-            break;
-    }
-    return QAbstractScrollArea::eventFilter(watched, event);
-}
-
 // --- mouse
 
 void ProofDisplay::mousePressEvent(QMouseEvent* event) {
@@ -235,10 +200,6 @@ void ProofDisplay::mouseReleaseEvent(QMouseEvent* event) {
     pressed_ = dragging_ = secondPress_ = false;
     autoScroll_.stop();
     offer_.start(SettlePause, this);
-    const bool plain = !second && box_.SelLength == 0;
-    if (plain && box_.AwaitsDoubleClick && box_.AwaitsDoubleClick(box_.SelStart)) {
-        return HoldClick();
-    }
     Dispatch([this, second] {
         if (!second) {
             SendRelease(box_);
@@ -256,11 +217,8 @@ void ProofDisplay::mouseDoubleClickEvent(QMouseEvent* event) {
     dragging_ = false;
     pressPlace_ = event->position().toPoint();
     pressBoundary_ = BoundaryAt(pressPlace_);
-    // Both halves in one event, so that nothing of the first shows by itself.
-    const bool held = DropHeldClick();
-    Dispatch([this, held] {
-        if (held && box_.Click) box_.Click();
-        if (FormsShown == formsAtPress_ && box_.DblClick) box_.DblClick();
+    Dispatch([this] {
+        if (box_.DblClick) box_.DblClick();
     });
 }
 
@@ -286,9 +244,7 @@ void ProofDisplay::focusOutEvent(QFocusEvent* event) {
 }
 
 void ProofDisplay::timerEvent(QTimerEvent* event) {
-    if (event->timerId() == heldClick_.timerId()) {
-        SendHeldClick();
-    } else if (event->timerId() == blink_.timerId()) {
+    if (event->timerId() == blink_.timerId()) {
         caretShown_ = !caretShown_;
         viewport()->update(CaretRect(caret_));
     } else if (event->timerId() == offer_.timerId()) {

@@ -84,10 +84,6 @@ ProofForm::ProofForm() : Form("Proof") {
 void ProofForm::ListenToDisplay() {
     RTB.Click = [] { RunHandler(ClickInDisplay); };
     RTB.DblClick = [] { RunHandler(ToggleDetailBlock); };
-    RTB.AwaitsDoubleClick = [](int position) {
-        const bool clicksFold = RuleMode == 0 || RuleMode == ToggleHighlightMode;
-        return clicksFold && NumberAt(position + 1) > 0;
-    };
     RTB.MouseMove = [this] { Extension.MouseMoved(RTB, Timer1); };
     Timer1.Tick = [this] { Extension.Tick(RTB, Timer1); };
     RTB.MouseUp = [this](MouseButton button) {

@@ -92,9 +92,6 @@ struct RichTextBox : Control {
 
     EventHandler Click;
     EventHandler DblClick;
-    // Would a double click at a position undo the click that begins it? A front end that can wait
-    // then holds the click back until it knows which of the two it is.
-    std::function<bool(int position)> AwaitsDoubleClick;
     EventHandler Change;  // the user has edited the text (not: the program has)
     // Text comes in from elsewhere, to take the place of the selection. Empty: none is let in.
     std::function<void(const Clip&)> Pasted;

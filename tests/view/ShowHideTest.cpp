@@ -119,10 +119,6 @@ TEST(ShowHide, AClickOnANumberMakesItBold) {
     EXPECT_FALSE(At(6).Highlight) << "a double click leaves it as it was";
     ASSERT_EQ(Build(NestedBlocks() + "choose optCopyStatement\ndoubleclick 11 number\n"), "");
     EXPECT_FALSE(At(11).Highlight) << "the rule took the click";
-    ASSERT_EQ(Build(NestedBlocks() + "choose optToggleHighlight\n"), "");
-    EXPECT_TRUE(Proof.RTB.AwaitsDoubleClick(number));
-    ASSERT_EQ(Build(NestedBlocks() + "choose optSplit\n"), "");
-    EXPECT_FALSE(Proof.RTB.AwaitsDoubleClick(number)) << "a rule takes it at once";
     ASSERT_EQ(Build(NestedBlocks() + "click 5 number\nclick 2 number\n"), "");
     EXPECT_TRUE(At(5).Highlight) << "a Premise stays highlighted";
     EXPECT_FALSE(At(2).Highlight);
