@@ -92,8 +92,7 @@ const char* AnswerName(Answer answer) {
 }
 
 void ShowModal(Form& form) {
-    ++FormsShown;
-    form.Visible = true;
+    form.Show();
     const ModalScope scope(form);
     form.Activated();
     while (form.Visible) {
@@ -102,8 +101,7 @@ void ShowModal(Form& form) {
 }
 
 void ShowModeless(Form& form) {
-    ++FormsShown;
-    form.Visible = true;
+    form.Show();
     std::erase_if(Headless.Forms, [&](const OpenForm& open) { return open.form == &form; });
     Headless.Forms.push_back({&form, false});
     form.Activated();

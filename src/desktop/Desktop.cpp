@@ -32,8 +32,7 @@ DesktopState& State() {
 }
 
 FormWindow& Present(Form& form, bool modal) {
-    ++FormsShown;
-    form.Visible = true;
+    form.Show();
     QWidget* below = TopWindow();
     SyncWindows();
     FormWindow& window = WindowOf(form);

@@ -98,9 +98,6 @@ void FormWindow::MakeWindow(WindowKind kind, QWidget* parent) {
 
 void FormWindow::BindControls() {
     for (const auto& [widget, control] : controls_) widget->installEventFilter(this);
-    auto* standard = form_.DefaultButton;
-    if (standard == nullptr) return;
-    if (auto* button = qobject_cast<QPushButton*>(WidgetOf(*standard))) button->setDefault(true);
 }
 
 // --- menus
@@ -147,10 +144,15 @@ QMenu* FormWindow::MenuOf(const MenuItem& item) const {
 void FormWindow::Show(bool modal) {
     window_->setWindowModality(modal ? Qt::WindowModal : Qt::NonModal);
     Sync();
+    // A window that appears gives the focus back to what had it last.
+    if (QWidget* last = window_->focusWidget()) last->clearFocus();
     window_->show();
     window_->raise();
     window_->activateWindow();
-    if (form_.ActiveControl != nullptr) return;
+    if (form_.ActiveControl == nullptr) FocusFirst();
+}
+
+void FormWindow::FocusFirst() {
     for (const Control* control : form_.Controls) {
         QWidget* widget = WidgetOf(*control);
         if (widget == nullptr || !control->Visible || !control->Enabled) continue;
@@ -196,9 +198,23 @@ void FormWindow::Sync() {
 }
 
 void FormWindow::SyncFocus() {
+    MarkDefault();
     if (form_.ActiveControl == nullptr) return;
     QWidget* widget = WidgetOf(*form_.ActiveControl);
     if (widget != nullptr && window_->focusWidget() != widget) widget->setFocus();
+}
+
+// The button that Enter presses: the one that has the focus, else the form's own.
+void FormWindow::MarkDefault() {
+    const auto pushButton = [this](const Control* control) {
+        return control == nullptr ? nullptr : qobject_cast<QPushButton*>(WidgetOf(*control));
+    };
+    QPushButton* standard = pushButton(form_.ActiveControl);
+    if (standard == nullptr) standard = pushButton(form_.DefaultButton);
+    for (const auto& [widget, control] : controls_) {
+        auto* button = qobject_cast<QPushButton*>(widget);
+        if (button != nullptr) button->setDefault(button == standard);
+    }
 }
 
 QWidget* FormWindow::WidgetOf(const Control& control) const {
@@ -235,6 +251,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     const auto found = controls_.find(watched);
     if (event->type() == QEvent::FocusIn && found != controls_.end()) {
         form_.ActiveControl = found->second;
+        MarkDefault();
     }
     if (event->type() == QEvent::MouseButtonPress && watched == window_) {
         Dispatch([this] { form_.Clicked(); });

@@ -60,7 +60,9 @@ class FormWindow : public QObject {
     void MarkMenus();
     bool OpenFirstMenu();
     void SetTabOrder();
+    void FocusFirst();
     void SyncFocus();
+    void MarkDefault();
     bool KeyPressed(QObject* watched, QKeyEvent& event);
 
     Form& form_;

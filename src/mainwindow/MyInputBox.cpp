@@ -58,11 +58,6 @@ MyInputBoxForm::MyInputBoxForm() : Form("MyInputBox") {
     Continue.Click = [this] { ContinuePressed(); };
     Cancel.Click = [this] { Close(); };
     DefaultButton = &Continue;
-    Text1.KeyPress = [this](const KeyEvent& key) {
-        if (key.key != Key::Enter) return false;
-        ContinuePressed();
-        return true;
-    };
 }
 
 void MyInputBoxForm::Activated() {

@@ -7,10 +7,6 @@
 
 namespace tessaryn {
 
-// How many forms have been shown since the start; a front end counts each ShowModal and
-// ShowModeless.
-inline int FormsShown = 0;
-
 // Sends a key to the form and, if it does not take it, to the control with the focus. True if
 // either dealt with it; otherwise the control's own editing applies.
 bool SendKey(Form& form, Control* focus, const KeyEvent& key);

@@ -14,6 +14,12 @@ bool Form::KeyPressed(const KeyEvent& key) {
     return true;
 }
 
+void Form::Show() {
+    ++FormsShown;
+    Visible = true;
+    ActiveControl = nullptr;
+}
+
 Control* Form::Find(const std::string& name) const {
     auto found = std::find_if(Controls.begin(), Controls.end(),
                               [&](const Control* control) { return control->Name == name; });

@@ -14,6 +14,8 @@ namespace tessaryn {
 
 enum class Pointer { Default, Hourglass };
 
+inline int FormsShown = 0;  // calls of Form::Show since the start
+
 struct Form {
     explicit Form(std::string name, std::string caption = "");
     Form(const Form&) = delete;
@@ -30,6 +32,8 @@ struct Form {
     // The user closes the window. A form that stays open leaves Visible set.
     virtual void Close() { Hide(); }
 
+    // Each showing starts with the form's own first focus, wherever an earlier one ended.
+    void Show();
     void Hide() { Visible = false; }
 
     // The control of that name, nullptr if there is none.

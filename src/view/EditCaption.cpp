@@ -26,7 +26,7 @@ EditCaptionForm::EditCaptionForm() : Form("EditCaption", "Edit Caption") {
     DefaultButton = &Continue;
     Continue.Click = [this] { RunHandler([this] { ContinuePressed(); }); };
     Cancel.Click = [this] { Hide(); };
-    Clear.Click = [this] { Show(""); };
+    Clear.Click = [this] { Fill(""); };
     RTB.KeyDown = [this](const KeyEvent& key) {
         if (key.key == Key::Enter) {
             Continue.Click();
@@ -48,10 +48,10 @@ EditCaptionForm::EditCaptionForm() : Form("EditCaption", "Edit Caption") {
 }
 
 void EditCaptionForm::Activated() {
-    Show(ProofCaption);
+    Fill(ProofCaption);
 }
 
-void EditCaptionForm::Show(const std::string& text) {
+void EditCaptionForm::Fill(const std::string& text) {
     RTB.TextRTF = "";
     RTB.SelFontName = StatementFont;
     RTB.SelFontSize = StmtFontSize;

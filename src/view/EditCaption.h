@@ -17,7 +17,7 @@ struct EditCaptionForm : Form {
     Button Clear{*this, "Clear", "Clear"};
 
   private:
-    void Show(const std::string& text);
+    void Fill(const std::string& text);
     void ContinuePressed();
 };
 

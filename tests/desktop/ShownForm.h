@@ -32,9 +32,10 @@ inline bool ClosedBy(Form& form, const std::function<void(QWidget&)>& act) {
     return closed;
 }
 
+}  // namespace tessaryn
+
+// Not where the form Find is.
 template <class Widget>
 Widget& Find(QWidget& window, const char* name) {
     return *window.findChild<Widget*>(QString::fromLatin1(name));
 }
-
-}  // namespace tessaryn
