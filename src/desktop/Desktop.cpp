@@ -81,21 +81,22 @@ void SyncWindows() {
 
 QWidget* TopWindow() {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-    return State().main != nullptr ? &State().main->Window() : nullptr;
+    return MainWindow();
 }
 
 FormWindow& WindowOf(Form& form) {
     auto& window = State().windows[&form];
-    if (!window) {
-        QWidget* parent = State().main != nullptr ? &State().main->Window() : nullptr;
-        window = std::make_unique<FormWindow>(form, WindowKind::Dialogue, parent);
-    }
+    if (!window) window = std::make_unique<FormWindow>(form, WindowKind::Dialogue, MainWindow());
     return *window;
 }
 
 QWidget* WidgetOf(const Control& control) {
     const auto found = State().windows.find(&control.Parent);
     return found == State().windows.end() ? nullptr : found->second->WidgetOf(control);
+}
+
+QWidget* MainWindow() {
+    return State().main != nullptr ? &State().main->Window() : nullptr;
 }
 
 void ShowMainWindow(Form& form) {

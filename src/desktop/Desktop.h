@@ -28,6 +28,7 @@ FormWindow& WindowOf(Form& form);
 // What stands for a control on the screen; nullptr if nothing does.
 QWidget* WidgetOf(const Control& control);
 
+QWidget* MainWindow();  // nullptr while there is none
 // What a new window stands in front of: the box that is waited for, else the main window; nullptr
 // if there is neither. Never the manual, which holds up nothing and is held up by nothing.
 QWidget* TopWindow();

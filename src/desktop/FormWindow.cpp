@@ -1,5 +1,6 @@
 #include "desktop/FormWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QKeyEvent>
@@ -9,9 +10,11 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <algorithm>
+#include <optional>
 
 #include "desktop/Bindings.h"
 #include "desktop/Desktop.h"
+#include "desktop/EscRun.h"
 #include "desktop/HelpViewer.h"
 #include "desktop/Keys.h"
 #include "desktop/Layouts.h"
@@ -54,6 +57,60 @@ class FormDialogue : public QDialog {
     }
 
   private:
+    Form& form_;
+};
+
+// Esc closes one menu after the other and leaves the menu bar with the last: the next key is for
+// what had the focus before.
+class FormMenu : public QMenu {
+  public:
+    FormMenu(QMenuBar& bar, QWidget* parent) : QMenu(parent), bar_(bar) {}
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        QMenu::keyPressEvent(event);
+        if (event->key() != Qt::Key_Escape || QApplication::activePopupWidget() != nullptr) return;
+        if (!bar_.hasFocus()) return;
+        QKeyEvent leave(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(&bar_, &leave);
+        EscHasLeftMenuBar();
+    }
+
+  private:
+    QMenuBar& bar_;
+};
+
+// While it lives, whatever the user does goes to a form, whichever window it is done in.
+class InputCatcher : public QObject {
+  public:
+    explicit InputCatcher(Form& form) : form_(form) { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        switch (event->type()) {
+            case QEvent::ShortcutOverride:
+                event->accept();  // no shortcut, but a key like any other
+                return true;
+            case QEvent::KeyPress:
+                Press(KeyOf(*static_cast<QKeyEvent*>(event)).value_or(KeyEvent{}));
+                return true;
+            case QEvent::MouseButtonRelease:
+                Dispatch([this] { form_.Clicked(); });
+                return true;
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonDblClick:
+            case QEvent::Wheel:
+                return true;
+            default:
+                return false;
+        }
+    }
+
+  private:
+    void Press(const KeyEvent& key) {
+        if (key.key == Key::Esc) EscHasClosedSomething();
+        DispatchKey(form_, nullptr, key);
+    }
+
     Form& form_;
 };
 
@@ -112,7 +169,7 @@ void FormWindow::BuildMenus() {
 }
 
 QMenu* FormWindow::BuildMenu(MenuItem& title) {
-    auto* menu = new QMenu(window_);
+    auto* menu = new FormMenu(*menuBar_, window_);
     menus_[&title] = menu;
     menu->setToolTipsVisible(true);
     bindings_.push_back(BindItem(title, *menu->menuAction()));
@@ -142,7 +199,9 @@ QMenu* FormWindow::MenuOf(const MenuItem& item) const {
 // --- showing
 
 void FormWindow::Show(bool modal) {
-    window_->setWindowModality(modal ? Qt::WindowModal : Qt::NonModal);
+    // What takes all input needs the others' windows to get theirs.
+    const bool blocks = modal && !form_.TakesAllInput;
+    window_->setWindowModality(blocks ? Qt::WindowModal : Qt::NonModal);
     Sync();
     // A window that appears gives the focus back to what had it last.
     if (QWidget* last = window_->focusWidget()) last->clearFocus();
@@ -163,6 +222,8 @@ void FormWindow::FocusFirst() {
 }
 
 void FormWindow::RunUntilHidden() {
+    std::optional<InputCatcher> catcher;
+    if (form_.TakesAllInput) catcher.emplace(form_);
     QEventLoop loop;
     loop_ = &loop;
     if (form_.Visible && !Ending()) loop.exec();
@@ -253,9 +314,6 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
         form_.ActiveControl = found->second;
         MarkDefault();
     }
-    if (event->type() == QEvent::MouseButtonPress && watched == window_) {
-        Dispatch([this] { form_.Clicked(); });
-    }
     if (event->type() == QEvent::WindowActivate && watched == window_) WindowCameToFront(*window_);
     if (event->type() == QEvent::KeyPress) {
         return KeyPressed(watched, *static_cast<QKeyEvent*>(event));
@@ -267,7 +325,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 // widget leaves alone comes by a second time, at the window.
 bool FormWindow::KeyPressed(QObject* watched, QKeyEvent& event) {
     // Esc held down takes back one thing, not one after the other to the end of the program.
-    if (event.isAutoRepeat() && event.key() == Qt::Key_Escape) return true;
+    if (event.key() == Qt::Key_Escape && IsRepeated(event)) return true;
     const auto found = controls_.find(watched);
     if (found == controls_.end() && window_->focusWidget() != nullptr) return false;
     Control* focus = found == controls_.end() ? nullptr : found->second;
@@ -276,10 +334,9 @@ bool FormWindow::KeyPressed(QObject* watched, QKeyEvent& event) {
         OpenManual();
         return true;
     }
-    const auto key = KeyOf(event);
+    auto key = KeyOf(event);
+    if (key && key->key == Key::Esc && window_ == MainWindow()) key->spent = EscIsSpent();
     if (key && DispatchKey(form_, focus, *key)) return true;
-    // A key without a meaning is still any key to a form in which nothing takes keys.
-    if (!key && focus == nullptr && DispatchKey(form_, nullptr, KeyEvent{})) return true;
     if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::NoModifier) return OpenFirstMenu();
     const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     auto* button = qobject_cast<QAbstractButton*>(watched);

@@ -69,9 +69,11 @@ class Note : public QLabel {
         wait_.start(ShownFor + PerCharacter * static_cast<int>(reason.size()));
     }
 
+    bool Stands() const { return !isHidden() && fade_.state() != QAbstractAnimation::Running; }
+
     void Fade() {
         wait_.stop();
-        if (isHidden() || fade_.state() == QAbstractAnimation::Running) return;
+        if (!Stands()) return;
         fade_.setStartValue(windowOpacity());
         fade_.start();
     }
@@ -201,6 +203,10 @@ void FadeNote() {
 
 QString NoteShown() {
     return Shown && Shown->isVisible() ? Shown->text() : QString();
+}
+
+bool NoteStands() {
+    return Shown && Shown->Stands();
 }
 
 void ForgetNote() {

@@ -12,6 +12,7 @@ QFont TellingFont();
 
 void FadeNote();      // lets it go; the user has moved on
 QString NoteShown();  // its text, "" if there is none
+bool NoteStands();    // one is in sight and has not been let go
 void ForgetNote();    // at the end, while there is still an application
 
 }  // namespace tessaryn

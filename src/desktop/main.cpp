@@ -9,6 +9,7 @@
 #include <string>
 
 #include "desktop/Desktop.h"
+#include "desktop/EscRun.h"
 #include "desktop/FormWindow.h"
 #include "desktop/InputWatch.h"
 #include "desktop/Messages.h"
@@ -94,6 +95,7 @@ int main(int argc, char* argv[]) {
     QApplication::setQuitOnLastWindowClosed(false);
     SubstituteFonts();
     WatchInput(FadeNote);
+    WatchEsc();
 
     QApplication::setWindowIcon(QIcon(ProgramPicture(128)));
 

@@ -32,7 +32,7 @@ void CheckInDebugBuild() {
 }
 
 // Esc with nothing pending ends the program, by way of the save question.
-void EscInMainWindow() {
+void EscInMainWindow(const KeyEvent& key) {
     if (Proof.RTB.SelLength > 0) {
         Proof.RTB.SelLength = 0;
     } else if (RuleMode != 0) {
@@ -42,7 +42,7 @@ void EscInMainWindow() {
     } else if (InsertMode && InsertLine == 0) {
         EndInsertMode();
         SetPrompt("");
-    } else {
+    } else if (!key.spent) {
         ExitCommand();
     }
 }
@@ -124,7 +124,7 @@ void ProofForm::Activated() {
 
 bool ProofForm::KeyPressed(const KeyEvent& key) {
     if (key.key != Key::Esc) return false;
-    RunHandler(EscInMainWindow);
+    RunHandler([&key] { EscInMainWindow(key); });
     return true;
 }
 

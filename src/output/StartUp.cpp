@@ -3,6 +3,7 @@
 namespace tessaryn {
 
 StartUpForm::StartUpForm() : Form("StartUp", "Tessaryn") {
+    TakesAllInput = true;
     BuildDate.Caption = "Built on " __DATE__;
 }
 

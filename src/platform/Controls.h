@@ -35,7 +35,8 @@ struct KeyEvent {
     std::string text;  // the character of Key::Char; the letter as a capital where ctrl is set
     bool ctrl = false;
     bool shift = false;
-    int number = 0;  // of Key::Function: 2 for F2
+    int number = 0;      // of Key::Function: 2 for F2
+    bool spent = false;  // of Key::Esc: it has closed something on the screen already
 };
 
 using EventHandler = std::function<void()>;

@@ -27,7 +27,7 @@ struct Form {
     // A key, ahead of the control that has the focus. True: dealt with. Esc closes the form as its
     // frame does, unless a form has its own use for that key.
     virtual bool KeyPressed(const KeyEvent& key);
-    // A click on the form where no control takes it.
+    // A click anywhere, in a form that takes all input.
     virtual void Clicked() {}
     // The user closes the window. A form that stays open leaves Visible set.
     virtual void Close() { Hide(); }
@@ -43,6 +43,7 @@ struct Form {
     std::string Caption;
     bool Visible = false;
     bool Enabled = true;
+    bool TakesAllInput = false;  // clicks and keys anywhere in the program, while it is shown
     Pointer MousePointer = Pointer::Default;
     std::vector<Control*> Controls;    // all of them, in tab order
     std::vector<MenuItem*> MenuBar;    // its menu titles, left to right

@@ -11,6 +11,7 @@
 #include <QTreeView>
 
 #include "ShownForm.h"
+#include "desktop/EscRun.h"
 #include "desktop/PaintedText.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -21,14 +22,21 @@ using namespace tessaryn;
 
 TEST(StartUp, ClosesOnAnyKeyOrClick) {
     StartProgram();
-    for (const Qt::Key key : {Qt::Key_X, Qt::Key_Escape, Qt::Key_Print}) {
+    ShowMainWindow(Proof);
+    for (const Qt::Key key : {Qt::Key_X, Qt::Key_Print, Qt::Key_Escape}) {
         EXPECT_TRUE(ClosedBy(StartUp, [&](QWidget& window) { QTest::keyClick(&window, key); }));
     }
+    EXPECT_TRUE(EscIsSpent()) << "an Esc right behind it does not end the program";
     EXPECT_TRUE(ClosedBy(StartUp, [](QWidget& window) {
         QTest::mouseClick(window.findChild<QLabel*>(), Qt::LeftButton);
     }));
-    EXPECT_FALSE(
-        ClosedBy(SelectDir, [](QWidget& window) { QTest::mouseClick(&window, Qt::LeftButton); }));
+    // In the main window too, which does nothing else with the click.
+    const int shown = FormsShown;
+    EXPECT_TRUE(ClosedBy(StartUp, [](QWidget&) {
+        const QPoint place = MainWindow()->rect().center();
+        QTest::mouseClick(MainWindow()->windowHandle(), Qt::LeftButton, {}, place);
+    }));
+    EXPECT_EQ(FormsShown, shown + 1);
 }
 
 TEST(SelectDir, TreeGoesToTheDirectoryAndTellsWhereTheUserGoes) {

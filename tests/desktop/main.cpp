@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "desktop/Desktop.h"
+#include "desktop/EscRun.h"
 #include "desktop/InputWatch.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
@@ -32,6 +33,7 @@ int main(int argc, char* argv[]) {
     QApplication::setQuitOnLastWindowClosed(false);
     tessaryn::SubstituteFonts();
     tessaryn::WatchInput(tessaryn::FadeNote);
+    tessaryn::WatchEsc();
     testing::UnitTest::GetInstance()->listeners().Append(new FreshDesktop);
     return RUN_ALL_TESTS();
 }
