@@ -1,5 +1,7 @@
 #include "expr/NameList.h"
 
+#include <algorithm>
+
 namespace tessaryn {
 
 bool HoldsName(std::string_view list, std::string_view name) {
@@ -8,6 +10,20 @@ bool HoldsName(std::string_view list, std::string_view name) {
         if (list[at - 1] == ' ' && behind < list.size() && list[behind] == ' ') return true;
     }
     return false;
+}
+
+NameSet::NameSet(std::string_view list) {
+    size_t blank = list.find(' ');
+    while (blank != list.npos) {
+        const size_t next = list.find(' ', blank + 1);
+        if (next != list.npos) names_.push_back(list.substr(blank + 1, next - blank - 1));
+        blank = next;
+    }
+    std::sort(names_.begin(), names_.end());
+}
+
+bool NameSet::Holds(std::string_view name) const {
+    return std::binary_search(names_.begin(), names_.end(), name);
 }
 
 std::vector<std::string> NamesOf(const std::string& list) {

@@ -84,15 +84,17 @@ void AddCommentRuns(RunBuilder& runs, std::string_view text, int start) {
 std::vector<CharFormat> StatementFormats(const Statement& stmt, std::string_view text,
                                          const TokenList& tokens) {
     std::vector<CharFormat> formats(text.size(), Format(StmtFontSize, Black));
+    const NameSet freeNames(stmt.FreeVars);
+    const NameSet fixedNames(stmt.FixedVars);
+    const NameSet spareNames(stmt.SpareVars);
     for (std::size_t k = 1; k < tokens.size(); ++k) {
         const TokenRec& token = tokens[k];
         const auto first = static_cast<std::size_t>(token.Position) - 1;
-        if (HoldsName(stmt.FreeVars, token.Token)) {
-            const bool fixed = HoldsName(stmt.FixedVars, token.Token);
-            for (std::size_t i = first; i < first + token.Token.size(); ++i) {
-                formats[i].Color = fixed ? FixedRed : FreeGreen;
-                formats[i].Bold = HoldsName(stmt.SpareVars, token.Token);
-            }
+        if (freeNames.Holds(token.Token)) {
+            CharFormat format = formats[first];
+            format.Color = fixedNames.Holds(token.Token) ? FixedRed : FreeGreen;
+            format.Bold = spareNames.Holds(token.Token);
+            std::fill_n(formats.begin() + token.Position - 1, token.Token.size(), format);
         } else if (token.Token == "@") {
             // The blanks on both sides go with the sign.
             const bool blankBehind = first + 1 < text.size() && text[first + 1] == ' ';

@@ -108,8 +108,10 @@ TEST(NameList, HoldsWholeNames) {
     EXPECT_FALSE(HoldsName(list, "a"));
     for (const char* name : {"ab", "b", "c"}) AppendName(list, name);
     EXPECT_EQ(list, " ab b c ");
-    for (const char* name : {"ab", "b", "c"}) EXPECT_TRUE(HoldsName(list, name));
-    for (const char* name : {"a", ""}) EXPECT_FALSE(HoldsName(list, name));
+    const NameSet set(list);
+    for (const char* name : {"ab", "b", "c"}) EXPECT_TRUE(HoldsName(list, name) && set.Holds(name));
+    for (const char* name : {"a", ""}) EXPECT_FALSE(HoldsName(list, name) || set.Holds(name));
+    EXPECT_FALSE(NameSet("a").Holds("a"));
     EXPECT_EQ(NamesOf(list), (std::vector<std::string>{"ab", "b", "c"}));
 }
 
