@@ -148,7 +148,9 @@ int ReportUnwritable(const std::string& file, const Streams& streams) {
 int HtmlCommand(const Words& words, const Streams& streams) {
     if (words.size() != 2) return ReportWrongUse(streams);
     if (!OpenProof(words[0], streams.err)) return 1;
-    return SaveHTML(words[1]) ? 0 : ReportUnwritable(words[1], streams);
+    if (!SaveHTML(words[1])) return ReportUnwritable(words[1], streams);
+    for (const std::string& note : Headless.Notes) streams.err << words[0] << ": " << note << '\n';
+    return 0;
 }
 
 int PrintCommand(const Words& words, const Streams& streams) {

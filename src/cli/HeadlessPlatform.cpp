@@ -117,6 +117,10 @@ void Beep(const std::string& reason) {
     Headless.Beeps.push_back(reason);
 }
 
+void Tell(const std::string& note) {
+    Headless.Notes.push_back(note);
+}
+
 Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons,
               Answer defaultAnswer) {
     Answer answer = defaultAnswer;

@@ -31,6 +31,7 @@ struct HeadlessState {
 
     // What has happened so far, in order.
     std::vector<std::string> Beeps;  // their reasons
+    std::vector<std::string> Notes;  // without a beep
     std::vector<MessageShown> Messages;
     std::vector<std::string> PagesOpened;   // help files and web addresses
     std::vector<CommonDialog> FileDialogs;  // as they were asked

@@ -133,6 +133,7 @@ int RunScript(const std::string& script, const std::string& name, const ScriptOp
     run.lines = SplitLines(script);
     run.checkDocument = options.checkDocument;
     RunToEnd(run, options);
+    for (const std::string& note : Headless.Notes) err << name << ": " << OnOneLine(note) << '\n';
     if (run.failure.empty()) return 0;
     err << name << ':' << run.line << ": " << OnOneLine(run.failure + LastBeep()) << '\n';
     return 1;

@@ -28,8 +28,8 @@ constexpr int FadeFor = 600;      // milliseconds
 constexpr int WidestNote = 85;    // average characters
 constexpr int Gap = 6;            // pixels between a note and a box
 
-// Tells why a command was refused, beside the place of the input or outside the box in use. Takes
-// neither focus nor clicks.
+// Tells why a command was refused, or what there is to know of it, beside the place of the input or
+// outside the box in use. Takes neither focus nor clicks.
 class Note : public QLabel {
   public:
     Note() : QLabel(nullptr, Qt::ToolTip | Qt::WindowTransparentForInput) {
@@ -134,7 +134,7 @@ class Note : public QLabel {
 };
 
 QPointer<Note> Shown;
-QString Waiting;  // the reason that is to be told once the event is over
+QString Waiting;  // what is to be told once the event is over
 
 // The box in which the user works; nullptr in the main window.
 QWidget* BoxOnTop() {
@@ -191,10 +191,13 @@ QFont TellingFont() {
 
 void Beep(const std::string& reason) {
     QApplication::beep();
-    if (reason.empty()) return;
+    if (!reason.empty()) Tell(reason);
+}
+
+void Tell(const std::string& note) {
     // By then the labels say what they have to say, and a box that the event opens is there.
     if (Waiting.isEmpty()) QTimer::singleShot(0, qApp, TellWaiting);
-    Waiting = ShownText(reason);
+    Waiting = ShownText(note);
 }
 
 void FadeNote() {

@@ -11,7 +11,8 @@ std::string InsertGifs(const std::string& text);
 // The page, in ASCII.
 std::string HTMLPage();
 
-// Writes the page to a file. False if that failed.
+// Writes the page to a file; a note tells of a caption that may be taken for markup. False if that
+// failed.
 bool SaveHTML(const std::string& path);
 
 void HTMLCommand();

@@ -20,6 +20,10 @@ constexpr std::string_view Black = R"(<font size="3" face="Courier New" color="#
 constexpr std::string_view Grey = R"(<font size="3" face="Courier New" color="#808080">)";
 constexpr std::string_view EndRun = "</font>";
 
+constexpr const char* MarkupInCaption =
+    "The caption holds \"<\" and stands in the page as it is: a browser may take part of it for "
+    "markup.";
+
 void AppendEscaped(std::string& page, std::string_view text) {
     for (const char c : text) {
         if (c == '<') {
@@ -121,7 +125,9 @@ std::string HTMLPage() {
 }
 
 bool SaveHTML(const std::string& path) {
-    return ReplaceFile(path, HTMLPage() + "\r\n");
+    if (!ReplaceFile(path, HTMLPage() + "\r\n")) return false;
+    if (ProofCaption.find('<') != ProofCaption.npos) Tell(MarkupInCaption);
+    return true;
 }
 
 void HTMLCommand() {

@@ -32,6 +32,9 @@ struct ProgramEnded {};
 // what the command needs instead.
 void Beep(const std::string& reason);
 
+// Tells a person what they should know of a command that was done: one sentence, without a beep.
+void Tell(const std::string& note);
+
 enum class Answer { OK, Yes, No, Cancel };
 enum class Buttons { OK, YesNoCancel };
 

@@ -142,8 +142,19 @@ TEST(CommandLine, DumpOpensAProof) {
 TEST(CommandLine, HtmlAndPrintWriteFiles) {
     const std::string proof = SavedProof("pages of ü.proof");
     const std::string page = ::testing::TempDir() + "page.html";
-    EXPECT_EQ(Call({"html", proof, page}).status, 0);
+    EXPECT_EQ(Call({"html", proof, page}).error, "");
     EXPECT_TRUE(ReadWholeFile(page).value_or("").ends_with("</pre></body></html>\r\n"));
+    const std::string markedUp = ::testing::TempDir() + "marked up.proof";
+    const Outcome run =
+        Call({"run", "-"},
+             "choose optCaption\nset RTB \"<i>x</i>\"\n"
+             "choose Continue\nfile " +
+                 Quoted(page) + "\nchoose optHTML\nsave " + Quoted(markedUp) + "\n");
+    const Outcome html = Call({"html", markedUp, page});
+    for (const auto& [outcome, named] : {std::pair(run, std::string("-")), {html, markedUp}}) {
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_TRUE(outcome.error.starts_with(named + ": The caption holds \"<\""));
+    }
     const std::string paper = ::testing::TempDir() + "page.txt";
     EXPECT_EQ(Call({"print", proof, paper}).status, 0);
     EXPECT_EQ(ReadWholeFile(paper), "1\tx ε s\n\tPremise\n\n" + proof + "\n");

@@ -56,11 +56,21 @@ TEST(Html, CommandSuggestsANameAndLeavesTheProofAlone) {
     EXPECT_EQ(ProofFileName, "/home/me/v1.2/sets.proof");
     EXPECT_TRUE(ProofChanged);
 
+    // What a browser would not show as it stands is told of, once the page is there.
+    EXPECT_TRUE(Headless.Notes.empty());
+    ProofCaption = "x < y";
+    Headless.Files = {page};
+    SendChoose(Proof.optHTML);
+    ASSERT_EQ(Headless.Notes.size(), 1u);
+    EXPECT_TRUE(Headless.Notes[0].starts_with("The caption holds \"<\""));
+    EXPECT_TRUE(Headless.Beeps.empty());
+
     Headless.Files = {testing::TempDir()};  // a directory
     SendChoose(Proof.optHTML);
     ASSERT_EQ(Headless.Messages.size(), 1u);
     EXPECT_EQ(Headless.Messages[0].title, "WARNING");
     EXPECT_EQ(Headless.Messages[0].text, "Unable to save HTML file");
+    EXPECT_EQ(Headless.Notes.size(), 1u);
     EXPECT_EQ(Proof.MousePointer, Pointer::Default);
 }
 
