@@ -84,8 +84,9 @@ void AppendSurvivor(std::string& text, Statement& stmt, int levels) {
     const int oldStart = std::exchange(stmt.StartLine, end() + 1);
     if (stmt.EndUserComment > 0) {
         AppendOutdented(text, ProofSlice(oldStart, stmt.EndUserComment), levels, true);
-        stmt.EndUserComment = end();
-        text += "\r\n\r\n";
+        // Of a damaged file it may have been TABs and nothing else.
+        stmt.EndUserComment = end() < stmt.StartLine ? 0 : end();
+        if (stmt.EndUserComment > 0) text += "\r\n\r\n";
     }
     text.append(indent, '\t');
     text += std::to_string(stmt.NewNumber);

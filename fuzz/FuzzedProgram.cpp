@@ -1,0 +1,55 @@
+#include "FuzzedProgram.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "cli/HeadlessPlatform.h"
+#include "cli/ScriptRunner.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "platform/Events.h"
+
+namespace tessaryn {
+
+void Require(const std::string& brokenLaw) {
+    if (brokenLaw.empty()) return;
+    std::fprintf(stderr, "broken: %s\n", brokenLaw.c_str());
+    std::abort();
+}
+
+bool OpenFile(const std::string& path) {
+    const std::string name = ProofFileName;
+    const std::string title = Proof.Caption;
+    OperationCancelled = false;
+    Headless.Files.push_back(path);
+    SendChoose(Proof.optOpen);
+    if (!OperationCancelled) return true;
+    if (ProofFileName != name || Proof.Caption != title) Require("a refusal changes name or title");
+    return false;
+}
+
+RandomNumber NumbersOf(const std::uint8_t* data, std::size_t size) {
+    return [data, end = data + size,
+            more = RandomNumbers(static_cast<unsigned>(size))](std::size_t limit) mutable {
+        std::size_t number = 0;
+        for (std::size_t top = limit - 1; top > 0; top >>= 8) {
+            number = number << 8 | (end == data ? more(256) : *--end);
+        }
+        return number % limit;
+    };
+}
+
+void RunAnyScript(const std::string& script, const std::string& settingsDir) {
+    const ScriptResult result = RunScript(script, "script", {settingsDir, true, true});
+    for (const char* fault : {"does not agree with itself", "unexpected failure"}) {
+        if (result.error.find(fault) != result.error.npos) Require(result.error);
+    }
+    for (const std::string& reason : Headless.Beeps) {
+        if (reason.starts_with("Something went wrong inside the program")) Require(reason);
+    }
+    for (const MessageShown& message : Headless.Messages) {
+        if (message.title == "INTERNAL ERROR") Require(message.text);
+    }
+}
+
+}  // namespace tessaryn

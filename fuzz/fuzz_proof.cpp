@@ -1,0 +1,54 @@
+// Any bytes as a proof file: what opens is whole, whatever the user then does, and can be printed,
+// made a page, saved and opened again. Seeds lie in corpus/proof; bytes behind the proof steer the
+// user.
+#include <algorithm>
+
+#include "FuzzedProgram.h"
+#include "MemoryFiles.h"
+#include "cli/HeadlessPlatform.h"
+#include "document/DamagedDocument.h"
+#include "document/Document.h"
+#include "document/ProofFile.h"
+#include "mainwindow/ProgramState.h"
+#include "output/HTML.h"
+#include "output/Printing.h"
+
+using namespace tessaryn;
+
+extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
+
+// Half of the changes are such as leave a file that opens.
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
+                                               std::size_t maxSize, unsigned seed) {
+    const RandomNumber random = RandomNumbers(seed);
+    const std::string bytes(data, data + size);
+    std::optional<Document> proof = random(2) == 0 ? ReadProof(bytes) : std::nullopt;
+    if (!proof || proof->StmtCount == 0) return LLVMFuzzerMutate(data, size, maxSize);
+    Doc = *proof;
+    const std::size_t proofSize = WriteProof().size();
+    DamageDocument(random);
+    const std::string damaged = WriteProof() + bytes.substr(std::min(size, proofSize));
+    return damaged.copy(reinterpret_cast<char*>(data), maxSize);
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    MemoryFiles = {{"any.proof", std::string(data, data + size)}};
+    StartHeadless();
+    if (!OpenFile("any.proof")) return 0;
+    Require(BrokenDocumentLaw());
+    const RandomNumber random = NumbersOf(data, size);
+    {
+        RandomWalk walk(random);
+        for (std::size_t steps = random(64); steps > 0 && ProofText.size() < 50000; --steps) {
+            walk.Step();
+            Require(BrokenDocumentLaw());
+        }
+    }
+    HTMLPage();
+    if (StmtCount > 0) PrintStatements(1, StmtCount);
+    ProofFileName = "saved.proof";
+    if (!SaveProofFile()) Require("what is open can't be saved");
+    if (!OpenFile("saved.proof")) Require("what is saved can't be opened");
+    Require(BrokenDocumentLaw());
+    return 0;
+}
