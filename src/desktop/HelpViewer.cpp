@@ -441,6 +441,7 @@ bool ShowHelpFile(const std::string&) {
         window = new HelpWindow(directory);
     }
     window->TakeSize();
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();
     window->raise();
     window->activateWindow();

@@ -67,7 +67,9 @@ void SetOffCells(const QTextDocument& text) {
         auto* table = qobject_cast<QTextTable*>(frame);
         if (table == nullptr) continue;
         QTextTableFormat format = table->format();
-        format.setBorderCollapse(true);
+        format.setCellSpacing(0);
+        format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+        format.setBorderBrush(QColor(0xA0, 0xA0, 0xA0));
         format.setCellPadding(CellPadding);
         table->setFormat(format);
     }

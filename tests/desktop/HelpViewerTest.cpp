@@ -122,7 +122,12 @@ TEST(HelpViewer, EveryPageIsPaintedWithin50Milliseconds) {
         ForgetManual();
     }
     EXPECT_GT(best.size(), 30U);
-    for (const auto& [row, took] : best) EXPECT_LT(took * 20, CLOCKS_PER_SEC) << "page " << row;
+#ifdef __SANITIZE_ADDRESS__
+    constexpr int limit = 100;
+#else
+    constexpr int limit = 50;  // milliseconds
+#endif
+    for (const auto& [row, took] : best) EXPECT_LT(took * 1000 / CLOCKS_PER_SEC, limit) << row;
 }
 
 TEST(HelpViewer, BackAndForwardAgreeWithTheList) {
