@@ -22,11 +22,18 @@ class LineIndex {
     int End(std::string_view text, int line) const;
     int WidestLine() const { return widest_; }  // columns of the widest line, TABs expanded
 
+    // Places as a QString counts them: in UTF-16 units, a CR LF as one.
+    int Units() const { return unitStarts_.back(); }        // of the whole text
+    int UnitAt(std::string_view text, int position) const;  // how many lie ahead of a byte
+    int ByteAt(std::string_view text, int unit) const;      // limited to the text
+
   private:
     void Measure(std::string_view text, int first, int last);  // lines first to last
+    void CountUnits(std::string_view text, int line, int gone, int added);
 
     std::vector<int> starts_{0};
     std::vector<int> columns_{0};
+    std::vector<int> unitStarts_{0, 0};  // of each line, and the end
     int widest_ = 0;
 };
 

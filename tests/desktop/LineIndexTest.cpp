@@ -12,7 +12,8 @@ TEST(LineIndex, AfterAnyEditIsAsIfBuiltAnew) {
     const auto below = [&](int limit) {
         return std::uniform_int_distribution(0, limit - 1)(random);
     };
-    const std::string alphabet[] = {"a", "\r\n", "\t", "long word", "\xC3\xA9", "\n", "\r"};
+    const std::string alphabet[] = {"a",        "\r\n", "\t", "long word",
+                                    "\xC3\xA9", "\n",   "\r", "\xF0\x9D\x94\xB8"};
     std::string text = "1\tP & Q\r\n\r\n\xCE\xB5\xCE\xB5\r\nlast";
     LineIndex edited;
     edited.Rebuild(text);
@@ -22,11 +23,12 @@ TEST(LineIndex, AfterAnyEditIsAsIfBuiltAnew) {
     EXPECT_EQ(edited.End(text, 1), 9);
     EXPECT_EQ(edited.LineAt(8), 0);  // on the LF
     EXPECT_EQ(edited.WidestLine(), LineIndex::TabColumns + 5);
+    EXPECT_EQ(edited.Units(), 16);
     for (int step = 0; step < 2000; ++step) {
         const int start = below(static_cast<int>(text.size()) + 1);
         const int removed = below(std::min(12, static_cast<int>(text.size()) - start + 1));
         std::string inserted;
-        for (int i = below(5); i > 0; --i) inserted += alphabet[below(7)];
+        for (int i = below(5); i > 0; --i) inserted += alphabet[below(8)];
         text.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(removed), inserted);
         edited.Update(text, start, removed, static_cast<int>(inserted.size()));
         LineIndex fresh;
@@ -35,7 +37,11 @@ TEST(LineIndex, AfterAnyEditIsAsIfBuiltAnew) {
         for (int line = 0; line < fresh.Count(); ++line) {
             ASSERT_EQ(edited.Start(line), fresh.Start(line)) << "step " << step;
             ASSERT_EQ(edited.LineAt(fresh.Start(line)), line) << "step " << step;
+            const int units = edited.UnitAt(text, fresh.Start(line));
+            ASSERT_EQ(units, fresh.UnitAt(text, fresh.Start(line))) << "step " << step;
+            ASSERT_EQ(edited.ByteAt(text, units), fresh.Start(line)) << "step " << step;
         }
         ASSERT_EQ(edited.WidestLine(), fresh.WidestLine()) << "step " << step;
+        ASSERT_EQ(edited.Units(), fresh.Units()) << "step " << step;
     }
 }
