@@ -7,7 +7,6 @@
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
-#include <QWindow>
 #include <exception>
 #include <map>
 #include <string>
@@ -36,10 +35,7 @@ FormWindow& Present(Form& form, bool modal) {
     QWidget* below = TopWindow();
     SyncWindows();
     FormWindow& window = WindowOf(form);
-    if (below != nullptr && below != &window.Window()) {
-        window.Window().winId();  // makes the native window
-        window.Window().windowHandle()->setTransientParent(below->windowHandle());
-    }
+    if (below != nullptr && below != &window.Window()) window.StandInFrontOf(*below);
     window.Show(modal);
     return window;
 }

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QWindow>
 #include <algorithm>
 #include <optional>
 
@@ -21,6 +22,7 @@
 #include "desktop/Mnemonics.h"
 #include "desktop/PaintedText.h"
 #include "desktop/ShownText.h"
+#include "desktop/SmallBoxes.h"
 
 namespace tessaryn {
 
@@ -49,6 +51,7 @@ class FormDialogue : public QDialog {
   public:
     FormDialogue(Form& form, QWidget* parent) : QDialog(parent), form_(form) {}
     void reject() override { RequestClose(form_); }
+    using QDialog::create;
 
   protected:
     void closeEvent(QCloseEvent* event) override {
@@ -198,6 +201,13 @@ QMenu* FormWindow::MenuOf(const MenuItem& item) const {
 
 // --- showing
 
+// winId() would make a native window of each menu of the parent as well, and so a window of its own
+// for assistive tools.
+void FormWindow::StandInFrontOf(QWidget& below) {
+    static_cast<FormDialogue&>(*window_).create();
+    window_->windowHandle()->setTransientParent(below.windowHandle());
+}
+
 void FormWindow::Show(bool modal) {
     // What takes all input needs the others' windows to get theirs.
     const bool blocks = modal && !form_.TakesAllInput;
@@ -285,14 +295,17 @@ QWidget* FormWindow::WidgetOf(const Control& control) const {
     return nullptr;
 }
 
+// In the order of the form; a line that only tells something comes behind all that does something.
 void FormWindow::SetTabOrder() {
-    QWidget* last = nullptr;
+    std::vector<QWidget*> order;
     for (const Control* control : form_.Controls) {
         QWidget* widget = WidgetOf(*control);
-        if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) continue;
-        if (last != nullptr) QWidget::setTabOrder(last, widget);
-        last = widget;
+        if (widget != nullptr && widget->focusPolicy() != Qt::NoFocus) order.push_back(widget);
     }
+    std::stable_partition(order.begin(), order.end(), [](const QWidget* widget) {
+        return dynamic_cast<const StatusView*>(widget) == nullptr;
+    });
+    for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 bool FormWindow::OpenFirstMenu() {

@@ -39,6 +39,8 @@ class FormWindow : public QObject {
     Form& TheForm() { return form_; }
     QWidget& Window() { return *window_; }
 
+    // Only a dialogue can do so.
+    void StandInFrontOf(QWidget& below);
     // Shows the window with its first focus; modal: blocks all others but the manual.
     void Show(bool modal);
     // Returns when the form has been hidden or the program ends.
