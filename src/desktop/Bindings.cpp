@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include "desktop/Announcements.h"
 #include "desktop/Desktop.h"
 #include "desktop/DirectoryTree.h"
 #include "desktop/EditBox.h"
@@ -38,13 +39,48 @@ void OnClick(QAbstractButton& widget, Control& control) {
                      [&control] { Dispatch([&control] { SendChoose(control); }); });
 }
 
+// What a person who listens hears a widget called; the toolkit tells them of each setting.
+void SetNameOf(QWidget& widget, const QString& name) {
+    if (widget.accessibleName() != name) widget.setAccessibleName(name);
+}
+
+bool IsBox(const Control* control) {
+    return dynamic_cast<const TextBox*>(control) != nullptr ||
+           dynamic_cast<const RichTextBox*>(control) != nullptr ||
+           dynamic_cast<const DirectoryBox*>(control) != nullptr;
+}
+
+// A label stands ahead of the box or the options that it belongs to. nullptr if none does.
+const Label* LabelOf(const Control& control) {
+    const Label* label = nullptr;
+    for (const Control* other : control.Parent.Controls) {
+        if (other == &control) break;
+        if (IsBox(other)) label = nullptr;
+        if (const auto* found = dynamic_cast<const Label*>(other)) label = found;
+    }
+    return label;
+}
+
+// A box has the name of its label or, where it is the one thing in its form, that of the form.
+std::function<void()> NamedByLabel(const Control& box, QWidget& widget,
+                                   const std::function<void()>& sync) {
+    return [&box, &widget, sync, label = LabelOf(box)] {
+        SetNameOf(widget, ShownText(label != nullptr ? label->Caption : box.Parent.Caption));
+        sync();
+    };
+}
+
 Binding BindLabel(Label& label, QWidget* parent) {
     auto* widget = new QLabel(parent);
     widget->setTextFormat(Qt::PlainText);
     widget->setWordWrap(true);
     return {&label, widget, {}, [&label, widget] {
-                SetTextOf(*widget, label.Caption);
-                widget->setAccessibleName(ShownText(label.Caption));
+                const QString caption = ShownText(label.Caption);
+                if (widget->text() == caption) return;
+                widget->setText(caption);
+                widget->setAccessibleName(caption);
+                // What a window comes up with is read with its title.
+                if (widget->isActiveWindow()) Announce(caption);
             }};
 }
 
@@ -71,8 +107,11 @@ Binding BindButton(Button& button, QWidget* parent, WindowKind kind) {
 template <class Widget, class Choice>
 Binding BindChoice(Choice& choice, QWidget* parent) {
     auto* widget = new Widget(parent);
-    widget->setAutoExclusive(false);
     OnClick(*widget, choice);
+    if (const Label* label = LabelOf(choice); label != nullptr && widget->autoExclusive()) {
+        widget->setAccessibleDescription(ToQt(label->Caption));
+    }
+    widget->setAutoExclusive(false);
     return {&choice, widget, {}, [&choice, widget] {
                 SetTextOf(*widget, choice.Caption);
                 if (widget->isChecked() != choice.Value) widget->setChecked(choice.Value);
@@ -81,7 +120,8 @@ Binding BindChoice(Choice& choice, QWidget* parent) {
 
 Binding BindTextBox(TextBox& box, QWidget* parent) {
     auto* widget = new LineBox(box, parent);
-    return {&box, widget, [widget] { widget->Pull(); }, [widget] { widget->Sync(); }};
+    return {&box, widget, [widget] { widget->Pull(); },
+            NamedByLabel(box, *widget, [widget] { widget->Sync(); })};
 }
 
 Binding BindSurface(RichTextBox& box, QWidget* parent, WindowKind kind) {
@@ -95,14 +135,13 @@ Binding BindSurface(RichTextBox& box, QWidget* parent, WindowKind kind) {
         return {&box, widget, {}, [widget] { widget->Sync(); }};
     }
     auto* widget = new EditBox(box, parent);
-    widget->setAccessibleName(ToQt(box.ReadOnly ? "Statement" : "Text entry"));
-    return {&box, widget, [widget] { widget->Pull(); }, [widget] { widget->Sync(); }};
+    return {&box, widget, [widget] { widget->Pull(); },
+            NamedByLabel(box, *widget, [widget] { widget->Sync(); })};
 }
 
 Binding BindDirectories(DirectoryBox& box, QWidget* parent) {
     auto* widget = new DirectoryTree(box, parent);
-    widget->setAccessibleName(QStringLiteral("Directory"));
-    return {&box, widget, {}, [widget] { widget->Sync(); }};
+    return {&box, widget, {}, NamedByLabel(box, *widget, [widget] { widget->Sync(); })};
 }
 
 Binding BindTimer(Timer& timer, QObject* parent) {

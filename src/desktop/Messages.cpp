@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/Announcements.h"
 #include "desktop/Desktop.h"
 #include "desktop/HelpViewer.h"
 #include "desktop/InputWatch.h"
@@ -59,7 +60,6 @@ class Note : public QLabel {
         setWindowOpacity(1.0);
         setFont(TellingFont());
         setText(reason);
-        setAccessibleName(reason);
         const int natural = fontMetrics().horizontalAdvance(reason) + 2 * margin() + 4;
         const int width = std::min(natural, fontMetrics().averageCharWidth() * WidestNote);
         resize(width, heightForWidth(width));
@@ -195,6 +195,7 @@ void Beep(const std::string& reason) {
 }
 
 void Tell(const std::string& note) {
+    Announce(ShownText(note));  // also where a label says it, perhaps since an earlier refusal
     // By then the labels say what they have to say, and a box that the event opens is there.
     if (Waiting.isEmpty()) QTimer::singleShot(0, qApp, TellWaiting);
     Waiting = ShownText(note);

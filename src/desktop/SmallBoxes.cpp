@@ -1,8 +1,10 @@
 #include "desktop/SmallBoxes.h"
 
-#include <QAccessible>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
 #include <QValidator>
 
+#include "desktop/Announcements.h"
 #include "desktop/Desktop.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
@@ -43,7 +45,19 @@ StatusView::StatusView(RichTextBox& box, QWidget* parent) : QLabel(parent), box_
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setTextInteractionFlags(Qt::NoTextInteraction);
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(QStringLiteral("Status line"));
+    setAccessibleDescription(accessibleName());  // else it would be the tool tip
     Sync();
+}
+
+void StatusView::paintEvent(QPaintEvent* event) {
+    QLabel::paintEvent(event);
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    QStyleOptionFocusRect frame;
+    frame.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
 }
 
 void StatusView::Sync() {
@@ -55,8 +69,8 @@ void StatusView::Sync() {
     if (shown == text()) return;
     setText(shown);
     setToolTip(shown);
-    QAccessibleEvent told(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&told);
+    setAccessibleName(shown.isEmpty() ? QStringLiteral("Status line") : shown);
+    if (isVisible()) Announce(shown);
 }
 
 LineBox::LineBox(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {

@@ -9,10 +9,14 @@
 namespace tessaryn {
 
 // A rich-text surface that only tells something: a line of text that wraps where it is too long.
+// TAB goes there, so that it can be heard again.
 class StatusView : public QLabel {
   public:
     explicit StatusView(RichTextBox& box, QWidget* parent = nullptr);
     void Sync();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     RichTextBox& box_;
