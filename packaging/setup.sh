@@ -3,8 +3,8 @@
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-build_packages=(g++ cmake ninja-build ccache qt6-base-dev libgtest-dev libbenchmark-dev
-    nlohmann-json3-dev fonts-liberation fonts-dejavu-core)
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-private-dev
+    libgtest-dev libbenchmark-dev nlohmann-json3-dev fonts-liberation fonts-dejavu-core)
 test_packages=(xvfb xauth)
 
 # install_missing PACKAGE...: leaves at once when all are there.

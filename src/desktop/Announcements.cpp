@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QStringList>
 #include <QTimer>
+#include <algorithm>
 
 namespace tessaryn {
 
@@ -89,7 +90,13 @@ void SayPending() {
 }  // namespace
 
 void Announce(const QString& text) {
-    if (!QAccessible::isActive() || text.isEmpty() || Pending.contains(text)) return;
+    const auto words = [](const QString& said) {
+        return said.endsWith(QLatin1Char('.')) ? said.chopped(1) : said;
+    };
+    const bool saidAlready = std::any_of(Pending.begin(), Pending.end(), [&](const QString& other) {
+        return words(other) == words(text);
+    });
+    if (!QAccessible::isActive() || text.isEmpty() || saidAlready) return;
     if (Pending.isEmpty()) QTimer::singleShot(Delay, qApp, SayPending);
     Pending.append(text);
 }

@@ -60,6 +60,7 @@ class Note : public QLabel {
         setWindowOpacity(1.0);
         setFont(TellingFont());
         setText(reason);
+        setAccessibleName(reason);
         const int natural = fontMetrics().horizontalAdvance(reason) + 2 * margin() + 4;
         const int width = std::min(natural, fontMetrics().averageCharWidth() * WidestNote);
         resize(width, heightForWidth(width));

@@ -90,6 +90,11 @@ PaintedText PaintText(RichTextBox& box, int first, int last) {
     return painted;
 }
 
+QString ReadText(RichTextBox& box, int first, int last) {
+    if (first >= last) return {};
+    return PaintText(box, first, last).text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+}
+
 std::string StoredText(const QString& shown, const std::string& font) {
     if (font != "Symbol" && font != "Webdings") return shown.toStdString();
     QString stored = shown;

@@ -28,6 +28,8 @@ struct PaintedText {
 
 // Bytes first to last - 1 of a surface. What is no UTF-8 is shown as a replacement character.
 PaintedText PaintText(RichTextBox& box, int first, int last);
+// The same as a listener gets to hear it: the text alone, a line end as LF.
+QString ReadText(RichTextBox& box, int first, int last);
 
 // The way back: what the surface holds for a shown text in a font of the surface.
 std::string StoredText(const QString& shown, const std::string& font);

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <iterator>
 
+#include "desktop/AccessibleProof.h"
 #include "desktop/Sheet.h"
 
 namespace tessaryn {
@@ -38,6 +39,7 @@ ProofDisplay::ProofDisplay(RichTextBox& box, QWidget* parent)
     index_.Rebuild(box_.GetText());
     MeasureFont();
     Sync();
+    AccessibleProof::Install();
 }
 
 // --- content
@@ -64,17 +66,20 @@ void ProofDisplay::Sync() {
     if (changed || moved) {
         RestartCaret();
         viewport()->update();
+        news_.CaretMoved(*this);
+        news_.CommandDone(*this);
     }
 }
 
-// Brings the index up to date. True if anything in sight may look different.
 bool ProofDisplay::TakeContent() {
     const SurfaceChange change = box_.TakeChange();
     if (!change.any) return false;
+    const int units = index_.Units();
     index_.Update(box_.GetText(), change.start, change.removed, change.inserted);
     lines_.clear();
     MeasureFont();
     UpdateScrollBars();
+    news_.ContentChanged(*this, change, units);
     return LineTop(index_.LineAt(change.start)) < viewport()->height();
 }
 
@@ -143,7 +148,6 @@ QRect ProofDisplay::CaretRect(int position) {
             LineTop(number), CaretWidth, lineHeight_};
 }
 
-// Scrolls no further than needed; but back to the line starts where the place is in sight there.
 void ProofDisplay::EnsureVisible(int position) {
     const QRect place = CaretRect(std::clamp(position, 0, box_.TextLength()));
     QScrollBar* vertical = verticalScrollBar();

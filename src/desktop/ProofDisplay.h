@@ -10,6 +10,7 @@
 
 #include "desktop/LineIndex.h"
 #include "desktop/LineLayout.h"
+#include "desktop/ProofNews.h"
 #include "platform/RichTextBox.h"
 
 namespace tessaryn {
@@ -20,13 +21,25 @@ class ProofDisplay : public QAbstractScrollArea {
 
     // Brings over what has changed in the surface.
     void Sync();
+    // Of that, the text alone. True if anything in sight may look different.
+    bool TakeContent();
 
     // The character boundary next to a place of the viewport, and the start of the character there.
     int BoundaryAt(const QPoint& place);
     int CharacterAt(const QPoint& place);
     // Where in the viewport the caret stands at a position of the surface.
     QRect CaretRect(int position);
+    // Scrolls no further than needed; but back to the line starts where the place is in sight
+    // there.
+    void EnsureVisible(int position);
 
+    // As the user selects, by bytes of the surface; the caret need not be behind the anchor.
+    void Select(int anchor, int caret);
+    int Anchor() const { return anchor_; }
+    int Caret() const { return caret_; }
+
+    RichTextBox& Box() const { return box_; }
+    const LineIndex& Lines() const { return index_; }
     int LinesLaidOut() const { return linesLaidOut_; }  // since the start
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
@@ -48,19 +61,16 @@ class ProofDisplay : public QAbstractScrollArea {
     enum class Unit { Character, Word };
 
     // ProofDisplay.cpp: content, layout, painting
-    bool TakeContent();
     void MeasureFont();
     void UpdateScrollBars();
     LineLayout& LaidOut(int line);
     int LineTop(int line) const;  // in the viewport
     int LineAtY(int y) const;
     int PositionAt(const QPoint& place, QTextLine::CursorPosition kind);
-    void EnsureVisible(int position);
     void PaintLine(QPainter& painter, int line);
     void RestartCaret();
 
     // ProofDisplayInput.cpp: caret and selection
-    void Select(int anchor, int caret);
     void MoveCaret(int position, bool extend);
     void MoveByLines(int lines, bool extend);
     int Next(int position, Unit unit);
@@ -82,6 +92,7 @@ class ProofDisplay : public QAbstractScrollArea {
 
     int anchor_ = 0;  // bytes of the surface; the selection lies between it and the caret
     int caret_ = 0;
+    ProofNews news_;
     double goalX_ = -1;  // where up and down want to keep the caret; below 0: where it stands
     bool caretShown_ = false;
     QBasicTimer blink_;

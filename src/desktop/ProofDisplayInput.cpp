@@ -33,6 +33,7 @@ void ProofDisplay::Select(int anchor, int caret) {
     offer_.start(SettlePause, this);
     RestartCaret();
     viewport()->update();
+    news_.CaretMoved(*this);
 }
 
 void ProofDisplay::MoveCaret(int position, bool extend) {

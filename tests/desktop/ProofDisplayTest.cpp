@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "LongProof.h"
 #include "desktop/Desktop.h"
 #include "document/Document.h"
 #include "document/PutStmt.h"
@@ -227,25 +228,12 @@ TEST(ProofDisplay, ScrollsSidewaysToASelectionAndBackToTheLineStarts) {
 // A proof of the greatest length: only the lines in sight are laid out and formatted, at first and
 // after a change, and a change far below lays out none.
 TEST(ProofDisplay, CostsOnlyWhatIsInSight) {
-    constexpr int Statements = 32000;
-    const std::string block = "1\tALL(x):[x @ S => EXIST(y):f(x)=y]\r\n\t\tPremise\r\n\r\n";
-    const int length = static_cast<int>(block.size());
-    std::string text;
-    std::vector<RichTextBox::Block> blocks;
-    for (int n = 1; n <= Statements; ++n) {
-        text += block;
-        blocks.push_back({length, static_cast<std::uint64_t>(n)});
-    }
-    int formatted = 0;
-    const auto formatter = [&](int) {
-        ++formatted;
-        return std::vector<FormatRun>{{0, length, {}}};
-    };
+    LongProof proof;
     Displayed shown("");
-    shown.box.SetBlocks(text, blocks, formatter);
+    proof.Show(shown.box);
     shown.display.Sync();
     shown.display.grab();
-    EXPECT_LT(formatted, 60);
+    EXPECT_LT(proof.formatted, 60);
     EXPECT_LT(shown.display.LinesLaidOut(), 60);
 
     QScrollBar* bar = shown.display.verticalScrollBar();
@@ -253,12 +241,12 @@ TEST(ProofDisplay, CostsOnlyWhatIsInSight) {
         bar->setValue(bar->maximum() / 100 * page);
         shown.display.grab();
     }
-    EXPECT_LT(formatted, 60 * 101);
+    EXPECT_LT(proof.formatted, 60 * 101);
     bar->setValue(0);
     shown.display.grab();
     const int laidOut = shown.display.LinesLaidOut();
-    blocks.push_back({3, 1});
-    shown.box.SetBlocks(text + "Q\r\n", blocks, formatter);
+    proof.Append("Q\r\n");
+    proof.Show(shown.box);
     shown.display.Sync();
     EXPECT_EQ(shown.display.LinesLaidOut(), laidOut);
 }
