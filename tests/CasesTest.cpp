@@ -51,6 +51,7 @@ class Cases : public testing::TestWithParam<std::string> {};
 TEST_P(Cases, Hold) {
     const std::vector<Case> cases = ReadCases(GetParam());
     EXPECT_FALSE(cases.empty());
+    fs::current_path(testing::TempDir());  // for what a case saves
     for (const auto& [line, steps] : cases) {
         EXPECT_EQ(Do(steps), "") << GetParam() << ":" << line;
     }

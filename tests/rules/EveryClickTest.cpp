@@ -3,7 +3,7 @@
 // document as it was.
 #include <gtest/gtest.h>
 
-#include "Workbench.h"
+#include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
 #include "document/Document.h"
@@ -18,41 +18,24 @@ namespace {
 
 // --- the proofs
 
-std::string Choose(const std::string& item) {
-    return "choose " + item + "\n";
-}
+const std::string Quantifiers =
+    "! ALL(a):ALL(b):[R(a,b) => EXIST(c):f(c)=a] ; ! EXIST(x):[P(x) & ALL(d):Q(x,d)]"
+    " ; + ~EXIST(a):~P(a) ; + x @ s & R(x,y) ; Conclusion ; choose Continue"
+    " ; + P(k) | ALL(b):[b=k => P(b)] ; Spec 2 ; < m";
 
-std::string Click(int line) {
-    return "click " + std::to_string(line) + "\n";
-}
-
-std::string Rewrites() {
-    return EnterPremise("P & Q | ~~[R => ~S]") + EnterPremise("[P <=> Q] & R => ~[~P & ~[~Q]]") +
-           EnterPremise("[P => T] & [T => P]") + EnterPremise("P | R | S") +
-           EnterPremise("[P => T] & [R => T] & [S => T]") + EnterPremise("P") +
-           EnterPremise("Abcdefghij & Klmnopqrst\r\n=> Uvwxyz") + Choose("optConclusion") +
-           EnterPremise("Q & ~Q");
-}
-
-std::string Quantifiers() {
-    return EnterAxiom("ALL(a):ALL(b):[R(a,b) => EXIST(c):f(c)=a]") +
-           EnterAxiom("EXIST(x):[P(x) & ALL(d):Q(x,d)]") + EnterPremise("~EXIST(a):~P(a)") +
-           EnterPremise("x @ s & R(x,y)") + Choose("optConclusion") + "choose Continue\n" +
-           EnterPremise("P(k) | ALL(b):[b=k => P(b)]") + Choose("optSpec") + Click(2) +
-           "set Text1 \"m\"\nchoose Continue\n";
-}
-
-std::string Terms() {
-    return EnterAxiom("ALL(a):[a @ s => a+2=f(a)]") + EnterPremise("m+k @ s & m @ s") +
-           Choose("optSplit") + Click(2) + EnterPremise("m+k=f(m)") +
-           EnterPremise("(m,k) @ t & ~m+k=k") + EnterPremise("Set(s) & Set'(t)") +
-           Choose("optSplit") + Click(7) + EnterPremise("m*k^2<=_k-1/m & f(m+k)=m");
-}
-
-// The insertion point in the middle: what stands behind it can't be used.
-std::string Inserting() {
-    return Quantifiers() + Choose("optInsert") + "click 6 number\n";
-}
+const std::pair<const char*, std::string> Proofs[] = {
+    {"Rewrites",
+     "+ P & Q | ~~[R => ~S] ; + [P <=> Q] & R => ~[~P & ~[~Q]] ; + [P => T] & [T => P]"
+     " ; + P | R | S ; + [P => T] & [R => T] & [S => T] ; + P"
+     " ; + Abcdefghij & Klmnopqrst\\r\\n=> Uvwxyz ; Conclusion ; + Q & ~Q"},
+    {"Quantifiers", Quantifiers},
+    {"Terms",
+     "! ALL(a):[a @ s => a+2=f(a)] ; + m+k @ s & m @ s ; Split 2 ; + m+k=f(m)"
+     " ; + (m,k) @ t & ~m+k=k ; + Set(s) & Set'(t) ; Split 7"
+     " ; + m*k^2<=_k-1/m & f(m+k)=m"},
+    // The insertion point in the middle: what stands behind it can't be used.
+    {"Inserting", Quantifiers + " ; Insert 6.number"},
+};
 
 // --- what answers a dialogue
 
@@ -232,20 +215,11 @@ void TryItem(Watch& watch, const MenuItem& item, const std::vector<int>& places)
     RuleMode = 0;
 }
 
-struct Subject {
-    const char* name;
-    std::string (*script)();
-};
-
-void PrintTo(const Subject& subject, std::ostream* out) {
-    *out << subject.name;
-}
-
-class EveryClick : public testing::TestWithParam<Subject> {};
+class EveryClick : public testing::TestWithParam<std::pair<const char*, std::string>> {};
 
 TEST_P(EveryClick, WritesOrTellsWhyNot) {
     for (const bool accept : {false, true}) {
-        ASSERT_EQ(Build(GetParam().script()), "");
+        ASSERT_EQ(Do(GetParam().second), "");
         Watch watch(accept);
         Headless.NextStep = [&] {
             watch.answers.Reply();
@@ -261,11 +235,8 @@ TEST_P(EveryClick, WritesOrTellsWhyNot) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Proofs, EveryClick,
-                         testing::Values(Subject{"Rewrites", Rewrites},
-                                         Subject{"Quantifiers", Quantifiers},
-                                         Subject{"Terms", Terms}, Subject{"Inserting", Inserting}),
-                         [](const auto& subject) { return std::string(subject.param.name); });
+INSTANTIATE_TEST_SUITE_P(Proofs, EveryClick, testing::ValuesIn(Proofs),
+                         [](const auto& proof) { return std::string(proof.param.first); });
 
 }  // namespace
 }  // namespace tessaryn

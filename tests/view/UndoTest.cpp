@@ -3,41 +3,39 @@
 
 #include <gtest/gtest.h>
 
-#include "Workbench.h"
+#include "Steps.h"
+#include "cli/Script.h"
 #include "mainwindow/Proof.h"
 
 namespace tessaryn {
 namespace {
 
 TEST(Undo, StepsBackOnceAndForthOnce) {
-    const std::string one = EnterPremise("P");
-    const std::string two = one + EnterPremise("Q");
-    const std::string saved = "save " + Quoted(::testing::TempDir() + "undo.proof") + "\n";
-    const std::string undo = "choose optUndo\n";
-    const std::string redo = "choose optRedo\n";
+    const std::string two = "+ P ; + Q ; ";
+    const std::string path = Quoted(::testing::TempDir() + "undo.proof");
     struct {
-        std::string actions;
+        std::string steps;
         bool canUndo;
         bool canRedo;
     } const rows[] = {
         {"", false, false},
-        {one, false, false},  // nothing to go back to
+        {"+ P", false, false},  // nothing to go back to
         {two, true, false},
-        {two + undo, false, true},
-        {two + undo + redo, true, false},
-        {two + undo + EnterPremise("R"), true, false},
-        {two + "click 1 number\nchoose optHideDetails\n", true, false},
-        {two + "choose optNew\nchoose cmdNo\n", false, false},
-        {two + undo + "choose optNew\nchoose cmdNo\n", false, false},
-        {two + saved + "choose optOpen\n", true, false},  // cancelled
-        {two + saved + undo + saved + "open " + saved.substr(5), false, false},
+        {two + "Undo", false, true},
+        {two + "Undo ; Redo", true, false},
+        {two + "Undo ; + R", true, false},
+        {two + "click 1 number ; HideDetails", true, false},
+        {two + "New ; choose cmdNo", false, false},
+        {two + "Undo ; New ; choose cmdNo", false, false},
+        {two + "save " + path + " ; Open", true, false},  // cancelled
+        {two + "save " + path + " ; Undo ; save " + path + " ; open " + path, false, false},
     };
     for (const auto& row : rows) {
-        ASSERT_EQ(Build(row.actions), "") << row.actions;
-        EXPECT_EQ(Proof.optUndo.Enabled, row.canUndo) << row.actions;
-        EXPECT_EQ(Proof.optRedo.Enabled, row.canRedo) << row.actions;
-        EXPECT_EQ(Proof.cmdUndo.Enabled, row.canUndo) << row.actions;
-        EXPECT_EQ(Proof.cmdRedo.Enabled, row.canRedo) << row.actions;
+        ASSERT_EQ(Do(row.steps), "");
+        EXPECT_EQ(Proof.optUndo.Enabled, row.canUndo) << row.steps;
+        EXPECT_EQ(Proof.cmdUndo.Enabled, row.canUndo) << row.steps;
+        EXPECT_EQ(Proof.optRedo.Enabled, row.canRedo) << row.steps;
+        EXPECT_EQ(Proof.cmdRedo.Enabled, row.canRedo) << row.steps;
     }
 }
 
