@@ -1,17 +1,20 @@
 #include "cli/CommandLine.h"
 
 #include <array>
+#include <charconv>
 #include <fstream>
 #include <iostream>
 #include <optional>
 
 #include "cli/ExpressionTables.h"
+#include "cli/Fits.h"
 #include "cli/FormState.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/ScriptRunner.h"
 #include "cli/StateDump.h"
 #include "document/Document.h"
 #include "document/ProofFile.h"
+#include "mainwindow/ActiveStmts.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "output/HTML.h"
@@ -33,6 +36,7 @@ constexpr const char* Usage =
     "       tessaryn-cli dump FILE.proof\n"
     "       tessaryn-cli html IN.proof OUT.html\n"
     "       tessaryn-cli print IN.proof OUT.txt\n"
+    "       tessaryn-cli fits FILE.proof [LINE]\n"
     "       tessaryn-cli --version | --help\n";
 
 constexpr const char* Help =
@@ -46,6 +50,8 @@ constexpr const char* Help =
     "dump   opens a proof and prints its state as JSON\n"
     "html   writes a proof as a page for a browser\n"
     "print  writes a proof as it would be printed, a form feed between pages\n"
+    "fits   prints the rules that fit the active lines of a proof, or one of them, and\n"
+    "         what they would write, as JSON, one a line\n"
     "\n"
     "Exit status: 0 done; 1 refused, or an expectation failed; 2 wrong use.\n";
 
@@ -166,6 +172,23 @@ int PrintCommand(const Words& words, const Streams& streams) {
     return ReplaceFile(words[1], pages + "\n") ? 0 : ReportUnwritable(words[1], streams);
 }
 
+int FitsCommand(const Words& words, const Streams& streams) {
+    if (words.empty() || words.size() > 2) return ReportWrongUse(streams);
+    int line = 0;
+    if (words.size() == 2) {
+        const auto [end, error] =
+            std::from_chars(words[1].data(), words[1].data() + words[1].size(), line);
+        if (error != std::errc() || *end != '\0' || line < 1) return ReportWrongUse(streams);
+    }
+    if (!OpenProof(words[0], streams.err)) return 1;
+    if (line > 0 && !IsActive(line)) {
+        streams.err << words[0] << ": line " << line << " is no active line\n";
+        return 1;
+    }
+    PrintFits(line, streams.out);
+    return 0;
+}
+
 int VersionCommand(const Words& words, const Streams& streams) {
     if (!words.empty()) return ReportWrongUse(streams);
     streams.out << "tessaryn-cli 2.0\n";
@@ -190,6 +213,7 @@ constexpr std::array Commands = std::to_array<CommandRow>({
     {"dump", DumpCommand},
     {"html", HtmlCommand},
     {"print", PrintCommand},
+    {"fits", FitsCommand},
     {"--version", VersionCommand},
     {"--help", HelpCommand},
 });

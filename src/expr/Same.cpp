@@ -8,6 +8,7 @@
 #include "expr/Kind.h"
 #include "expr/NameList.h"
 #include "expr/Parse.h"
+#include "expr/PrintExpression.h"
 
 namespace tessaryn {
 
@@ -113,6 +114,11 @@ bool SameExpressions(const std::string& a, const std::string& b) {
     Expression second;
     return ParseRenamed(first, a, true) &&
            (a == b || (ParseRenamed(second, b, true) && first.nodes == second.nodes));
+}
+
+std::string NamelessForm(const std::string& text) {
+    Expression renamed;
+    return ParseRenamed(renamed, text, false) ? PrintExpression(renamed) : "";
 }
 
 std::string CollectFreeVars() {

@@ -17,6 +17,10 @@ bool Same(const std::string& a, const std::string& b);
 // The same answer with no global touched.
 bool SameExpressions(const std::string& a, const std::string& b);
 
+// What two texts have in common exactly if they are the same: the canonical text with generated
+// names for the bound variables. "" if the text does not parse.
+std::string NamelessForm(const std::string& text);
+
 // The free variables of the tables of the last successful Parse as a name list, in the order of
 // first appearance. Numerals and function names are among them, capitalised names are not.
 std::string CollectFreeVars();

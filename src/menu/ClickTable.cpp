@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <variant>
 
 #include "axioms/Axioms.h"
 #include "document/Document.h"
@@ -15,7 +14,6 @@
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "rules/ArbitraryOperand.h"
-#include "rules/ClickPatterns.h"
 #include "rules/Rules.h"
 #include "view/Comment.h"
 #include "view/Delete.h"
@@ -26,18 +24,6 @@ namespace tessaryn {
 namespace {
 
 constexpr auto StayPending = AfterParseError::StayPending;
-
-using Conversation = void (*)();
-// The same for a rule with two clicks, which is told whether the first is awaited.
-using TwoClicks = void (*)(bool& firstClick);
-using ClickTarget =
-    std::variant<std::monostate, LineClick, SignClick, LinesClick, Conversation, TwoClicks>;
-
-struct ClickRow {
-    int ruleMode;
-    const char* prompt;
-    ClickTarget click = std::monostate();
-};
 
 const ClickRow ClickRows[] = {
     {DeleteAllRefMode, "Delete All References: Click statement", Conversation(DeleteAllRef)},
@@ -107,6 +93,10 @@ struct TakeClick {
 };
 
 }  // namespace
+
+std::span<const ClickRow> ClickTable() {
+    return ClickRows;
+}
 
 void StartClickRule(int ruleMode) {
     const ClickRow* row = FindRow(ruleMode);

@@ -1,7 +1,26 @@
-// What a click in the proof display means while a rule is pending.
+// The click rules as a table: what a click in the proof display means while a rule is pending.
 #pragma once
 
+#include <span>
+#include <variant>
+
+#include "rules/ClickPatterns.h"
+
 namespace tessaryn {
+
+// How a rule takes its clicks: by a pattern, or by a conversation of its own, which a rule with two
+// clicks is told the state of.
+using Conversation = void (*)();
+using TwoClicks = void (*)(bool& firstClick);
+using ClickTarget =
+    std::variant<std::monostate, LineClick, SignClick, LinesClick, Conversation, TwoClicks>;
+
+struct ClickRow {
+    int ruleMode;
+    const char* prompt;
+    ClickTarget click = std::monostate();
+};
+std::span<const ClickRow> ClickTable();
 
 // What the menu item of a click rule does: the rule becomes pending and its prompt is shown.
 void StartClickRule(int ruleMode);
