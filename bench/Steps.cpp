@@ -4,12 +4,12 @@
 
 #include <algorithm>
 
-#include "document/PutStmt.h"
 #include "expr/Expression.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "platform/Events.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 

@@ -11,13 +11,13 @@
 #include "axioms/SubsetFrm.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
-#include "document/PutStmt.h"
 #include "expr/Expression.h"
 #include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "view/InsertMode.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

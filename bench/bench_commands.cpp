@@ -9,7 +9,6 @@
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
 #include "document/ProofFile.h"
-#include "document/PutStmt.h"
 #include "expr/Expression.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -17,6 +16,7 @@
 #include "menu/ClickTable.h"
 #include "platform/Events.h"
 #include "view/InsertMode.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

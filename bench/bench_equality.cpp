@@ -7,7 +7,6 @@
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
-#include "document/PutStmt.h"
 #include "expr/Expression.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -15,6 +14,7 @@
 #include "platform/Events.h"
 #include "rules/Generalize.h"
 #include "rules/Substitution.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

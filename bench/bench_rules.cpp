@@ -7,7 +7,6 @@
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
-#include "document/PutStmt.h"
 #include "expr/Expression.h"
 #include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
@@ -15,6 +14,7 @@
 #include "mainwindow/RuleModes.h"
 #include "mainwindow/TestParser.h"
 #include "platform/Events.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

@@ -1,6 +1,5 @@
 #include "axioms/InductionForm.h"
 
-#include "document/PutStmt.h"
 #include "expr/Blanks.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
@@ -10,6 +9,7 @@
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "view/Display.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "document/PutStmt.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
 #include "mainwindow/EntryChecks.h"
@@ -10,6 +9,7 @@
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "view/Display.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

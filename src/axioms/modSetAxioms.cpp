@@ -10,13 +10,13 @@
 
 #include "axioms/Axioms.h"
 #include "axioms/EnteredNumber.h"
-#include "document/PutStmt.h"
 #include "expr/Expression.h"
 #include "inference/SchemeText.h"
 #include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

@@ -34,13 +34,15 @@ inline SharedText& ProofText = Doc.ProofText;
 inline int& IntroEnd = Doc.IntroEnd;
 inline std::string& ProofCaption = Doc.ProofCaption;
 
-// Statement n of the open document, to be read or to be changed.
-inline const Statement& At(int line) {
-    return Doc.StmtTable[line];
+// Statement n, to be read or to be changed; of the open document where no other is given.
+inline const Statement& At(int line, const Document& document = Doc) {
+    return document.StmtTable[line];
 }
-inline Statement& EditAt(int line) {
-    return Doc.StmtTable.Edit(line);
+inline Statement& EditAt(int line, Document& document = Doc) {
+    return document.StmtTable.Edit(line);
 }
+
+// All of the following ask the open document where no other is given.
 
 // Shows or hides a statement; RelayoutViewer and ResetFonts follow.
 void SetVisible(int line, bool visible);
@@ -49,15 +51,18 @@ void SetVisible(int line, bool visible);
 void ClearDocument();
 
 // Where the first visible block begins in the display, 1-based.
-int FirstViewerStartLine();
+int FirstViewerStartLine(const Document& document = Doc);
 
 // The text between two 1-based indexes of ProofText, both included.
-std::string_view ProofSlice(int first, int last);
+std::string_view ProofSlice(int first, int last, const Document& document = Doc);
 // A statement's text as stored, with CR LF TAB at its line breaks.
-std::string_view StoredText(int number);
+std::string_view StoredText(int number, const Document& document = Doc);
 // A statement's text without TABs: what a rule hands to Parse.
-std::string StmtText(int number);
+std::string StmtText(int number, const Document& document = Doc);
 void RemoveTabs(std::string& text);
+
+// The names of a list that are in use outside the innermost premise around a statement.
+std::string FixedNames(const std::string& names, int stmt, const Document& document = Doc);
 
 // Assigns ViewerStartLine to the visible statements.
 void RelayoutViewer();

@@ -31,8 +31,8 @@ int ViewerEndRule(const Statement& stmt) {
     return stmt.EndRule - ViewOffset(stmt);
 }
 
-int FirstViewerStartLine() {
-    return IntroEnd > 0 ? IntroEnd + 5 : 1;
+int FirstViewerStartLine(const Document& document) {
+    return document.IntroEnd > 0 ? document.IntroEnd + 5 : 1;
 }
 
 void ShiftIndexes(Statement& stmt, int shift) {
@@ -44,22 +44,22 @@ void ShiftIndexes(Statement& stmt, int shift) {
     stmt.EndRule += shift;
 }
 
-std::string_view ProofSlice(int first, int last) {
-    return ProofText.View().substr(static_cast<std::size_t>(first - 1),
-                                   static_cast<std::size_t>(last - first + 1));
+std::string_view ProofSlice(int first, int last, const Document& document) {
+    return document.ProofText.View().substr(static_cast<std::size_t>(first - 1),
+                                            static_cast<std::size_t>(last - first + 1));
 }
 
-std::string_view StoredText(int number) {
-    const Statement& stmt = StmtTable[number];
-    return ProofSlice(stmt.StartStmt, stmt.EndStmt);
+std::string_view StoredText(int number, const Document& document) {
+    const Statement& stmt = At(number, document);
+    return ProofSlice(stmt.StartStmt, stmt.EndStmt, document);
 }
 
 void RemoveTabs(std::string& text) {
     std::erase(text, '\t');
 }
 
-std::string StmtText(int number) {
-    std::string text(StoredText(number));
+std::string StmtText(int number, const Document& document) {
+    std::string text(StoredText(number, document));
     RemoveTabs(text);
     return text;
 }

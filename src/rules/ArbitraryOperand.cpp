@@ -1,6 +1,5 @@
 #include "rules/ArbitraryOperand.h"
 
-#include "document/PutStmt.h"
 #include "expr/Parse.h"
 #include "inference/Connectives.h"
 #include "mainwindow/EntryChecks.h"
@@ -9,6 +8,7 @@
 #include "mainwindow/RuleModes.h"
 #include "mainwindow/TestParser.h"
 #include "rules/ClickPatterns.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

@@ -1,11 +1,11 @@
 #include "rules/ClickPatterns.h"
 
-#include "document/PutStmt.h"
 #include "expr/Parse.h"
 #include "mainwindow/ActiveStmts.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

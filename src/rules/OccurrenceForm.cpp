@@ -3,11 +3,11 @@
 #include <utility>
 
 #include "document/Document.h"
-#include "document/PutStmt.h"
 #include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "rules/OccurrenceBox.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 

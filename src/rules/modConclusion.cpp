@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "document/Document.h"
-#include "document/PutStmt.h"
+#include "document/Writer.h"
 #include "expr/NameList.h"
 #include "expr/Parse.h"
 #include "inference/Conclusion.h"
@@ -27,6 +27,7 @@
 #include "rules/Rules.h"
 #include "rules/VariableNames.h"
 #include "view/InsertMode.h"
+#include "view/PutStmt.h"
 #include "view/Undo.h"
 
 namespace tessaryn {

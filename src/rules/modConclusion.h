@@ -13,7 +13,4 @@ inline std::vector<std::string> ConclusionEVars;
 
 void ResetConclusion();
 
-// Puts one more TAB in front of every line of the blocks first to last, in one pass over the text.
-void IndentStatements(int first, int last);
-
 }  // namespace tessaryn

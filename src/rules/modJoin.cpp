@@ -4,7 +4,6 @@
 // First click: P. Second click: Q, which may be the same line. Both clicks take any active line.
 #include <string>
 
-#include "document/PutStmt.h"
 #include "expr/Parse.h"
 #include "inference/Connectives.h"
 #include "mainwindow/ActiveStmts.h"
@@ -13,6 +12,7 @@
 #include "mainwindow/RuleModes.h"
 #include "rules/ClickPatterns.h"
 #include "rules/Rules.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

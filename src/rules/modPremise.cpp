@@ -7,7 +7,6 @@
 #include <string>
 
 #include "document/Document.h"
-#include "document/PutStmt.h"
 #include "expr/Expression.h"
 #include "mainwindow/ActiveStmts.h"
 #include "mainwindow/ProgramState.h"
@@ -16,6 +15,7 @@
 #include "mainwindow/TestParser.h"
 #include "rules/Rules.h"
 #include "view/InsertMode.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

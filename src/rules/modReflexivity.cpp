@@ -4,7 +4,6 @@
 // No click: the term is entered in TestParser.
 #include <string>
 
-#include "document/PutStmt.h"
 #include "expr/Expression.h"
 #include "inference/Equality.h"
 #include "mainwindow/ProgramState.h"
@@ -13,6 +12,7 @@
 #include "mainwindow/TermChecks.h"
 #include "mainwindow/TestParser.h"
 #include "rules/Rules.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 

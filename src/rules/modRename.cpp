@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "document/PutStmt.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
 #include "inference/Quantifiers.h"
@@ -18,6 +17,7 @@
 #include "rules/Rules.h"
 #include "rules/VariableNames.h"
 #include "rules/modConclusion.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

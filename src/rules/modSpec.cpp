@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "document/Document.h"
-#include "document/PutStmt.h"
 #include "expr/NameList.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
@@ -25,6 +24,7 @@
 #include "rules/ClickPatterns.h"
 #include "rules/Rules.h"
 #include "view/InsertMode.h"
+#include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {

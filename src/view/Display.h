@@ -61,8 +61,4 @@ inline WorkAreaForm WorkArea;
 // signs shown.
 void ReformatWA(Colour colour);
 
-// The names of a list that are, for statement `stmt`, already in use outside its innermost open
-// premise, as a name list.
-std::string FixedNames(const std::string& names, int stmt);
-
 }  // namespace tessaryn

@@ -13,7 +13,6 @@
 #include "axioms/InductionForm.h"
 #include "axioms/SubsetFrm.h"
 #include "desktop/EscRun.h"
-#include "document/PutStmt.h"
 #include "expr/Parse.h"
 #include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
@@ -30,6 +29,7 @@
 #include "view/Comment.h"
 #include "view/EditCaption.h"
 #include "view/Find.h"
+#include "view/PutStmt.h"
 #include "view/Warning.h"
 
 using namespace tessaryn;

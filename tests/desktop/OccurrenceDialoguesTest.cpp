@@ -8,13 +8,13 @@
 
 #include "ShownForm.h"
 #include "document/Document.h"
-#include "document/PutStmt.h"
 #include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/RuleModes.h"
 #include "rules/Generalize.h"
 #include "rules/Substitution.h"
 #include "view/Display.h"
+#include "view/PutStmt.h"
 
 using namespace tessaryn;
 

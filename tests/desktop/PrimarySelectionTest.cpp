@@ -9,11 +9,11 @@
 #include <QTextEdit>
 
 #include "ShownForm.h"
-#include "document/PutStmt.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "mainwindow/TestParser.h"
+#include "view/PutStmt.h"
 
 using namespace tessaryn;
 

@@ -12,12 +12,12 @@
 #include "LongProof.h"
 #include "desktop/Desktop.h"
 #include "document/Document.h"
-#include "document/PutStmt.h"
 #include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "platform/Events.h"
+#include "view/PutStmt.h"
 
 using namespace tessaryn;
 

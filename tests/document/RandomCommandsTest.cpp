@@ -3,7 +3,6 @@
 
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
-#include "document/PutStmt.h"
 #include "document/RandomWalk.h"
 #include "expr/Expression.h"
 #include "expr/NameList.h"
@@ -14,6 +13,7 @@
 #include "output/WrittenProof.h"
 #include "view/Delete.h"
 #include "view/Display.h"
+#include "view/PutStmt.h"
 #include "view/Undo.h"
 
 namespace tessaryn {

@@ -1,4 +1,5 @@
 // What the display shows: places, fonts and colours of a block's fields.
+#include "document/Document.h"
 #include "view/Display.h"
 
 #include <gtest/gtest.h>
