@@ -1,4 +1,5 @@
-// What the Conclusion Rule keeps while it asks for the names of the bound variables.
+// What the Conclusion Rule keeps while it asks for the names of the bound variables; Rename and
+// Reorder keep those of the leading quantifiers in the same list while they ask.
 #pragma once
 
 #include <string>
