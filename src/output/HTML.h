@@ -5,9 +5,6 @@
 
 namespace tessaryn {
 
-// Writes the text as HTML has it: "<", ">" and "@"; a conjunction's "&" stays.
-std::string InsertGifs(const std::string& text);
-
 // The page, in ASCII.
 std::string HTMLPage();
 

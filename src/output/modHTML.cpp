@@ -106,12 +106,6 @@ bool SaveHTMLWithHourglass(const std::string& path) {
 
 }  // namespace
 
-std::string InsertGifs(const std::string& text) {
-    std::string page;
-    AppendEscaped(page, text);
-    return page;
-}
-
 std::string HTMLPage() {
     std::string page;
     page.reserve(ProofText.size() * 2 + static_cast<std::size_t>(StmtCount) * 160);

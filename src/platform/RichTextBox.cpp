@@ -42,7 +42,6 @@ void RichTextBox::Select(int start, int length) {
     selStart_ = start;
     selLength_ = length;
     insertion_.reset();
-    ++selectionRevision_;
 }
 
 void RichTextBox::SetSelStart(int position) {
@@ -178,7 +177,6 @@ void RichTextBox::ReformatSelection(const TextBlocks::Reformatter& reformatter) 
     if (selLength_ > 0) return Reformat(selStart_, selLength_, reformatter);
     insertion_ = InsertionFormat();
     reformatter(*insertion_);
-    ++selectionRevision_;
 }
 
 std::string RichTextBox::GetSelFontName() const {

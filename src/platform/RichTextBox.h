@@ -147,9 +147,8 @@ struct RichTextBox : Control {
     // Where SelStart was set to since the last call, the last two places: each is to be scrolled
     // into view, in this order and no further than needed.
     std::vector<int> TakePlacesToShow();
-    // Counts changes of content, format or alignment, and of selection or insertion format.
+    // Counts changes of content, format or alignment.
     std::uint64_t ContentRevision() const { return contentRevision_; }
-    std::uint64_t SelectionRevision() const { return selectionRevision_; }
     // Replaces content from the front end's own editor; tells nobody.
     void LoadFromEditor(std::string text, const std::vector<FormatRun>& runs, int selStart,
                         int selLength);
@@ -173,7 +172,6 @@ struct RichTextBox : Control {
     SurfaceChange change_;
     std::vector<int> placesToShow_;
     std::uint64_t contentRevision_ = 0;
-    std::uint64_t selectionRevision_ = 0;
 };
 
 }  // namespace tessaryn
