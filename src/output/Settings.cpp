@@ -1,8 +1,10 @@
 #include "output/Settings.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -13,6 +15,7 @@
 #include "mainwindow/Proof.h"
 #include "output/SaveChanges.h"
 #include "platform/Files.h"
+#include "platform/InputFile.h"
 #include "text/Encoding.h"
 #include "view/Display.h"
 #include "view/Warning.h"
@@ -29,13 +32,36 @@ constexpr const char* OptionFile = "UserOption.bin";
 
 constexpr std::size_t MaxRecent = 5;
 
+// A header, and as many strings as there are recent files, each of the greatest short length.
+constexpr std::size_t LongestMeant = 12 + MaxRecent * (2 + LongString - 1);
+
 std::string PathOf(const char* file) {
     return AppPath + "/" + file;
 }
 
+// What of a file may be meant, and a rest behind it; nothing if the file can't be read.
+std::optional<std::string> MeantBytes(const std::string& path) {
+    InputFile file(path);
+    if (!file.Good()) return std::nullopt;
+    std::string bytes(std::min<std::uint64_t>(file.Size(), LongestMeant), '\0');
+    std::size_t done = 0;
+    while (const std::size_t got = file.Read(bytes.data() + done, bytes.size() - done)) done += got;
+    bytes.resize(done);
+    return bytes;
+}
+
+// For a file that is too long to be written anew for the sake of its rest.
+bool WriteInPlace(const std::string& path, const std::string& content) {
+    std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
+    file << content;
+    file.close();
+    return file.good();
+}
+
 // Puts the content over the first bytes of the file.
 bool WriteOver(const std::string& path, std::string content) {
-    const std::optional<std::string> old = ReadWholeFile(path);
+    if (InputFile(path).Size() > LongestMeant) return WriteInPlace(path, content);
+    const std::optional<std::string> old = MeantBytes(path);
     if (old && old->size() > content.size()) content += old->substr(content.size());
     return ReplaceFile(path, content);
 }
@@ -78,7 +104,7 @@ HeaderRead ReadHeader(ByteReader& in) {
 
 bool HoldsAll(const std::string& directory) {
     for (const char* file : {DefaultDirFile, RecentFilesFile, FontSizeFile, OptionFile}) {
-        if (!ReadWholeFile(directory + "/" + file)) return false;
+        if (!InputFile(directory + "/" + file).Good()) return false;
     }
     return true;
 }
@@ -122,7 +148,7 @@ void SetTextSize(int size) {
 
 // Nothing if the file can't be read to its end.
 std::optional<int> StoredTextSize() {
-    const std::optional<std::string> bytes = ReadWholeFile(PathOf(FontSizeFile));
+    const std::optional<std::string> bytes = MeantBytes(PathOf(FontSizeFile));
     if (!bytes) return std::nullopt;
     ByteReader in(*bytes);
     const HeaderRead header = ReadHeader(in);
@@ -136,7 +162,7 @@ using Names = std::vector<std::string>;
 
 // No names from a header that is none, or says none. Nothing if the file can't be read to its end.
 std::optional<Names> StoredRecentFiles() {
-    const std::optional<std::string> bytes = ReadWholeFile(PathOf(RecentFilesFile));
+    const std::optional<std::string> bytes = MeantBytes(PathOf(RecentFilesFile));
     if (!bytes) return std::nullopt;
     ByteReader in(*bytes);
     const HeaderRead header = ReadHeader(in);
@@ -182,7 +208,7 @@ void OpenRecent(const std::string& name) {
 // --- default directory and options
 
 bool LoadDefaultDir() {
-    const std::optional<std::string> bytes = ReadWholeFile(PathOf(DefaultDirFile));
+    const std::optional<std::string> bytes = MeantBytes(PathOf(DefaultDirFile));
     if (!bytes) return false;
     ByteReader in(*bytes);
     const bool known = ReadHeader(in).known;
@@ -195,7 +221,7 @@ bool LoadDefaultDir() {
 }
 
 bool LoadTipWish() {
-    const std::optional<std::string> bytes = ReadWholeFile(PathOf(OptionFile));
+    const std::optional<std::string> bytes = MeantBytes(PathOf(OptionFile));
     if (!bytes) return false;
     ByteReader in(*bytes);
     const int option = in.Int16();

@@ -7,8 +7,9 @@
 //   UserFontSize.bin  header with StmtFontSize
 //   UserOption.bin    a 16-bit integer: 0 a tip is wanted at the start, anything else none
 //
-// The header is "Tessaryn 1" and a 16-bit integer; strings are as in a proof file. A file is never
-// shortened: what an older, longer content leaves behind the new one is not read.
+// The header is "Tessaryn 1" and a 16-bit integer; strings are as in a proof file, none above
+// 65,534 bytes. A file is never shortened: what an older, longer content leaves behind the new one
+// is not read.
 //
 // With an AppPath of "" nothing is read or written.
 #pragma once

@@ -160,6 +160,22 @@ TEST_F(Settings, MissingAndDamagedFilesAreReportedAndDoNoHarm) {
     EXPECT_EQ(Run(EnterPremise("P") + "expect count 1\n"), "");
 }
 
+// Of a file of any size, what can mean something is read and written, and the rest stays.
+TEST_F(Settings, FilesOfAbsurdSizeCostNoMoreThanOthers) {
+    constexpr std::uintmax_t Gigabytes = std::uintmax_t{20} << 30;
+    for (const auto& row : Delivered) fs::resize_file(In(row.first), Gigabytes);
+    Put("DefaultDir.bin", Magic + "\0\0\xFF\xFF\0\0\0\x40"s);  // a string of a gigabyte
+    fs::resize_file(In("DefaultDir.bin"), Gigabytes);
+    EXPECT_EQ(Run("expect beep\nkey Esc\nchoose optLargeText\nsave \"DIR/a.proof\"\n"
+                  "save \"DIR/b.proof\"\n"),
+              "");
+    EXPECT_EQ(Run("key Esc\nexpect control optFile1 \"DIR/b.proof\"\n"
+                  "expect control optFile2 \"DIR/a.proof\"\n"),
+              "");
+    EXPECT_EQ(StmtFontSize, 14);
+    for (const auto& row : Delivered) EXPECT_EQ(fs::file_size(In(row.first)), Gigabytes);
+}
+
 TEST_F(Settings, FilesThatCannotBeWrittenAreReported) {
     for (const auto& row : Delivered) {  // a directory can be neither read nor written
         fs::remove(In(row.first));
