@@ -73,17 +73,11 @@ TEST(Names, EveryControlThatTakesTheFocusHasOne) {
     } rows[] = {
         {Proof.RTB, "Proof"},
         {MyInputBox.Text1, "How many?"},
-        {SubsetFrm.SubsetName, "Enter bound variable for name of subset:"},
-        {SubsetFrm.SelectExpression,
-         "Enter selection criteria (may not refer to name of subset, above):"},
         {InductionForm.RTB, "We want to prove (enter logical expression)..."},
         {Generalize.BoundVarTextBox, "Bound Variable:"},
-        {Find.SearchStringTextBox, "Search String (Case Sensitve)"},
         {PrintProof.Text2, "To Line Number:"},
         {SelectDir.DirectoryList, "Directory:"},
         {Comment.CommentBox, "Edit User Comment, Line 3"},
-        {Find.cmdFind, "Find"},
-        {PrintProof.ChkAllStmts, "All Statements"},
     };
     MyInputBox.Label1.Caption = "How many?";
     Comment.Caption = "Edit User Comment, Line 3";
