@@ -3,7 +3,7 @@
 
 #include <fstream>
 
-#include "Workbench.h"
+#include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/DamagedDocument.h"
 #include "document/ProofFile.h"
@@ -14,22 +14,17 @@ namespace tessaryn {
 namespace {
 
 // Blocks in blocks, side by side and open; comments, line breaks, an introduction, folded lines.
-std::string Nested() {
-    return Build(
-        "choose optIntro\nset CommentBox \"Gr\u00fc\u00dfe @ all\"\nchoose Continue\n" +
-        EnterPremise("P & Q") + "choose optSplit\nclick 1\n" +
-        "click 2\nset CommentBox \"why\\r\\n\\tand how\"\nchoose Continue\n" +
-        "click 3\nset CommentBox \"!\"\nchoose Continue\n" +
-        EnterPremise("ALL(a):[Pppppppppp(a) & Qqqqqqqqqqqqq(a)]\r\n=> R(x)") +
-        "choose optJoin\nclick 4\nclick 3\nanswer No\nchoose optConclusion\nchoose Continue\n" +
-        "choose optCopyStatement\nclick 6\nchoose optConclusion\n" + EnterPremise("x=y") +
-        "choose optConclusion\n" + "choose Continue\n" + EnterPremise("EXIST(a):a=u") +
-        "choose optSpec\nclick 11\n" + "set Text1 \"k\"\nchoose Continue\n" +
-        EnterPremise("k=u => P") + "click 13\nset CommentBox \"\u20ac\"\nchoose Continue\n");
-}
+const char* const Nested =
+    "Intro ; set CommentBox \"Gr\u00fc\u00dfe @ all\" ; choose Continue ; + P & Q ; Split 1"
+    " ; click 2 ; set CommentBox \"why\\r\\n\\tand how\" ; choose Continue"
+    " ; click 3 ; set CommentBox \"!\" ; choose Continue"
+    " ; + ALL(a):[Pppppppppp(a) & Qqqqqqqqqqqqq(a)]\\r\\n=> R(x) ; Join 4 3 ; answer No"
+    " ; Conclusion ; choose Continue ; CopyStatement 6 ; Conclusion ; + x=y ; Conclusion"
+    " ; choose Continue ; + EXIST(a):a=u ; Spec 11 ; < k ; + k=u => P"
+    " ; click 13 ; set CommentBox \"\u20ac\" ; choose Continue";
 
 TEST(DamagedFiles, WhatOpensStaysWhole) {
-    ASSERT_EQ(Nested(), "");
+    ASSERT_EQ(Do(Nested), "");
     const std::string whole = WriteProof();
     const std::string path = testing::TempDir() + "damaged.proof";
     int opened = 0;

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "Workbench.h"
+#include "Steps.h"
 #include "document/Invariants.h"
 
 namespace tessaryn {
@@ -13,13 +13,11 @@ namespace {
 
 // A copy is a document of its own: what becomes of the one leaves the other as it was.
 TEST(Document, TwoAreHeldAtOnce) {
-    std::string joins = EnterPremise("P & Q") + "choose optSplit\nclick 1\n";
-    for (int line = 4; line <= 200; ++line) joins += "choose optJoin\nclick 2\nclick 3\n";
-    ASSERT_EQ(Build(joins), "");
+    std::string joins = "+ P & Q ; Split 1";
+    for (int line = 4; line <= 200; ++line) joins += " ; Join 2 3";
+    ASSERT_EQ(Do(joins), "");
     Document other = Doc;
-    const std::string deletions = "choose optInsert\nclick 2\n" + EnterPremise("R") +
-                                  "choose DelAllSubsequent\nclick 100\nexpect count 99\n";
-    ASSERT_EQ(Build(joins + deletions), "");
+    ASSERT_EQ(Do(joins + " ; Insert 2 ; + R ; DelAllSubsequent 100 ; count 99"), "");
     EXPECT_EQ(other.StmtCount, 200);
     std::swap(Doc, other);
     EXPECT_EQ(CheckDocument(), "");

@@ -11,6 +11,7 @@
 #include <fstream>
 #include <functional>
 
+#include "Steps.h"
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Invariants.h"
@@ -51,18 +52,17 @@ class ProofFileTest : public testing::Test {
     fs::path directory;
 };
 
-const char* const BlockProof = "choose optSplit\nclick 1\nchoose optConclusion\n";
+const char* const BlockProof = "+ P & Q ; Split 1 ; Conclusion";
 
 // A closed block, an open one with a comment, a folded line.
 std::string BuildVariedProof() {
-    return Build(EnterPremise("P & Q") + BlockProof +
-                 EnterPremise("ALL(a):[Pppppppppp(a) & Qqqqqqqqqqqqq(a)]\r\n=> R(x)") +
-                 "click 5\nset CommentBox \"why\"\nchoose Continue\n"
-                 "choose optJoin\nclick 4\nclick 5\n");
+    return Do(std::string(BlockProof) +
+              " ; + ALL(a):[Pppppppppp(a) & Qqqqqqqqqqqqq(a)]\\r\\n=> R(x)"
+              " ; click 5 ; set CommentBox \"why\" ; choose Continue ; Join 4 5");
 }
 
 TEST_F(ProofFileTest, PremiseByteForByte) {
-    ASSERT_EQ(Build(EnterPremise("P")), "");
+    ASSERT_EQ(Do("+ P"), "");
     EditAt(1).SpareVars = " x ";
     EditAt(1).Flagged = true;
     EditAt(1).NewNumber = 7;
@@ -129,7 +129,7 @@ TEST_F(ProofFileTest, LongTextGetsALongLength) {
 }
 
 TEST_F(ProofFileTest, OneByteTextIsConvertedWithItsIndexes) {
-    ASSERT_EQ(Build(EnterPremise("P & Q") + BlockProof), "");
+    ASSERT_EQ(Do(BlockProof), "");
     ProofText.Replace(0, 0,
                       "\xE4\x80"
                       "b\r\n\r\n");  // "ä€b" in Windows-1252
@@ -214,24 +214,20 @@ TEST_F(ProofFileTest, DamageIsRefused) {
 }
 
 TEST_F(ProofFileTest, MarksOfAFileCountInNoDeletion) {
-    const std::string path = Quoted(Path("marked.proof"));
-    ASSERT_EQ(Build(EnterAxiom("A") + EnterAxiom("B") + EnterAxiom("C") +
-                    "choose optJoin\nclick 3\nclick 2\n" + EnterAxiom("D")),
-              "");
+    const std::string open = "open " + Quoted(Path("marked.proof"));
+    ASSERT_EQ(Do("! A ; ! B ; ! C ; Join 3 2 ; ! D"), "");
     EditAt(2).Flagged = true;
     EditAt(2).NewNumber = 1;
     WriteFile("marked.proof", WriteProof());
-    for (const char* deletion :
-         {"choose DelAllSubsequent\nclick 5\n", "choose DeleteAllRef\nclick 5\nexpect no form\n"}) {
-        EXPECT_EQ(Build("open " + path + "\n" + deletion +
-                        "expect count 4\nexpect line 2 \"B\"\nexpect rule 4 \"Join, 3, 2\"\n"),
-                  "");
+    for (const char* deletion : {"DelAllSubsequent 5", "DeleteAllRef 5 ; no form"}) {
+        const std::string result = " ; count 4 ; 2 = B ; 4 by Join, 3, 2";
+        EXPECT_EQ(Do(open + " ; " + deletion + result), "");
         EXPECT_FALSE(At(2).Flagged);
     }
 }
 
 TEST_F(ProofFileTest, UnlexableTextIsShownUnformatted) {
-    ASSERT_EQ(Build(EnterPremise("P & Q") + EnterPremise("R & S")), "");
+    ASSERT_EQ(Do("+ P & Q ; + R & S"), "");
     ProofText.Replace(static_cast<std::size_t>(StmtTable[1].StartStmt), 1, "$");
     WriteFile("odd.proof", WriteProof());
     ASSERT_TRUE(Open(Path("odd.proof")));
@@ -242,7 +238,7 @@ TEST_F(ProofFileTest, UnlexableTextIsShownUnformatted) {
 }
 
 TEST_F(ProofFileTest, FailureToSaveLosesNothing) {
-    ASSERT_EQ(Build(EnterPremise("P")), "");
+    ASSERT_EQ(Do("+ P"), "");
     const auto savingFails = [&](const std::string& path) {
         ProofFileName = path;
         Proof.Caption = "as before";

@@ -7,9 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "Workbench.h"
+#include "Steps.h"
 #include "axioms/EnteredNumber.h"
 #include "cli/HeadlessPlatform.h"
+#include "cli/Script.h"
 #include "expr/Blanks.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
@@ -37,9 +38,7 @@ TEST(EnteredNumber, TakesTheLongestNumberAtTheHead) {
 
 TEST(EnteredNumber, RefusalsTellWhatToEnter) {
     for (const char* entry : {"40000", "100", "x"}) {
-        EXPECT_EQ(Build(std::string("choose optPowerSet\nset Text1 \"") + entry +
-                        "\"\nchoose Continue\n"),
-                  "");
+        EXPECT_EQ(Do(std::string("PowerSet ; < ") + entry), "");
         ASSERT_FALSE(Headless.Beeps.empty()) << entry;
         EXPECT_EQ(Headless.Beeps.back(), "Enter a whole number from 1 to 99.") << entry;
     }
@@ -83,17 +82,16 @@ TEST(AxiomTexts, OfSetTheoryAreClosedFormulasUpToTheLargestNumber) {
 TEST(AxiomDialogues, RefuseWhatGetsTooLong) {
     std::string property = "k=k";
     while (property.size() < 10000) property += "&k=k";
-    EXPECT_EQ(Build("choose optNumberAxioms\nchoose optAdd\nset BoundVarTextBox \"k\"\nset RTB " +
-                    Quoted(property) +
-                    "\nchoose cmdContinue\nexpect form InductionForm\nexpect count 7\n"
-                    "expect control StatusLine \"Unable to parse expression\"\n"),
+    const std::string refused =
+        " ; choose cmdContinue ; count 7 ; control StatusLine \"Unable to parse expression\" ; "
+        "form ";
+    EXPECT_EQ(Do("NumberAxioms ; Add ; set BoundVarTextBox \"k\" ; set RTB " + Quoted(property) +
+                 refused + "InductionForm"),
               "");
     while (property.size() < 32766) property += " ";
-    EXPECT_EQ(Build("choose optNumberAxioms\nchoose optSubset\nclick 1\nset SubsetName \"y\"\n"
-                    "set BoundVars \"k\"\nset SelectExpression " +
-                    Quoted(property) +
-                    "\nchoose cmdContinue\nexpect form SubsetFrm\nexpect count 7\n"
-                    "expect control StatusLine \"Unable to parse expression\"\n"),
+    EXPECT_EQ(Do("NumberAxioms ; Subset 1 ; set SubsetName \"y\" ; set BoundVars \"k\""
+                 " ; set SelectExpression " +
+                 Quoted(property) + refused + "SubsetFrm"),
               "");
 }
 

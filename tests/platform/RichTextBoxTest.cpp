@@ -66,35 +66,6 @@ TEST_F(RichTextBoxTest, SelectionStaysInsideTheText) {
     }
 }
 
-TEST_F(RichTextBoxTest, NewTextTakesTheFormatOfItsNeighbour) {
-    const struct {
-        int start, length;
-        const char* text;
-        const char* shown;
-    } rows[] = {{2, 2, "x", "C12.1[abx]C12.3[ef]"},
-                {0, 0, "x", "C12.1[xab]C12.2[cd]C12.3[ef]"},
-                {0, 3, "x", "C12.2[xd]C12.3[ef]"},
-                {6, 0, "x", "C12.1[ab]C12.2[cd]C12.3[efx]"},
-                {0, 6, "x", "C12.1[x]"},
-                {1, 4, "", "C12.1[a]C12.3[f]"},
-                {3, 0, "\n", "C12.1[ab]C12.2[c\r\nd]C12.3[ef]"}};
-    for (const auto& row : rows) {
-        for (const bool twoSteps : {false, true}) {  // as a character is swapped for a glyph
-            Fill();
-            Select(row.start, row.length);
-            if (twoSteps) box.SelText = "";
-            box.SelText = row.text;
-            EXPECT_EQ(Shown(box), row.shown);
-            EXPECT_EQ(box.SelLength, 0);
-            box.Text = "";
-        }
-    }
-    Fill();
-    Select(0, 6);
-    box.SelText = "";
-    EXPECT_EQ(box.InsertionFormat(), Coloured(1)) << "an emptied box goes on in its format";
-}
-
 TEST_F(RichTextBoxTest, AttributesOfTheSelection) {
     Fill();
     Select(1, 4);

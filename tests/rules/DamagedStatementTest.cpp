@@ -1,7 +1,7 @@
 // What the rules say to a stored statement that does not parse, as a damaged file may hold one.
 #include <gtest/gtest.h>
 
-#include "Workbench.h"
+#include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
 #include "mainwindow/ProgramState.h"
@@ -15,8 +15,7 @@ namespace {
 constexpr int Damaged = 3;
 
 void BuildDamagedProof() {
-    ASSERT_EQ(Build(EnterAxiom("ALL(a):P(a)") + EnterPremise("f(x) @ s") + EnterPremise("A & B")),
-              "");
+    ASSERT_EQ(Do("! ALL(a):P(a) ; + f(x) @ s ; + A & B"), "");
     ProofText.Replace(static_cast<std::size_t>(StmtTable[Damaged].StartStmt - 1), 1, "$");
 }
 

@@ -23,7 +23,16 @@ const std::string Quantifiers =
     " ; + ~EXIST(a):~P(a) ; + x @ s & R(x,y) ; Conclusion ; choose Continue"
     " ; + P(k) | ALL(b):[b=k => P(b)] ; Spec 2 ; < m";
 
-const std::pair<const char*, std::string> Proofs[] = {
+struct Subject {
+    const char* name;
+    std::string steps;
+};
+
+void PrintTo(const Subject& subject, std::ostream* out) {
+    *out << subject.name;
+}
+
+const Subject Proofs[] = {
     {"Rewrites",
      "+ P & Q | ~~[R => ~S] ; + [P <=> Q] & R => ~[~P & ~[~Q]] ; + [P => T] & [T => P]"
      " ; + P | R | S ; + [P => T] & [R => T] & [S => T] ; + P"
@@ -215,11 +224,11 @@ void TryItem(Watch& watch, const MenuItem& item, const std::vector<int>& places)
     RuleMode = 0;
 }
 
-class EveryClick : public testing::TestWithParam<std::pair<const char*, std::string>> {};
+class EveryClick : public testing::TestWithParam<Subject> {};
 
 TEST_P(EveryClick, WritesOrTellsWhyNot) {
     for (const bool accept : {false, true}) {
-        ASSERT_EQ(Do(GetParam().second), "");
+        ASSERT_EQ(Do(GetParam().steps), "");
         Watch watch(accept);
         Headless.NextStep = [&] {
             watch.answers.Reply();
@@ -236,7 +245,7 @@ TEST_P(EveryClick, WritesOrTellsWhyNot) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Proofs, EveryClick, testing::ValuesIn(Proofs),
-                         [](const auto& proof) { return std::string(proof.param.first); });
+                         [](const auto& proof) { return std::string(proof.param.name); });
 
 }  // namespace
 }  // namespace tessaryn

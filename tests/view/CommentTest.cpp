@@ -1,7 +1,7 @@
 // Comments that are long or hold what the program itself writes into its text.
 #include <gtest/gtest.h>
 
-#include "Workbench.h"
+#include "Steps.h"
 #include "document/Document.h"
 #include "document/Invariants.h"
 #include "document/ProofFile.h"
@@ -29,8 +29,7 @@ TEST(Comments, SurviveEditingSavingReopeningAndUndo) {
         Long(),
     };
     for (const std::string& text : texts) {
-        ASSERT_EQ(Build(EnterPremise("P & Q") + "choose optSplit\nclick 1\nchoose optConclusion\n" +
-                        "choose optIntro\nchoose cmdClear\nchoose Continue\n"),
+        ASSERT_EQ(Do("+ P & Q ; Split 1 ; Conclusion ; Intro ; choose cmdClear ; choose Continue"),
                   "");
         for (int line = 0; line <= StmtCount; ++line) {
             line == 0 ? SetIntroduction(text) : SetComment(line, text);
@@ -60,7 +59,7 @@ TEST(Comments, PassTheBoxUnchanged) {
         {"a\tb \\'e4 {x}\r\n\r\n\tc @ d", "ab \\'e4 {x}\r\n\r\nc @ d"},
     };
     for (const auto& [given, back] : rows) {
-        ASSERT_EQ(Build(EnterPremise("P")), "");
+        ASSERT_EQ(Do("+ P"), "");
         SetComment(1, given);
         Comment.Visible = true;
         EditingIntro = false;
@@ -73,13 +72,12 @@ TEST(Comments, PassTheBoxUnchanged) {
 }
 
 TEST(Comments, AnEmptyIntroductionLeavesItsLineEnds) {
-    ASSERT_EQ(Build("choose optIntro\nchoose Continue\n" + EnterPremise("P")), "");
+    ASSERT_EQ(Do("Intro ; choose Continue ; + P"), "");
     EXPECT_EQ(IntroEnd, 0);
     EXPECT_EQ(StmtTable[1].StartLine, 5);
-    ASSERT_EQ(Build("choose optIntro\nchoose Continue\n" + EnterPremise("P") +
-                    "click at 0\nclick 1\nexpect form Comment\nchoose Cancel\n"
-                    "choose optIntro\nset CommentBox \"I\"\nchoose Continue\n"
-                    "choose optIntro\nchoose cmdClear\nchoose Continue\n"),
+    ASSERT_EQ(Do("Intro ; choose Continue ; + P ; click at 0 ; click 1 ; form Comment"
+                 " ; choose Cancel ; Intro ; set CommentBox \"I\" ; choose Continue"
+                 " ; Intro ; choose cmdClear ; choose Continue"),
               "");
     EXPECT_EQ(StmtTable[1].StartLine, 1);
 }

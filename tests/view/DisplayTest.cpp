@@ -7,7 +7,6 @@
 #include <functional>
 
 #include "Steps.h"
-#include "Workbench.h"
 #include "mainwindow/Proof.h"
 #include "output/WrittenProof.h"
 
@@ -32,7 +31,7 @@ std::string Look() {
 }
 
 TEST(Display, StatementFields) {
-    ASSERT_EQ(Build(EnterAxiom("x @ s & ALL(a):P(a)") + EnterPremise("y=x")), "");
+    ASSERT_EQ(Do("! x @ s & ALL(a):P(a) ; + y=x"), "");
     EXPECT_EQ(Look(),
               "1|C12 000000 b\n"
               ".|C12 000000\n"
@@ -53,15 +52,14 @@ TEST(Display, StatementFields) {
 }
 
 TEST(Display, ClosedBlockAndTriangle) {
-    const std::string block =
-        EnterPremise("P & Q") + "choose optSplit\nclick 1\nchoose optConclusion\n";
-    ASSERT_EQ(Build(block), "");
+    const std::string block = "+ P & Q ; Split 1 ; Conclusion";
+    ASSERT_EQ(Do(block), "");
     const std::string open = Look();
     EXPECT_NE(open.find("1|C12 808080 b\n"), std::string::npos) << "grey inside the block";
     EXPECT_NE(open.find("\n4|W10 000000\n |C12 000000\nConclusion, 1|C10 808080\n"),
               std::string::npos)
         << open;
-    ASSERT_EQ(Build(block + "click 4 rule\n"), "");
+    ASSERT_EQ(Do(block + " ; click 4 rule"), "");
     EXPECT_NE(Look().find("\n5|W10 000000\n |C12 000000\nConclusion, 1|C10 808080\n"),
               std::string::npos);
     EXPECT_NE(ProofText.find("\t4 Conclusion, 1"), std::string::npos) << "the text keeps its 4";
@@ -83,7 +81,7 @@ TEST(Display, CommentsAndIntroductionAreBlueWithElementSigns) {
 
 // Only what changed is handed on: all else keeps its formats and its place.
 TEST(Display, HandsOnTheChangedRange) {
-    ASSERT_EQ(Build(EnterPremise("P & Q") + EnterPremise("R") + EnterPremise("S")), "");
+    ASSERT_EQ(Do("+ P & Q ; + R ; + S"), "");
     Proof.RTB.TakeChange();
     EditAt(2).Highlight = false;
     ResetFonts();
@@ -117,9 +115,7 @@ TEST(Display, FollowsEveryFieldThatDecidesAFormat) {
 }
 
 TEST(Display, NamesInUseOutsideTheInnermostPremiseAreFixed) {
-    ASSERT_EQ(Build(EnterPremise("P(x)") + EnterPremise("Q(y)") + "choose optConclusion\n" +
-                    "choose Continue\n" + EnterPremise("R(x,y,z)")),
-              "");
+    ASSERT_EQ(Do("+ P(x) ; + Q(y) ; Conclusion ; choose Continue ; + R(x,y,z)"), "");
     EXPECT_EQ(StmtTable[4].FreeVars, " x y z ");
     EXPECT_EQ(StmtTable[4].FixedVars, " x ") << "y occurs only inside a closed block";
     EditAt(1).Flagged = true;  // as a file may have it
