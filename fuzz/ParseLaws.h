@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "ReferenceParser.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
 #include "expr/Same.h"
@@ -23,10 +24,22 @@ inline bool BracketsNest(const Expression& expression) {
     return open.empty();
 }
 
-// The first law that the text breaks, "" if none. A text that is refused must have its place
-// within itself; one that parses, a print that is stable and is the same expression.
+// Whether the parse is what the definition gives, up to the length that it can be asked for.
+inline bool IsAsDefined(const Expression& parsed) {
+    constexpr size_t longest = 2000;
+    if (parsed.text.size() > longest) return true;
+    const Expression defined = ReferenceParse(parsed.text);
+    if (parsed.error != defined.error || parsed.errorPos != defined.errorPos) return false;
+    return !parsed.error.empty() ||
+           (parsed.tokens == defined.tokens && parsed.nodes == defined.nodes);
+}
+
+// The first law that the text breaks, "" if none. It must be parsed as defined. A text that is
+// refused must have its place within itself; one that parses, a print that is stable and is the
+// same expression.
 inline std::string BrokenLaw(const std::string& text) {
     const Expression parsed = ParseExpression(text);
+    if (!IsAsDefined(parsed)) return "the parse is as defined";
     if (parsed.errorPos < 0 || parsed.errorPos > static_cast<int>(text.size()))
         return "the place of a fault lies in the text";
     if (!parsed.error.empty()) return "";

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "../../fuzz/ParseLaws.h"
+#include "ParseLaws.h"
 #include "expr/NameList.h"
 
 namespace tessaryn {

@@ -3,6 +3,9 @@
 #include <set>
 #include <stdexcept>
 
+#include "expr/Parse.h"
+#include "text/Utf8.h"
+
 namespace tessaryn {
 
 namespace {
@@ -66,7 +69,8 @@ struct Reference {
                            rest.substr(0, 2))) {
                 token = rest.substr(0, 2);
             } else if (!In(c, " \t\n\r") && !In(c, "()[]+-*/^_,~`:@=<>&|")) {
-                stop("18. Illegal character " + token, static_cast<int>(i) + 1);
+                stop("18. Illegal character " + rest.substr(0, SequenceLength(rest, 0)),
+                     static_cast<int>(i) + 1);
             }
             const size_t length = token.size();
             if (token == "all" || token == "All") token = "ALL";
