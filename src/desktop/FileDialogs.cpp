@@ -1,5 +1,6 @@
 // The dialogues for opening and saving files.
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -31,8 +32,34 @@ QString Suffix(const std::string& filter) {
     return pattern.match(ToQt(filter)).captured(1);
 }
 
+// Finds a file also by its name without the ending that the other dialogue gives to such a name.
+class OpenDialogue : public QFileDialog {
+  public:
+    OpenDialogue(QWidget* parent, const CommonDialog& dialog)
+        : QFileDialog(parent, QStringLiteral("Open")),
+          suffix_(Suffix(dialog.Filter)),
+          lastMode_(dialog.FileMustExist ? ExistingFile : AnyFile) {
+        setAcceptMode(AcceptOpen);
+        setFileMode(AnyFile);
+    }
+
+    void accept() override {
+        setDefaultSuffix(QString());
+        if (!QFileInfo::exists(selectedFiles().value(0))) setDefaultSuffix(suffix_);
+        // Earlier, it would not let the user choose Open for a name without its ending.
+        setFileMode(lastMode_);
+        QFileDialog::accept();
+        setFileMode(AnyFile);
+    }
+
+  private:
+    QString suffix_;
+    FileMode lastMode_;
+};
+
 bool Run(QFileDialog& dialogue, CommonDialog& dialog) {
     SyncWindows();
+    if (!dialog.Title.empty()) dialogue.setWindowTitle(ToQt(dialog.Title));
     LeaveManualUsable(dialogue);
     dialogue.setNameFilters(Filters(dialog.Filter));
     if (!dialog.InitDir.empty()) dialogue.setDirectory(ToQt(dialog.InitDir));
@@ -47,9 +74,7 @@ bool Run(QFileDialog& dialogue, CommonDialog& dialog) {
 }  // namespace
 
 bool ShowOpen(CommonDialog& dialog) {
-    QFileDialog dialogue(TopWindow(), QStringLiteral("Open"));
-    dialogue.setAcceptMode(QFileDialog::AcceptOpen);
-    dialogue.setFileMode(dialog.FileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    OpenDialogue dialogue(TopWindow(), dialog);
     return Run(dialogue, dialog);
 }
 

@@ -1,6 +1,8 @@
 // Open, Save and Save As: the proof file and the window around it.
 #include <algorithm>
+#include <filesystem>
 #include <new>
+#include <system_error>
 #include <utility>
 
 #include "document/ProofFile.h"
@@ -67,6 +69,15 @@ void TakeOver(Document& proof) {
     }
 }
 
+// A name without ending is that of a file with the ending of proofs where it is of no other.
+std::string NameOfProof(const std::string& entered) {
+    const std::string ended = entered + ".proof";
+    std::error_code error;
+    const bool itself =
+        WithProofExtension(entered) != ended || std::filesystem::is_regular_file(entered, error);
+    return itself || !std::filesystem::is_regular_file(ended, error) ? entered : ended;
+}
+
 // Why a file can't be opened, behind its name; "" if it now is the open proof.
 std::string OpenedOr(const std::string& fileName) {
     InputFile file(fileName);
@@ -119,10 +130,11 @@ bool SaveProofFile() {
     return true;
 }
 
-void ReadProofFile(const std::string& fileName) {
+void ReadProofFile(const std::string& entered) {
     SetUndoRedo(false, false);
     RuleMode = 0;
     if (InsertMode) EndInsertMode();
+    const std::string fileName = NameOfProof(entered);
     std::string reason;
     try {
         reason = OpenedOr(fileName);

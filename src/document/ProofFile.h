@@ -36,9 +36,10 @@ bool SaveProof();
 bool SaveProofFile();
 
 // Replaces the document by the content of a file, which becomes ProofFileName, and rebuilds the
-// display. On failure, memory that is short included, the document, its name and the title stay,
-// OperationCancelled is set, and StatusLine says so.
-void ReadProofFile(const std::string& fileName);
+// display. A name without ending finds the file that ends in ".proof". On failure, memory that is
+// short included, the document, its name and the title stay, OperationCancelled is set, and
+// StatusLine says so.
+void ReadProofFile(const std::string& entered);
 
 // The title for the open proof.
 std::string ProofTitle();

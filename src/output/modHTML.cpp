@@ -129,7 +129,8 @@ void HTMLCommand() {
     SetPrompt("");
     CommonDialog& dialog = Proof.CommonDialog1;
     if (!dialog.FileName.empty()) dialog.FileName = WithExtension(dialog.FileName, "html");
-    CommonDialog choice{dialog.FileName, "HTML (*.html)|*.html", DefaultDir, true, false};
+    CommonDialog choice{dialog.FileName, "HTML (*.html)|*.html", DefaultDir, true,
+                        false,           "Make HTML File"};
     OperationCancelled = true;
     if (!ShowSave(choice)) return;
     OperationCancelled = false;

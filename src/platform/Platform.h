@@ -49,7 +49,8 @@ struct CommonDialog {
     std::string Filter;    // "Proofs (*.proof)|*.proof"
     std::string InitDir;   // "" for the system's choice
     bool OverwritePrompt = false;
-    bool FileMustExist = false;
+    bool FileMustExist = false;  // a name without ending may stand for one with the filter's
+    std::string Title{};         // of its window; "" for what is usual
 };
 
 // Each returns false, with FileName as it was, when the user cancels.
