@@ -7,6 +7,7 @@
 
 #include "cli/FormState.h"
 #include "cli/HeadlessPlatform.h"
+#include "platform/PageEnd.h"
 #include "platform/Platform.h"
 #include "text/Utf8.h"
 
@@ -26,7 +27,7 @@ struct Line {
 
 struct Printer {
     std::vector<Line> lines;
-    int end = 0;  // the surface's length
+    RichTextBox* surface = nullptr;
     std::vector<std::string> pages;
 };
 
@@ -107,7 +108,7 @@ PrinterState ReadyPrinter(PrinterPage& page) {
 
 bool LayOutForPrinter(RichTextBox& surface, int width) {
     Job.lines = Measurer(surface, width).Lines();
-    Job.end = surface.TextLength();
+    Job.surface = &surface;
     FillTexts(Job.lines, surface);
     return true;
 }
@@ -119,14 +120,21 @@ bool StartPrinting() {
 
 int PrintRange(int from, const PageRect& rect) {
     int room = rect.Bottom - rect.Top;
-    auto line = std::lower_bound(Job.lines.begin(), Job.lines.end(), from,
-                                 [](const Line& one, int start) { return one.start < start; });
-    for (bool first = true; line != Job.lines.end(); ++line, first = false) {
-        if (!first && line->height > room) return line->start;
-        room -= line->height;
-        Job.pages.back() += line->text;
+    const auto lineAt = [](int position) {
+        return std::lower_bound(Job.lines.begin(), Job.lines.end(), position,
+                                [](const Line& one, int start) { return one.start < start; });
+    };
+    const auto first = lineAt(from);
+    auto beyond = first;
+    while (beyond != Job.lines.end() && (beyond == first || beyond->height <= room)) {
+        room -= beyond->height;
+        ++beyond;
     }
-    return Job.end;
+    const int end = beyond == Job.lines.end()
+                        ? Job.surface->TextLength()
+                        : PageEnd(Job.surface->GetText(), from, beyond->start);
+    for (auto line = first; line != lineAt(end); ++line) Job.pages.back() += line->text;
+    return end;
 }
 
 bool NextPage() {

@@ -8,6 +8,7 @@
 #include <QTextLayout>
 #include <algorithm>
 #include <cmath>
+#include <deque>
 #include <limits>
 #include <memory>
 #include <string>
@@ -15,7 +16,9 @@
 #include "desktop/PaintedText.h"
 #include "document/ProofFile.h"
 #include "mainwindow/ProgramState.h"
+#include "output/Printing.h"
 #include "output/Settings.h"
+#include "platform/PageEnd.h"
 #include "platform/Platform.h"
 
 namespace tessaryn {
@@ -55,7 +58,7 @@ QFont PrintedFont(const CharFormat& format) {
 
 PrinterState AskForPdf(QPrinter& printer) {
     const std::string name = ProofFileName.empty() ? "" : WithExtension(ProofFileName, "pdf");
-    CommonDialog choice{name, "PDF (*.pdf)|*.pdf", DefaultDir, true, false};
+    CommonDialog choice{name, "PDF (*.pdf)|*.pdf", DefaultDir, true, false, "Print to PDF"};
     if (!ShowSave(choice)) return PrinterState::Cancelled;
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(ToQt(choice.FileName));
@@ -116,10 +119,33 @@ class PrintedLine {
     QTextLayout layout_;
 };
 
-int StartOfLine(const std::string& text, int position) {
-    if (position == 0) return 0;
-    const std::size_t end = text.rfind('\n', static_cast<std::size_t>(position) - 1);
-    return end == std::string::npos ? 0 : static_cast<int>(end) + 1;
+struct PageRoom {
+    double left = 0;    // of the page's height, in dots
+    bool empty = true;  // a row that is higher than the page goes on it all the same
+};
+
+// Takes up room for the rows of a line, from a position on. The start of the first row that does
+// not fit; -1 if all do.
+int FirstRowBeyond(const PrintedLine& line, int from, PageRoom& room) {
+    for (int row = 0; row < line.RowCount(); ++row) {
+        if (line.RowStart(row) < from) continue;
+        const double height = line.Row(row).height();
+        if (!room.empty && height > room.left) return line.RowStart(row);
+        room.left -= height;
+        room.empty = false;
+    }
+    return -1;
+}
+
+// Draws the rows that start between two positions. Gives the place below them.
+QPointF Draw(const PrintedLine& line, int from, int end, QPointF place) {
+    for (int row = 0; row < line.RowCount(); ++row) {
+        if (line.RowStart(row) < from || line.RowStart(row) >= end) continue;
+        const QTextLine shown = line.Row(row);
+        shown.draw(Job().painter.get(), place - shown.position());
+        place.ry() += shown.height();
+    }
+    return place;
 }
 
 }  // namespace
@@ -136,6 +162,7 @@ PrinterState ReadyPrinter(PrinterPage& page) {
         job.printer->setPrinterName(standard.printerName());
     }
     if (!job.printer->isValid()) return PrinterState::Failed;
+    job.printer->setDocName(ToQt(PrintTitle()));
     job.printer->setFullPage(true);  // coordinates from the edges of the paper
     const QRectF paper = job.printer->paperRect(QPrinter::DevicePixel);
     page = {Twips(paper.width()), Twips(paper.height()), 0, 0};
@@ -155,24 +182,20 @@ bool StartPrinting() {
 }
 
 int PrintRange(int from, const PageRect& rect) {
-    const PrinterJob& job = Job();
-    const std::string& text = job.surface->GetText();
-    const double bottom = Dots(rect.Bottom);
-    double y = Dots(rect.Top);
-    bool empty = true;  // a row that is higher than the page goes on it all the same
-    for (int start = StartOfLine(text, from); start < job.surface->TextLength();) {
-        const PrintedLine line(*job.surface, start);
-        for (int row = 0; row < line.RowCount(); ++row) {
-            if (line.RowStart(row) < from) continue;
-            const QTextLine shown = line.Row(row);
-            if (!empty && y + shown.height() > bottom) return line.RowStart(row);
-            shown.draw(job.painter.get(), QPointF(Dots(rect.Left), y) - shown.position());
-            y += shown.height();
-            empty = false;
-        }
-        start = line.Next();
+    RichTextBox& surface = *Job().surface;
+    const std::string& text = surface.GetText();
+    std::deque<PrintedLine> lines;
+    PageRoom room{Dots(rect.Bottom) - Dots(rect.Top)};
+    int beyond = -1;
+    for (int start = LineStart(text, from); beyond < 0 && start < surface.TextLength();) {
+        lines.emplace_back(surface, start);
+        beyond = FirstRowBeyond(lines.back(), from, room);
+        start = lines.back().Next();
     }
-    return job.surface->TextLength();
+    const int end = beyond < 0 ? surface.TextLength() : PageEnd(text, from, beyond);
+    QPointF place(Dots(rect.Left), Dots(rect.Top));
+    for (const PrintedLine& line : lines) place = Draw(line, from, end, place);
+    return end;
 }
 
 bool NextPage() {

@@ -18,6 +18,9 @@ void InsertTabs(std::string& text);
 // Builds the copy of statements first to last on WorkArea.
 void BuildPrintCopy(int first, int last);
 
+// The name of what is printed: the caption, else the name of the proof's file without its ending.
+std::string PrintTitle();
+
 enum class PrintResult { Done, Cancelled, Failed };
 
 // Readies the printer and lays the surface out for it. Margins are in twips; width and height tell

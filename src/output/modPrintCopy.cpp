@@ -1,5 +1,6 @@
 // The copy that goes to the printer: text and formats of the pages.
 #include <algorithm>
+#include <filesystem>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -114,6 +115,12 @@ void BuildPrintCopy(int first, int last) {
     for (int number = first; number <= last; ++number) AppendStatement(copy, number);
     copy.Append(ProofFileName.empty() ? "(Untitled)" : ProofFileName, TextSize);
     copy.PutOn(WorkArea.RTB);
+}
+
+std::string PrintTitle() {
+    if (!ProofCaption.empty()) return ProofCaption;
+    return ProofFileName.empty() ? "Untitled"
+                                 : std::filesystem::path(ProofFileName).stem().string();
 }
 
 PrintResult PrintStatements(int first, int last) {

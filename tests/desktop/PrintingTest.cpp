@@ -1,41 +1,23 @@
 // Printing where there is no printer: a PDF that the user names.
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
-#include <QTimer>
 
-#include "desktop/Desktop.h"
+#include "AnsweredFileBox.h"
+#include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "output/Printing.h"
 #include "output/Settings.h"
+#include "platform/PageEnd.h"
+#include "platform/Platform.h"
 #include "view/Display.h"
 
 using namespace tessaryn;
 
 namespace {
-
-// By the last file dialogue, when it came up.
-QString DirectoryShown;
-QString NameShown;
-
-// Answers the file dialogue that comes next; "" cancels it.
-void AnswerFileDialogue(const QString& path) {
-    QTimer::singleShot(50, qApp, [path] {
-        auto* dialogue = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (dialogue == nullptr) return AnswerFileDialogue(path);
-        DirectoryShown = dialogue->directory().path();
-        NameShown = dialogue->selectedFiles().value(0);
-        dialogue->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
-        QDialog& answered = *dialogue;
-        path.isEmpty() ? answered.reject() : answered.accept();
-    });
-}
 
 PrintResult PrintTo(const QString& path) {
     AnswerFileDialogue(path);
@@ -48,16 +30,42 @@ PrintResult PrintTo(const QString& path) {
 void FillWorkArea(int lines) {
     std::string text;
     for (int i = 1; i <= lines; ++i) {
-        text += std::to_string(i) + "\tx e s & " + std::string(i % 7 == 0 ? 400 : 20, 'y') + "\r\n";
+        const std::string name(i % 7 == 0 ? 400 : 20, 'y');
+        text += std::to_string(i) + "\tx e s & " + name + "\r\n\tAxiom\r\n\r\n";
     }
     const int length = static_cast<int>(text.size());
     SetContent(WorkArea.RTB, text, {{0, length, {StatementFont, 10, Black, false}}});
 }
 
-int PagesOf(const QString& path) {
+QByteArray ContentOf(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return -1;
-    return static_cast<int>(file.readAll().count("/Type /Page\n"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// As a PDF holds it.
+QByteArray TitleEntry(const QString& title) {
+    QByteArray entry("/Title (\xFE\xFF");
+    for (const QChar c : title) {
+        entry += static_cast<char>(c.row());
+        entry += static_cast<char>(c.cell());
+    }
+    return entry + ')';
+}
+
+// Where the pages but the first begin, printed once more.
+std::vector<int> PageStarts(const QString& path) {
+    AnswerFileDialogue(path);
+    PrinterPage page;
+    EXPECT_EQ(ReadyPrinter(page), PrinterState::Ready);
+    const PageRect rect{Inch, Inch, page.Width - Inch, page.Height - Inch};
+    EXPECT_TRUE(LayOutForPrinter(WorkArea.RTB, rect.Right - rect.Left) && StartPrinting());
+    std::vector<int> starts;
+    const int length = WorkArea.RTB.TextLength();
+    for (int at = PrintRange(0, rect); at < length && NextPage(); at = PrintRange(at, rect)) {
+        starts.push_back(at);
+    }
+    ReleasePrinter();
+    return starts;
 }
 
 }  // namespace
@@ -67,17 +75,28 @@ TEST(Printing, PutsAllPagesIntoAPdf) {
     StartProgram();
     const QTemporaryDir directory;
     const QString file = directory.filePath(QStringLiteral("my proof.pdf"));
-    FillWorkArea(500);  // one line in seven takes six rows: some 860 rows of 61 to a page
+    FillWorkArea(170);  // one line in seven takes six rows: some 620 rows of 61 to a page
+    ProofCaption = "S\xC3\xA4tze";
     EXPECT_EQ(PrintTo(file), PrintResult::Done);
-    EXPECT_GE(PagesOf(file), 13);
-    EXPECT_LE(PagesOf(file), 17);
+    EXPECT_EQ(FileBoxShown.title, QStringLiteral("Print to PDF"));
+    const QByteArray pdf = ContentOf(file);
+    EXPECT_TRUE(pdf.contains(TitleEntry(QStringLiteral("S\u00E4tze"))));
+
+    const std::vector<int> starts = PageStarts(directory.filePath(QStringLiteral("again.pdf")));
+    EXPECT_EQ(pdf.count("/Type /Page\n"), static_cast<int>(starts.size()) + 1);
+    EXPECT_NEAR(static_cast<double>(starts.size()), 10, 2);
+    const std::string& text = WorkArea.RTB.GetText();
+    for (const int start : starts) {
+        EXPECT_EQ(LineStart(text, start), start) << "a statement is parted";
+        EXPECT_NE(text[static_cast<std::size_t>(start)], '\t') << "from its annotation";
+    }
 
     // The proof's name is suggested; a new proof begins in the default directory.
     ASSERT_TRUE(QDir(directory.path()).mkdir(QStringLiteral("begin")));
     DefaultDir = directory.filePath(QStringLiteral("begin")).toStdString();
     EXPECT_EQ(PrintTo(QString()), PrintResult::Cancelled);
-    EXPECT_EQ(DirectoryShown.toStdString(), DefaultDir);
+    EXPECT_EQ(FileBoxShown.directory.toStdString(), DefaultDir);
     ProofFileName = directory.filePath(QStringLiteral("sets.proof")).toStdString();
     EXPECT_EQ(PrintTo(QString()), PrintResult::Cancelled);
-    EXPECT_EQ(NameShown, directory.filePath(QStringLiteral("sets.pdf")));
+    EXPECT_EQ(FileBoxShown.name, directory.filePath(QStringLiteral("sets.pdf")));
 }

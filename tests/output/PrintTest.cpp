@@ -7,6 +7,7 @@
 #include "output/PrintProof.h"
 #include "output/Printing.h"
 #include "platform/Events.h"
+#include "platform/PageEnd.h"
 #include "view/Display.h"
 
 namespace tessaryn {
@@ -72,6 +73,26 @@ TEST(Printing, LongCaptionFoldsAndNothingBehindItIsBold) {
     EXPECT_FALSE(WorkArea.RTB.FormatAt(end).Bold);
 }
 
+TEST(Printing, PageEndsAheadOfAStatementAndNotInsideIt) {
+    const std::string text =
+        "An introduction in rows\n\n1\tP & Q =>\n\tR\n\tAxiom\n\n2\tQ\n\tAxiom\n";
+    const auto at = [&](const char* part) { return static_cast<int>(text.find(part)); };
+    const struct {
+        const char* begin;  // of the page
+        const char* room;   // up to there
+        const char* end;
+    } rows[] = {
+        {"An", "rows", "rows"}, {"An", "\n1", "\n1"},
+        {"An", "1", "1"},       {"An", "Q =>", "1"},
+        {"An", "\tR", "1"},     {"An", "\tAxiom", "1"},
+        {"1", "\n2", "\n2"},    {"1", "\tAxiom\n", "\tAxiom\n"},  // more than a page
+        {"rows", "Q =>", "1"},  {"\tR", "\tAxiom", "\tAxiom"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(PageEnd(text, at(row.begin), at(row.room)), at(row.end)) << row.room;
+    }
+}
+
 TEST(Printing, PagesHoldEverythingOnce) {
     StartProof();
     for (int i = 0; i < 200; ++i) AddLine("P & " + std::string(300, 'x'), Rule::Axiom);
@@ -80,6 +101,7 @@ TEST(Printing, PagesHoldEverythingOnce) {
     std::string all;
     for (const std::string& page : Headless.Pages) {
         EXPECT_FALSE(page.empty());
+        EXPECT_FALSE(page.starts_with('\t')) << "a statement and its annotation are parted";
         all += page;
     }
     std::string copy = WorkArea.RTB.GetText();
