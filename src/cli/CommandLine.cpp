@@ -146,17 +146,19 @@ int DumpCommand(const Words& words, const Streams& streams) {
     return 0;
 }
 
-int ReportUnwritable(const std::string& file, const Streams& streams) {
-    streams.err << file << ": the file can't be written\n";
+// fault: as ReplaceFile has it. The exit status.
+int ReportWriting(const std::string& file, const std::string& fault, const Streams& streams) {
+    if (fault.empty()) return 0;
+    streams.err << file << ": the file can't be written (" << fault << ")\n";
     return 1;
 }
 
 int HtmlCommand(const Words& words, const Streams& streams) {
     if (words.size() != 2) return ReportWrongUse(streams);
     if (!OpenProof(words[0], streams.err)) return 1;
-    if (!SaveHTML(words[1])) return ReportUnwritable(words[1], streams);
+    const std::string fault = SaveHTML(words[1]);
     for (const std::string& note : Headless.Notes) streams.err << words[0] << ": " << note << '\n';
-    return 0;
+    return ReportWriting(words[1], fault, streams);
 }
 
 int PrintCommand(const Words& words, const Streams& streams) {
@@ -169,7 +171,7 @@ int PrintCommand(const Words& words, const Streams& streams) {
     PrintStatements(1, StmtCount);
     std::string pages;
     for (const std::string& page : Headless.Pages) pages += (pages.empty() ? "" : "\f") + page;
-    return ReplaceFile(words[1], pages + "\n") ? 0 : ReportUnwritable(words[1], streams);
+    return ReportWriting(words[1], ReplaceFile(words[1], pages + "\n"), streams);
 }
 
 int FitsCommand(const Words& words, const Streams& streams) {

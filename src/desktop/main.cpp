@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QSessionManager>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -80,6 +81,7 @@ void ListenToSession(QApplication& application) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    std::signal(SIGXFSZ, SIG_IGN);  // a file beyond the size limit can't be written, no more
     FirstPaint firstPaint;
     const auto informs = [](const char* argument) {
         const std::string text = argument;

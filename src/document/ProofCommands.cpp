@@ -28,18 +28,6 @@ std::string TitleOf(const std::string& caption, const std::string& fileName) {
     return " " + caption + "  -  " + fileName;
 }
 
-bool WriteFileWithHourglass() {
-    const std::string prompt = Proof.StatusLine.GetText();
-    SetPrompt("Please wait...");
-    Proof.MousePointer = Pointer::Hourglass;
-    RefreshNow(Proof);
-    const std::string bytes = WriteProof();
-    const bool saved = bytes.size() <= MaxProofFile && ReplaceFile(ProofFileName, bytes);
-    Proof.MousePointer = Pointer::Default;
-    SetPrompt(prompt);
-    return saved;
-}
-
 // Closed blocks are folded away on opening, with what is nested in them; all else shows.
 void FoldClosedBlocks() {
     for (int line = 1; line <= StmtCount; ++line) {
@@ -115,8 +103,18 @@ std::string WithProofExtension(const std::string& name) {
 }
 
 bool SaveProof() {
-    if (WriteFileWithHourglass()) return true;
+    const std::string prompt = Proof.StatusLine.GetText();
+    SetPrompt("Please wait...");
+    Proof.MousePointer = Pointer::Hourglass;
+    RefreshNow(Proof);
+    const std::string bytes = WriteProof();
+    const std::string fault = bytes.size() <= MaxProofFile ? ReplaceFile(ProofFileName, bytes)
+                                                           : "The proof is too long for a file.";
+    Proof.MousePointer = Pointer::Default;
+    SetPrompt(prompt);
+    if (fault.empty()) return true;
     OperationCancelled = true;
+    Beep(fault);
     MsgBox("Unable to save file", "WARNING");
     return false;
 }
@@ -141,7 +139,10 @@ void ReadProofFile(const std::string& entered) {
     } catch (const std::bad_alloc&) {
         reason = " needs more memory than there is.";
     }
-    if (reason.empty()) return UpdateRecentFiles();
+    if (reason.empty()) {
+        RemoveLeftoversBeside(ProofFileName);
+        return UpdateRecentFiles();
+    }
     OperationCancelled = true;
     Beep("\"" + fileName + "\"" + reason);
     SetPrompt("Open: Unable to open proof file");

@@ -8,9 +8,9 @@ namespace tessaryn {
 // The page, in ASCII.
 std::string HTMLPage();
 
-// Writes the page to a file; a note tells of a caption that may be taken for markup. False if that
-// failed.
-bool SaveHTML(const std::string& path);
+// Writes the page to a file; a note tells of a caption that may be taken for markup. "", or why it
+// failed, as ReplaceFile has it.
+std::string SaveHTML(const std::string& path);
 
 void HTMLCommand();
 

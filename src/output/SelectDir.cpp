@@ -34,10 +34,11 @@ void SelectDirForm::Activated() {
 }
 
 void SelectDirForm::Continue() {
-    if (SaveDefaultDir(DirectoryList.Path)) {
+    const std::string fault = SaveDefaultDir(DirectoryList.Path);
+    if (fault.empty()) {
         Hide();
     } else {
-        Beep("The choice can't be saved: the directory of the settings can't be written.");
+        Beep("The choice can't be saved. " + fault);
     }
 }
 

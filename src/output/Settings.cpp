@@ -50,24 +50,24 @@ std::optional<std::string> MeantBytes(const std::string& path) {
     return bytes;
 }
 
-// For a file that is too long to be written anew for the sake of its rest.
-bool WriteInPlace(const std::string& path, const std::string& content) {
+// For a file that is too long to be written anew for the sake of its rest. "", or why that failed.
+std::string WriteInPlace(const std::string& path, const std::string& content) {
     std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
     file << content;
     file.close();
-    return file.good();
+    return file.good() ? "" : "\"" + path + "\" can't be written.";
 }
 
-// Puts the content over the first bytes of the file.
-bool WriteOver(const std::string& path, std::string content) {
+// Puts the content over the first bytes of the file. "", or why that failed.
+std::string WriteOver(const std::string& path, std::string content) {
     if (InputFile(path).Size() > LongestMeant) return WriteInPlace(path, content);
     const std::optional<std::string> old = MeantBytes(path);
     if (old && old->size() > content.size()) content += old->substr(content.size());
     return ReplaceFile(path, content);
 }
 
-bool WriteSetting(const char* file, std::string content) {
-    return AppPath.empty() || WriteOver(PathOf(file), std::move(content));
+std::string WriteSetting(const char* file, std::string content) {
+    return AppPath.empty() ? "" : WriteOver(PathOf(file), std::move(content));
 }
 
 std::string Header(int number) {
@@ -250,6 +250,7 @@ std::string FindAppPath(const std::string& programDir) {
 
 void LoadSettings() {
     if (AppPath.empty()) return;
+    RemoveLeftoversBeside(PathOf(OptionFile));
     GetFontSize();
     LoadRecentMenu();
     const bool hasDirectory = LoadDefaultDir();
@@ -271,7 +272,9 @@ void GetFontSize() {
 }
 
 void SaveFontSize() {
-    if (WriteSetting(FontSizeFile, Header(StmtFontSize))) return;
+    const std::string fault = WriteSetting(FontSizeFile, Header(StmtFontSize));
+    if (fault.empty()) return;
+    Beep(fault);
     MsgBox("Unable to save user font file", "WARNING");
 }
 
@@ -306,9 +309,11 @@ void UpdateRecentFiles() {
     PutAtHead(names, ProofFileName);
     std::string content = Header(static_cast<int>(names.size()));
     for (const std::string& name : names) content = WithString(std::move(content), name);
-    if (WriteSetting(RecentFilesFile, std::move(content))) {
+    const std::string fault = WriteSetting(RecentFilesFile, std::move(content));
+    if (fault.empty()) {
         FillRecentMenu(names);
     } else {
+        Beep(fault);
         MsgBox("Unable to save recent file name", "WARNING");
     }
 }
@@ -327,24 +332,25 @@ template void OpenRecentFile<3>();
 template void OpenRecentFile<4>();
 template void OpenRecentFile<5>();
 
-bool SaveDefaultDir(const std::string& directory) {
-    if (!WriteSetting(DefaultDirFile, WithString(Header(0), directory))) return false;
-    DefaultDir = directory;
-    return true;
+std::string SaveDefaultDir(const std::string& directory) {
+    std::string fault = WriteSetting(DefaultDirFile, WithString(Header(0), directory));
+    if (fault.empty()) DefaultDir = directory;
+    return fault;
 }
 
 bool TipWanted() {
     return !AppPath.empty() && Proof.optShowTip.Checked;
 }
 
-bool SaveTipWish(bool wanted) {
+std::string SaveTipWish(bool wanted) {
     Proof.optShowTip.Checked = wanted;
     return WriteSetting(OptionFile, Option(wanted));
 }
 
 void ToggleShowTip() {
-    if (SaveTipWish(!Proof.optShowTip.Checked)) return;
-    Beep("\"" + PathOf(OptionFile) + "\" can't be written.");
+    const std::string fault = SaveTipWish(!Proof.optShowTip.Checked);
+    if (fault.empty()) return;
+    Beep(fault);
     RuleMode = 0;
     SetPrompt("Unable to process request");
 }

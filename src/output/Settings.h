@@ -38,12 +38,12 @@ void UpdateRecentFiles();
 template <int place>
 void OpenRecentFile();  // 1 to 5
 
-// False if the file can't be written; DefaultDir is then as it was.
-bool SaveDefaultDir(const std::string& directory);
+// "", or why it can't be saved, as ReplaceFile has it; DefaultDir is then as it was.
+std::string SaveDefaultDir(const std::string& directory);
 
 bool TipWanted();
-// Sets the mark in the menu and writes the wish. False if the file can't be written.
-bool SaveTipWish(bool wanted);
+// Sets the mark in the menu and writes the wish. "", or why that failed.
+std::string SaveTipWish(bool wanted);
 void ToggleShowTip();
 
 }  // namespace tessaryn

@@ -58,7 +58,8 @@ const std::string& TipFor(double random) {
 
 TipsForm::TipsForm() : Form("Tips", "Proof Tip of the Day") {
     Check1.Click = [this] {
-        if (!SaveTipWish(Check1.Value)) Beep("The choice can't be saved.");
+        const std::string fault = SaveTipWish(Check1.Value);
+        if (!fault.empty()) Beep("The choice can't be saved. " + fault);
     };
     cmdClose.Click = [this] { Hide(); };
     DefaultButton = &cmdClose;

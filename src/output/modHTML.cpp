@@ -99,7 +99,7 @@ struct Busy {
     ~Busy() { Proof.MousePointer = Pointer::Default; }
 };
 
-bool SaveHTMLWithHourglass(const std::string& path) {
+std::string SaveHTMLWithHourglass(const std::string& path) {
     const Busy busy;
     return SaveHTML(path);
 }
@@ -118,10 +118,10 @@ std::string HTMLPage() {
     return InAscii(ToUtf8(std::move(page)));
 }
 
-bool SaveHTML(const std::string& path) {
-    if (!ReplaceFile(path, HTMLPage() + "\r\n")) return false;
-    if (ProofCaption.find('<') != ProofCaption.npos) Tell(MarkupInCaption);
-    return true;
+std::string SaveHTML(const std::string& path) {
+    std::string fault = ReplaceFile(path, HTMLPage() + "\r\n");
+    if (fault.empty() && ProofCaption.find('<') != ProofCaption.npos) Tell(MarkupInCaption);
+    return fault;
 }
 
 void HTMLCommand() {
@@ -135,9 +135,11 @@ void HTMLCommand() {
     if (!ShowSave(choice)) return;
     OperationCancelled = false;
     dialog.FileName = choice.FileName;
-    const bool saved = SaveHTMLWithHourglass(choice.FileName);
+    const std::string fault = SaveHTMLWithHourglass(choice.FileName);
     SetPrompt(prompt);
-    if (!saved) MsgBox("Unable to save HTML file", "WARNING");
+    if (fault.empty()) return;
+    Beep(fault);
+    MsgBox("Unable to save HTML file", "WARNING");
 }
 
 }  // namespace tessaryn

@@ -10,7 +10,12 @@ namespace tessaryn {
 std::optional<std::string> ReadWholeFile(const std::string& path);
 
 // Replaces a file so that a crash or a full disk leaves the old one whole: writes a temporary file
-// beside it, flushes that to the disk and renames it. False, with nothing left behind, on failure.
-bool ReplaceFile(const std::string& path, const std::string& bytes);
+// beside it, flushes that to the disk and renames it. Owner, group, mode and access list are kept
+// as far as the system allows; through a link, the file that it leads to is written.
+// "", or one sentence that tells a person why it failed, with nothing left behind.
+std::string ReplaceFile(const std::string& path, const std::string& bytes);
+
+// Removes the temporary files that crashed writers left in the directory of a file.
+void RemoveLeftoversBeside(const std::string& path);
 
 }  // namespace tessaryn

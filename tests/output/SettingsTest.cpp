@@ -3,11 +3,11 @@
 #include "output/Settings.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
 
+#include "OwnDirectory.h"
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "mainwindow/Proof.h"
@@ -35,18 +35,13 @@ std::string Counted(const std::string& text) {
     return std::string{static_cast<char>(text.size()), '\0'} + text;
 }
 
-class Settings : public testing::Test {
+class Settings : public OwnDirectory {
   protected:
-    Settings()
-        : directory_(testing::TempDir() + "tessaryn settings ü " + std::to_string(::getpid())) {
-        fs::remove_all(directory_);
-        fs::create_directories(directory_);
+    Settings() {
         for (const auto& [file, bytes] : Delivered) Put(file, bytes);
         Put("UserOption.bin", NoTip);
     }
-    ~Settings() override { fs::remove_all(directory_); }
-
-    std::string In(const std::string& file) const { return directory_ + "/" + file; }
+    std::string In(const std::string& file) const { return Path(file); }
     void Put(const std::string& file, const std::string& bytes) const {
         ReplaceFile(In(file), bytes);
     }
@@ -62,7 +57,7 @@ class Settings : public testing::Test {
         return RunScript(script, "script", options).error;
     }
 
-    std::string directory_;
+    const std::string directory_ = directory.string();
 };
 
 TEST_F(Settings, ChangesAreWrittenAtOnceAndComeBack) {
@@ -157,7 +152,9 @@ TEST_F(Settings, MissingAndDamagedFilesAreReportedAndDoNoHarm) {
     // A script that has nothing to say to the forms of the start does not meet them.
     fs::remove(In("UserOption.bin"));
     fs::remove(In("UserFontSize.bin"));
+    const std::string leftover = OldLeftover();
     EXPECT_EQ(Run(EnterPremise("P") + "expect count 1\n"), "");
+    EXPECT_FALSE(fs::exists(leftover)) << "of a crash while the settings were written";
 }
 
 // Of a file of any size, what can mean something is read and written, and the rest stays.
