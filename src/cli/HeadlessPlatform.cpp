@@ -25,6 +25,7 @@ struct ModalScope {
 };
 
 bool HasButton(Buttons buttons, Answer answer) {
+    if (answer == Answer::Cancel) return buttons == Buttons::YesNoCancel;
     return (buttons == Buttons::OK) == (answer == Answer::OK);
 }
 

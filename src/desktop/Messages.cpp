@@ -179,7 +179,20 @@ QMessageBox::StandardButton ButtonFor(Answer answer) {
 Answer AnswerOf(int button, Buttons buttons) {
     if (buttons == Buttons::OK) return Answer::OK;
     if (button == QMessageBox::Yes) return Answer::Yes;
-    return button == QMessageBox::No ? Answer::No : Answer::Cancel;
+    const bool closed = button != QMessageBox::No;
+    return closed && buttons == Buttons::YesNoCancel ? Answer::Cancel : Answer::No;
+}
+
+QMessageBox::StandardButtons AllOf(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Buttons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case Buttons::OK:
+            break;
+    }
+    return QMessageBox::Ok;
 }
 
 }  // namespace
@@ -227,10 +240,8 @@ Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons
     SetTitle(box, title);
     box.setTextFormat(Qt::PlainText);
     box.setText(ShownText(text));
-    const bool asks = buttons == Buttons::YesNoCancel;
-    box.setIcon(asks ? QMessageBox::Question : QMessageBox::Warning);
-    box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel
-                                : QMessageBox::StandardButtons(QMessageBox::Ok));
+    box.setIcon(buttons == Buttons::OK ? QMessageBox::Warning : QMessageBox::Question);
+    box.setStandardButtons(AllOf(buttons));
     box.setDefaultButton(ButtonFor(defaultAnswer));
     const int button = box.exec();
     if (Ending()) throw ProgramEnded{};

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "document/ProofFile.h"
+#include "document/SavingOver.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "output/SaveChanges.h"
@@ -77,7 +78,9 @@ std::string OpenedOr(const std::string& fileName) {
     std::string name = fileName;
     std::string dialogName = fileName;
     std::string title = TitleOf(proof->ProofCaption, fileName);
+    SeenFile seen{fileName, file.Size(), file.Print()};
     TakeOver(*proof);
+    std::swap(SeenProofFile, seen);
     ProofFileName.swap(name);
     Proof.CommonDialog1.FileName.swap(dialogName);
     Proof.Caption.swap(title);
@@ -112,7 +115,10 @@ bool SaveProof() {
                                                            : "The proof is too long for a file.";
     Proof.MousePointer = Pointer::Default;
     SetPrompt(prompt);
-    if (fault.empty()) return true;
+    if (fault.empty()) {
+        SeenProofFile = AsWritten(ProofFileName, bytes);
+        return true;
+    }
     OperationCancelled = true;
     Beep(fault);
     MsgBox("Unable to save file", "WARNING");
@@ -120,7 +126,7 @@ bool SaveProof() {
 }
 
 bool SaveProofFile() {
-    if (!SaveProof()) return false;
+    if (!MaySave() || !SaveProof()) return false;
     Proof.CommonDialog1.FileName = ProofFileName;
     UpdateRecentFiles();
     ProofChanged = false;

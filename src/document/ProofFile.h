@@ -31,8 +31,8 @@ std::optional<Document> ReadProof(std::string_view bytes);
 // OperationCancelled is set, and a message box has said so.
 bool SaveProof();
 
-// SaveProof, and then the document counts as saved: recent files, title, ProofChanged. False, with
-// all that as it was, if it could not be saved.
+// MaySave, SaveProof, and then the document counts as saved: recent files, title, ProofChanged.
+// False, with all that as it was, if it was not saved.
 bool SaveProofFile();
 
 // Replaces the document by the content of a file, which becomes ProofFileName, and rebuilds the

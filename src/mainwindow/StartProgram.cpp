@@ -1,6 +1,7 @@
 #include "axioms/InductionForm.h"
 #include "axioms/SubsetFrm.h"
 #include "document/Document.h"
+#include "document/SavingOver.h"
 #include "expr/Expression.h"
 #include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
@@ -36,6 +37,7 @@ void StartProgram() {
     FirstClick = ArbOrLeft = OperationCancelled = EditingIntro = false;
     CommentLine = 0;
     ProofFileName.clear();
+    SeenProofFile = {};
     AppPath.clear();
     BoxUndoText.clear();
     ClipLength = 0;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "document/ProofFile.h"
+#include "document/SavingOver.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "output/Settings.h"
@@ -37,7 +38,9 @@ void SaveChangesForm::Yes() {
     const std::string previousName = ProofFileName;
     bool save = true;
     if (!ProofFileName.empty()) {
-        ProofFileName = WithProofExtension(ProofFileName);
+        const std::string name = WithProofExtension(ProofFileName);
+        if (!MayReplace(name)) return Hide();
+        ProofFileName = name;
     } else {
         CommonDialog1 = {"", ProofFilter, DefaultDir, true, false};
         save = ShowSave(CommonDialog1);

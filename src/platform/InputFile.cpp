@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace tessaryn {
@@ -28,7 +29,9 @@ std::size_t InputFile::Read(char* to, std::size_t count) {
     do {
         got = read(number_, to, count);
     } while (got < 0 && errno == EINTR);
-    return got > 0 ? static_cast<std::size_t>(got) : 0;
+    const auto bytes = static_cast<std::size_t>(std::max<ssize_t>(got, 0));
+    print_.Add({to, bytes});
+    return bytes;
 }
 
 }  // namespace tessaryn

@@ -36,9 +36,9 @@ void Beep(const std::string& reason);
 void Tell(const std::string& note);
 
 enum class Answer { OK, Yes, No, Cancel };
-enum class Buttons { OK, YesNoCancel };
+enum class Buttons { OK, YesNo, YesNoCancel };
 
-// A modal message box. Closing it counts as Cancel where there is such a button.
+// A modal message box. Closing it counts as Cancel, or as No where there is no such button.
 Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons = Buttons::OK,
               Answer defaultAnswer = Answer::OK);
 

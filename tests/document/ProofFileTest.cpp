@@ -11,8 +11,10 @@
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Invariants.h"
+#include "document/SavingOver.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "output/SaveChanges.h"
 #include "output/WrittenProof.h"
 #include "platform/Files.h"
 #include "view/Undo.h"
@@ -234,6 +236,62 @@ TEST_F(ProofFileTest, FailureToSaveLosesNothing) {
     EXPECT_TRUE(ProofChanged && OperationCancelled);
     EXPECT_EQ(Proof.Caption, "as before");
     EXPECT_EQ(Proof.MousePointer, Pointer::Default);
+}
+
+TEST_F(ProofFileTest, WhatAnotherProgramWroteIsNotSavedOverUnasked) {
+    ASSERT_EQ(Build(EnterPremise("P")), "");
+    const std::string path = Path("a.proof");
+    const std::string own = WriteProof();
+    const std::string other(own.size(), 'x');
+    const auto rewrite = [&](const std::string& bytes) {  // at the same moment, as it were
+        const auto time = fs::last_write_time(path);
+        WriteFile("a.proof", bytes);
+        fs::last_write_time(path, time);
+    };
+    const auto save = [] { Proof.optSave.Click(); };
+    const auto saveAs = [&] {
+        Headless.Files.push_back(path);
+        Proof.optSaveAs.Click();
+    };
+    const auto saveAtNew = [] {
+        Headless.NextStep = [] { return SaveChanges.cmdYes.Click(), true; };
+        Proof.optNew.Click();
+    };
+    const struct {
+        const char* what;
+        std::function<void()> happens, command;
+        bool asks;
+    } rows[] = {
+        {"nothing", [] {}, save, false},
+        {"touched", [&] { fs::last_write_time(path, fs::file_time_type::clock::now()); }, save,
+         false},
+        {"the same again", [&] { fs::remove(path), WriteFile("a.proof", own); }, save, false},
+        {"gone", [&] { fs::remove(path); }, save, false},
+        {"as long, as old", [&] { rewrite(other); }, save, true},
+        {"longer", [&] { SeenProofFile = {}, Open(path), rewrite(own + "x"); }, saveAs, true},
+        {"empty", [&] { rewrite(""); }, saveAtNew, true},
+    };
+    for (const auto& row : rows) {
+        ProofFileName = path;
+        SeenProofFile = {};
+        ASSERT_TRUE(SaveProofFile());
+        row.happens();
+        const std::optional<std::string> there = ReadWholeFile(path);
+        ProofChanged = true;
+        OperationCancelled = false;
+        Headless.Messages.clear();
+        row.command();
+        EXPECT_EQ(ProofChanged && OperationCancelled && ReadWholeFile(path) == there, row.asks)
+            << row.what;
+        if (!row.asks) continue;
+        ASSERT_EQ(Headless.Messages.size(), 1u) << row.what;
+        EXPECT_EQ(Headless.Messages[0].text,
+                  "The file was changed by another program. Save over it?");
+        Headless.Answers.push_back(Answer::Yes);
+        row.command();
+        EXPECT_EQ(ReadWholeFile(path), own) << row.what;
+    }
+    EXPECT_EQ(StmtCount, 0) << "New went on";
 }
 
 TEST(ProofNames, ExtensionIsForced) {

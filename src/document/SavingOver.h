@@ -1,0 +1,28 @@
+// The questions before a save destroys what somebody else wrote.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/Fingerprint.h"
+
+namespace tessaryn {
+
+// A file as it was last read or written here.
+struct SeenFile {
+    std::string path;        // "" for none
+    std::uint64_t size = 0;  // in bytes
+    Fingerprint print;       // of its first bytes, as many as were read
+};
+inline SeenFile SeenProofFile;  // the open proof's
+
+SeenFile AsWritten(const std::string& path, const std::string& bytes);
+
+// False if ProofFileName is the open proof's file, another program has changed it, and the user
+// does not want it saved over. OperationCancelled is then set.
+bool MaySave();
+
+// The same for a file that is not the open proof's, under a name that no dialogue has asked about.
+bool MayReplace(const std::string& name);
+
+}  // namespace tessaryn
