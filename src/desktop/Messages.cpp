@@ -68,6 +68,8 @@ class Note : public QLabel {
         show();
         raise();
         wait_.start(ShownFor + PerCharacter * static_cast<int>(reason.size()));
+        // What explains a message box stays for as long as that is open.
+        if (qobject_cast<const QMessageBox*>(box) != nullptr) wait_.stop();
     }
 
     bool Stands() const { return !isHidden() && fade_.state() != QAbstractAnimation::Running; }
@@ -244,6 +246,7 @@ Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons
     box.setStandardButtons(AllOf(buttons));
     box.setDefaultButton(ButtonFor(defaultAnswer));
     const int button = box.exec();
+    FadeNote();
     if (Ending()) throw ProgramEnded{};
     return AnswerOf(button, buttons);
 }

@@ -343,6 +343,17 @@ TEST(FormWindow, AFaultInTheLogicIsToldAndLeavesTheWindowUsable) {
               "cancelled");
 }
 
+TEST(Messages, AQuestionHasItsReasonBesideItAndEscMeansNo) {
+    QTimer::singleShot(0, qApp, [] {
+        QTimer::singleShot(0, qApp, [] {
+            EXPECT_EQ(NoteShown(), QStringLiteral("why"));
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        });
+    });
+    Beep("why");
+    EXPECT_EQ(MsgBox("Go on?", "WARNING", Buttons::YesNo, Answer::Yes), Answer::No);
+}
+
 TEST(FormWindow, EndOfTheProgramUnwindsThroughAModalForm) {
     EntryForm form;
     bool returned = false;
