@@ -41,10 +41,12 @@ std::optional<std::string> ReadWholeFile(const std::string& path) {
     return file->second;
 }
 
-bool ReplaceFile(const std::string& path, const std::string& bytes) {
-    if (path.empty()) return false;
+std::string ReplaceFile(const std::string& path, const std::string& bytes) {
+    if (path.empty()) return "There is no such folder.";
     MemoryFiles[path] = bytes;
-    return true;
+    return "";
 }
+
+void RemoveLeftoversBeside(const std::string&) {}
 
 }  // namespace tessaryn
