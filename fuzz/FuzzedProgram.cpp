@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <regex>
 
 #include "cli/HeadlessPlatform.h"
 #include "cli/ScriptRunner.h"
@@ -41,9 +42,10 @@ RandomNumber NumbersOf(const std::uint8_t* data, std::size_t size) {
 
 void RunAnyScript(const std::string& script, const std::string& settingsDir) {
     const ScriptResult result = RunScript(script, "script", {settingsDir, true, true});
-    for (const char* fault : {"does not agree with itself", "unexpected failure"}) {
-        if (result.error.find(fault) != result.error.npos) Require(result.error);
-    }
+    // At the head of the reason: a script may well hold these words itself.
+    static const std::regex fault(
+        "(^|\n)script:[0-9]+: (unexpected failure|the document does not agree with itself): ");
+    if (std::regex_search(result.error, fault)) Require(result.error);
     for (const std::string& reason : Headless.Beeps) {
         if (reason.starts_with("Something went wrong inside the program")) Require(reason);
     }
