@@ -8,7 +8,6 @@
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
-#include "document/ProofFile.h"
 #include "expr/Expression.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"

@@ -6,15 +6,15 @@
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
+#include "editing/Comment.h"
+#include "editing/Find.h"
+#include "entry/Warning.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "menu/ClickTable.h"
 #include "platform/Events.h"
-#include "view/Comment.h"
 #include "view/Display.h"
-#include "view/Find.h"
-#include "view/Warning.h"
 
 namespace tessaryn {
 namespace {

@@ -12,6 +12,7 @@
 #include "mainwindow/ProgramState.h"
 #include "output/HTML.h"
 #include "output/Printing.h"
+#include "output/ProofCommands.h"
 
 using namespace tessaryn;
 

@@ -37,10 +37,11 @@ std::vector<Case> ReadCases(const fs::path& path) {
 
 std::vector<std::string> Tables() {
     std::vector<std::string> tables;
-    for (const char* folder : {"axioms", "mainwindow", "rules", "view"}) {
-        const fs::path path = fs::path(TESSARYN_SOURCE_DIR) / "tests" / folder;
-        for (const auto& entry : fs::directory_iterator(path)) {
-            if (entry.path().extension() == ".txt") tables.push_back(entry.path().string());
+    for (const auto& entry :
+         fs::recursive_directory_iterator(fs::path(TESSARYN_SOURCE_DIR) / "tests")) {
+        const fs::path& path = entry.path();
+        if (path.extension() == ".txt" && path.stem() != "CMakeLists") {
+            tables.push_back(path.string());
         }
     }
     return tables;

@@ -10,9 +10,8 @@ namespace tessaryn {
 // defines. Asks for it in SubsetFrm.
 void Subset();
 
-// Asks for the number of a scheme in MyInputBox; its Continue calls ContinueAxiomScheme.
+// Asks for the number of a scheme in MyInputBox and writes the axiom of that order.
 void AskForAxiomOrder(int rule);
-void ContinueAxiomScheme();
 
 // Writes a single axiom.
 void WriteAxiom(int rule, const char* text);

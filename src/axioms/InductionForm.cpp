@@ -1,10 +1,10 @@
 #include "axioms/InductionForm.h"
 
+#include "entry/EntryChecks.h"
 #include "expr/Blanks.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
 #include "inference/Induction.h"
-#include "mainwindow/EntryChecks.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"

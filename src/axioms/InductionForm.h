@@ -7,7 +7,7 @@
 
 #include <string>
 
-#include "mainwindow/ExpressionEditor.h"
+#include "entry/ExpressionEditor.h"
 #include "platform/Form.h"
 
 namespace tessaryn {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "document/Document.h"
+#include "document/ActiveLines.h"
 #include "expr/NameList.h"
-#include "mainwindow/ActiveStmts.h"
 #include "mainwindow/RuleModes.h"
+#include "view/InsertMode.h"
 
 namespace tessaryn {
 namespace {
@@ -13,7 +13,7 @@ namespace {
 template <class Counts>
 bool EachIsFree(const std::vector<std::string_view>& names, Counts counts) {
     std::vector<const Statement*> stmts;
-    for (const int line : ActiveLines()) {
+    for (const int line : ActiveLines(InsertionLimit())) {
         const Statement& stmt = StmtTable[line];
         if (counts(stmt)) stmts.push_back(&stmt);
     }

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "entry/EntryChecks.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
-#include "mainwindow/EntryChecks.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"

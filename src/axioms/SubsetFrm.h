@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "entry/ExpressionEditor.h"
 #include "inference/Subset.h"
-#include "mainwindow/ExpressionEditor.h"
 #include "platform/Form.h"
 
 namespace tessaryn {

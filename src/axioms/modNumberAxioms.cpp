@@ -11,12 +11,12 @@
 #include "axioms/Axioms.h"
 #include "axioms/NamesInUse.h"
 #include "document/Document.h"
+#include "entry/EntryChecks.h"
 #include "expr/Expression.h"
-#include "mainwindow/ActiveStmts.h"
-#include "mainwindow/EntryChecks.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
+#include "view/InsertMode.h"
 #include "view/PutStmt.h"
 
 namespace tessaryn {

@@ -9,10 +9,10 @@
 #include <string>
 
 #include "axioms/Axioms.h"
-#include "axioms/EnteredNumber.h"
+#include "entry/EnteredNumber.h"
+#include "entry/MyInputBox.h"
 #include "expr/Expression.h"
 #include "inference/SchemeText.h"
-#include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
@@ -51,18 +51,6 @@ const SchemeRow& RowOf(int rule) {
     return *row;
 }
 
-}  // namespace
-
-void AskForAxiomOrder(int rule) {
-    const SchemeRow& row = RowOf(rule);
-    RuleMode = rule;
-    SetPrompt("");
-    MyInputBox.Caption = row.caption;
-    MyInputBox.Label1.Caption = row.prompt;
-    MyInputBox.Label2.Caption.clear();
-    ShowModal(MyInputBox);
-}
-
 void ContinueAxiomScheme() {
     const AxiomScheme& scheme = RowOf(RuleMode).scheme;
     const std::string wanted = "Enter a whole number from " + std::to_string(scheme.least) +
@@ -81,6 +69,15 @@ void ContinueAxiomScheme() {
     // Another number would not help where the statement can't be written: StatusLine tells why.
     FinishRule(WriteStatement());
     MyInputBox.Hide();
+}
+
+}  // namespace
+
+void AskForAxiomOrder(int rule) {
+    const SchemeRow& row = RowOf(rule);
+    RuleMode = rule;
+    SetPrompt("");
+    AskInBox({row.caption, row.prompt, ContinueAxiomScheme});
 }
 
 void WriteAxiom(int rule, const char* text) {

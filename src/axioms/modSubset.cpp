@@ -6,11 +6,11 @@
 
 #include "axioms/Axioms.h"
 #include "axioms/SubsetFrm.h"
+#include "entry/ActiveStmts.h"
+#include "entry/ClickPatterns.h"
 #include "inference/Subset.h"
-#include "mainwindow/ActiveStmts.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
-#include "rules/ClickPatterns.h"
 
 namespace tessaryn {
 namespace {

@@ -12,14 +12,14 @@
 #include "cli/HeadlessPlatform.h"
 #include "cli/ScriptRunner.h"
 #include "cli/StateDump.h"
-#include "document/Document.h"
-#include "document/ProofFile.h"
-#include "mainwindow/ActiveStmts.h"
+#include "document/ActiveLines.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "output/HTML.h"
 #include "output/Printing.h"
+#include "output/ProofCommands.h"
 #include "platform/Files.h"
+#include "view/InsertMode.h"
 
 namespace tessaryn {
 
@@ -183,7 +183,7 @@ int FitsCommand(const Words& words, const Streams& streams) {
         if (error != std::errc() || *end != '\0' || line < 1) return ReportWrongUse(streams);
     }
     if (!OpenProof(words[0], streams.err)) return 1;
-    if (line > 0 && !IsActive(line)) {
+    if (line > 0 && !IsActive(line, InsertionLimit())) {
         streams.err << words[0] << ": line " << line << " is no active line\n";
         return 1;
     }

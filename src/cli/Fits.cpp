@@ -7,15 +7,15 @@
 #include <string>
 #include <vector>
 
-#include "document/Document.h"
+#include "document/ActiveLines.h"
 #include "document/RuleNames.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
 #include "expr/Same.h"
 #include "inference/Connectives.h"
-#include "mainwindow/ActiveStmts.h"
 #include "menu/ClickTable.h"
+#include "view/InsertMode.h"
 
 namespace tessaryn {
 
@@ -78,7 +78,7 @@ void PrintDetachments(const Line& implication, const LinesByMeaning& lines, std:
 
 void PrintFits(int onlyLine, std::ostream& out) {
     std::vector<Line> lines;
-    for (const int number : ActiveLines()) {
+    for (const int number : ActiveLines(InsertionLimit())) {
         Expression statement = ParseExpression(StmtText(number));
         if (statement.error.empty()) lines.push_back({number, std::move(statement)});
     }

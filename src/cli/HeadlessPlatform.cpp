@@ -4,6 +4,8 @@
 
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "menu/MainWindow.h"
+#include "menu/StartProgram.h"
 #include "platform/Events.h"
 #include "text/TextSteps.h"
 
@@ -58,7 +60,7 @@ void StartHeadless(const std::string& settingsDir, bool showHidden) {
     ReleasePrinter();
     StartProgram();
     AppPath = settingsDir;
-    Proof.Load("");
+    LoadMainWindow("");
     if (showHidden) ShowHiddenItems();
     Proof.Visible = true;
     Headless.Forms.push_back({&Proof, false});

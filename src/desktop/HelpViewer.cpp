@@ -28,7 +28,7 @@
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
 #include "desktop/ShownText.h"
-#include "mainwindow/Commands.h"
+#include "output/Help.h"
 #include "platform/Platform.h"
 
 namespace tessaryn {

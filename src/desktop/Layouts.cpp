@@ -21,9 +21,13 @@
 #include "axioms/SubsetFrm.h"
 #include "desktop/FormWindow.h"
 #include "desktop/Picture.h"
-#include "mainwindow/MyInputBox.h"
+#include "editing/Comment.h"
+#include "editing/EditCaption.h"
+#include "editing/Find.h"
+#include "entry/MyInputBox.h"
+#include "entry/TestParser.h"
+#include "entry/Warning.h"
 #include "mainwindow/Proof.h"
-#include "mainwindow/TestParser.h"
 #include "output/AboutTessaryn.h"
 #include "output/PrintProof.h"
 #include "output/SaveChanges.h"
@@ -31,10 +35,6 @@
 #include "output/Tips.h"
 #include "rules/Generalize.h"
 #include "rules/Substitution.h"
-#include "view/Comment.h"
-#include "view/EditCaption.h"
-#include "view/Find.h"
-#include "view/Warning.h"
 
 namespace tessaryn {
 

@@ -14,9 +14,9 @@
 #include <string>
 
 #include "desktop/PaintedText.h"
-#include "document/ProofFile.h"
 #include "mainwindow/ProgramState.h"
 #include "output/Printing.h"
+#include "output/ProofCommands.h"
 #include "output/Settings.h"
 #include "platform/PageEnd.h"
 #include "platform/Platform.h"

@@ -2,7 +2,7 @@
 // none.
 #pragma once
 
-#include "platform/TextBlocks.h"
+#include "text/TextBlocks.h"
 
 namespace tessaryn {
 

@@ -18,6 +18,8 @@
 #include "desktop/Picture.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "menu/MainWindow.h"
+#include "menu/StartProgram.h"
 #include "output/Settings.h"
 
 namespace {
@@ -110,7 +112,7 @@ int main(int argc, char* argv[]) {
     }
     StartProgram();
     AppPath = FindAppPath(QApplication::applicationDirPath().toStdString());
-    Dispatch([&commandLine] { Proof.Load(commandLine); });
+    Dispatch([&commandLine] { LoadMainWindow(commandLine); });
     ListenToSession(application);
     ShowMainWindow(Proof);
     if (std::getenv("TESSARYN_MEASURE_START") != nullptr) {

@@ -100,16 +100,16 @@ int IntroductionLength(const Document& proof) {
 
 }  // namespace
 
-std::string WriteProof() {
+std::string WriteProof(const Document& doc) {
     ByteWriter out;
-    out.Reserve(ProofText.size() + static_cast<std::size_t>(StmtCount) * 80 + 64);
+    out.Reserve(doc.ProofText.size() + static_cast<std::size_t>(doc.StmtCount) * 80 + 64);
     out.Bytes(FileMagic);
-    out.Int16(StmtCount);
-    out.String(ProofCaption);
-    for (int line = 1; line <= StmtCount; ++line) {
-        WriteRecord(out, StmtTable[line]);
+    out.Int16(doc.StmtCount);
+    out.String(doc.ProofCaption);
+    for (int line = 1; line <= doc.StmtCount; ++line) {
+        WriteRecord(out, doc.StmtTable[line]);
     }
-    out.String(ProofText.View());
+    out.String(doc.ProofText.View());
     return out.Take();
 }
 

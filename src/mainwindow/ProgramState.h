@@ -1,6 +1,5 @@
 // The run-time values of the main window: what rule is pending, what it hands to the writer, which
-// proof is open. They live as long as the program; StartProgram puts them into their starting
-// state.
+// proof is open.
 #pragma once
 
 #include <string>
@@ -23,9 +22,5 @@ inline int CommentLine = 0;              // the statement whose comment the Comm
 // RuleMode values that are no rule numbers of statements.
 inline constexpr int DeleteAllRefMode = -1;
 inline constexpr int ToggleHighlightMode = 32;
-
-// Puts the whole program into its starting state: globals, document and forms. Called once at start
-// and first in each test.
-void StartProgram();
 
 }  // namespace tessaryn

@@ -4,6 +4,7 @@
 // caption, shortcut and command.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/Form.h"
@@ -15,12 +16,13 @@ namespace tessaryn {
 struct ProofForm : Form {
     ProofForm();
 
-    // What the window does once at its start. commandLine: "" or the path of a proof in quotation
-    // marks.
-    void Load(const std::string& commandLine);
-    void Activated() override;
-    bool KeyPressed(const KeyEvent& key) override;
-    void Close() override;
+    // What the window does is for the floor that knows all commands to say: FillMainWindow.
+    EventHandler WhenActivated, WhenClosed;
+    std::function<bool(const KeyEvent&)> WhenKeyPressed;
+
+    void Activated() override { WhenActivated(); }
+    bool KeyPressed(const KeyEvent& key) override { return WhenKeyPressed(key); }
+    void Close() override { WhenClosed(); }
 
     // The display takes the focus first; the tool buttons follow.
     RichTextBox RTB{*this, "RTB"};
@@ -84,14 +86,14 @@ struct ProofForm : Form {
     std::string CommandLineFile;      // proof named on the command line, until it is opened
     bool DoubleClickPending = false;  // a double click awaits its button-up
     int DoubleClickCaret = 0;         // caret to restore at that button-up, 0-based
-
-  private:
-    void BuildMenus();    // MenuTable.cpp
-    void BuildButtons();  // MenuTable.cpp
-    void ListenToDisplay();
 };
 
 inline ProofForm Proof;
+
+// The title of the window for a proof: its caption and file name, either may be "". Without
+// arguments that for the open one.
+std::string TitleOf(const std::string& caption, const std::string& fileName);
+std::string ProofTitle();
 
 // Writes StatusLine, centred.
 void SetPrompt(const std::string& text);

@@ -7,6 +7,9 @@
 
 #include "axioms/Axioms.h"
 #include "document/Document.h"
+#include "editing/Comment.h"
+#include "editing/Delete.h"
+#include "editing/ToggleConclusion.h"
 #include "inference/Connectives.h"
 #include "inference/Equality.h"
 #include "inference/Quantifiers.h"
@@ -15,10 +18,7 @@
 #include "mainwindow/RuleModes.h"
 #include "rules/ArbitraryOperand.h"
 #include "rules/Rules.h"
-#include "view/Comment.h"
-#include "view/Delete.h"
 #include "view/InsertMode.h"
-#include "view/ShowHide.h"
 
 namespace tessaryn {
 namespace {

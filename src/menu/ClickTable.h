@@ -4,7 +4,7 @@
 #include <span>
 #include <variant>
 
-#include "rules/ClickPatterns.h"
+#include "entry/ClickPatterns.h"
 
 namespace tessaryn {
 

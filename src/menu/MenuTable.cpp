@@ -1,27 +1,30 @@
 // The menu bar and the tool buttons, with what each calls. Handler and shortcut of an item stand in
 // one row; a row without a command is shown disabled.
+#include "menu/MenuTable.h"
+
 #include <algorithm>
 #include <string>
 
 #include "axioms/Axioms.h"
-#include "document/ProofFile.h"
-#include "mainwindow/Commands.h"
+#include "editing/Comment.h"
+#include "editing/EditCaption.h"
+#include "editing/Find.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
 #include "menu/ClickTable.h"
 #include "output/AboutTessaryn.h"
 #include "output/HTML.h"
+#include "output/Help.h"
 #include "output/PrintProof.h"
+#include "output/ProofCommands.h"
 #include "output/SelectDir.h"
 #include "output/Settings.h"
 #include "rules/ArbitraryOperand.h"
 #include "rules/Rules.h"
-#include "view/Comment.h"
-#include "view/EditCaption.h"
-#include "view/Find.h"
 #include "view/InsertMode.h"
 #include "view/ShowHide.h"
+#include "view/TextExchange.h"
 #include "view/Undo.h"
 
 namespace tessaryn {
@@ -76,7 +79,7 @@ const MenuRow MenuRows[] = {
     {1, &P::optUndo, "optUndo", "&Undo", "Ctrl+Z", Undo, Disabled, "Unable to complete Undo"},
     {1, &P::optRedo, "optRedo", "&Redo", "Ctrl+Y", Redo, Disabled, "Unable to complete Redo"},
     {1, &P::optInsert, "optInsert", "&Insert Mode ", "F2", ToggleInsertMode, Checkable},
-    {1, &P::optCopy, "optCopy", "&Copy", "Ctrl+C", CopySelection},
+    {1, &P::optCopy, "optCopy", "&Copy", "Ctrl+C", [] { Copy(Proof.RTB); }},
     {1, &P::DeleteAllRef, "DeleteAllRef", "Delete &ALL References", "F3", Click<DeleteAllRefMode>},
     {1, &P::DelAllSubsequent, "DelAllSubsequent", "Delete &Subsequent Lines", "F4",
      Click<Rule::DeleteAtSub>},
@@ -87,8 +90,8 @@ const MenuRow MenuRows[] = {
     {1, &P::optComment, "optComment", "Comment            (Click Stmt Text)", "", Instruction},
     {1, &P::optToggleHighlight, "optToggleHighlight", "Toggle Highlight  (Click Stmt No.)", "",
      Click<ToggleHighlightMode>},
-    {1, &P::optRichTextMode, "optRichTextMode", "Rich Text Mode", "", ToggleRichTextMode,
-     Checkable | Checked},
+    {1, &P::optRichTextMode, "optRichTextMode", "Rich Text Mode", "",
+     [] { Proof.optRichTextMode.Checked = !Proof.optRichTextMode.Checked; }, Checkable | Checked},
 
     {0, &P::mnuView, "mnuView", "&View"},
     {1, &P::optHideDetails, "optHideDetails", "Hide All Details", "F5", HideAllDetails},
@@ -274,15 +277,15 @@ void FillItem(MenuItem& item, const MenuRow& row) {
 
 }  // namespace
 
-void ProofForm::BuildMenus() {
+void BuildMenus() {
     MenuItem* open[3] = {};  // the latest item of each level
     for (const MenuRow& row : MenuRows) {
-        MenuItem& item = this->*row.item;
+        MenuItem& item = Proof.*row.item;
         FillItem(item, row);
         open[row.level] = &item;
         if (row.level == 0) {
             item.Enabled = true;
-            MenuBar.push_back(&item);
+            Proof.MenuBar.push_back(&item);
         } else {
             MenuItem& parent = *open[row.level - 1];
             parent.Items.push_back(&item);
@@ -291,10 +294,10 @@ void ProofForm::BuildMenus() {
     }
 }
 
-void ProofForm::BuildButtons() {
+void BuildButtons() {
     for (const ButtonRow& row : ButtonRows) {
-        Button& button = this->*row.button;
-        const MenuItem& item = this->*row.item;
+        Button& button = Proof.*row.button;
+        const MenuItem& item = Proof.*row.item;
         button.Name = row.name;
         button.Caption = row.caption;
         button.ToolTip = row.toolTip;

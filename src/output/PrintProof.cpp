@@ -3,8 +3,8 @@
 #include <exception>
 #include <stdexcept>
 
-#include "axioms/EnteredNumber.h"
 #include "document/Document.h"
+#include "entry/EnteredNumber.h"
 #include "mainwindow/Proof.h"
 #include "output/Printing.h"
 #include "view/Display.h"

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "document/ProofFile.h"
-#include "document/SavingOver.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "output/ProofCommands.h"
+#include "output/SavingOver.h"
 #include "output/Settings.h"
 
 namespace tessaryn {

@@ -10,15 +10,15 @@
 #include <vector>
 
 #include "document/Bytes.h"
-#include "document/ProofFile.h"
+#include "entry/Warning.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "output/ProofCommands.h"
 #include "output/SaveChanges.h"
 #include "platform/Files.h"
 #include "platform/InputFile.h"
 #include "text/Encoding.h"
 #include "view/Display.h"
-#include "view/Warning.h"
 
 namespace tessaryn {
 namespace {

@@ -3,10 +3,10 @@
 #include <utility>
 
 #include "document/Document.h"
-#include "document/ProofFile.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "output/HTML.h"
+#include "output/ProofCommands.h"
 #include "output/Settings.h"
 #include "platform/Files.h"
 #include "text/Encoding.h"

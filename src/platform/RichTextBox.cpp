@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/Rtf.h"
+#include "text/Rtf.h"
 #include "text/TextSteps.h"
 
 namespace tessaryn {

@@ -16,8 +16,8 @@
 #include <vector>
 
 #include "platform/Controls.h"
-#include "platform/RichText.h"
-#include "platform/TextBlocks.h"
+#include "text/RichText.h"
+#include "text/TextBlocks.h"
 
 namespace tessaryn {
 

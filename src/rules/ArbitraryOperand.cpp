@@ -1,28 +1,29 @@
 #include "rules/ArbitraryOperand.h"
 
+#include "entry/ClickPatterns.h"
+#include "entry/EntryChecks.h"
+#include "entry/TestParser.h"
 #include "expr/Parse.h"
 #include "inference/Connectives.h"
-#include "mainwindow/EntryChecks.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "mainwindow/TestParser.h"
-#include "rules/ClickPatterns.h"
 #include "view/PutStmt.h"
 
 namespace tessaryn {
 namespace {
 
 // The click: keeps the statement as the second expression and asks for the other operand.
-void AskForOperand(const std::string& captionStart, AfterParseError after) {
+void AskForOperand(const std::string& captionStart, AfterParseError after,
+                   std::string (*accept)()) {
     int line = 0;
     if (!TakeClickedLine(line, after)) return;
     Arg1Pending = line;
     Arg2Pending = 0;
     Second = InHand;
     SetPrompt("");
-    TestParser.Caption = captionStart + std::to_string(line) + ":  Enter a logical expression";
-    ShowModal(TestParser);
+    AskForExpression(
+        {captionStart + std::to_string(line) + ":  Enter a logical expression", accept});
     RuleMode = 0;
 }
 
@@ -43,41 +44,6 @@ std::string WriteWithOperand(Outcome (*infer)(const Expression&, const Expressio
     return "";
 }
 
-}  // namespace
-
-void ArbOrLeftCommand() {
-    ArbOrLeft = true;
-    AwaitClick(Rule::ArbOr, "Arb OR (Left):  Click any active statement");
-}
-
-void ArbOrRightCommand() {
-    ArbOrLeft = false;
-    AwaitClick(Rule::ArbOr, "Arb OR (Right):  Click any active statement");
-}
-
-void ArbOr() {
-    const char* side = ArbOrLeft ? "Left" : "Right";
-    AskForOperand("Arbitrary OR (Insert " + std::string(side) + ") Rule, Line ",
-                  AfterParseError::EndRule);
-}
-
-void ArbAnte() {
-    AskForOperand("Arbitrary Antecedent Rule, Line ", AfterParseError::StayPending);
-}
-
-void ArbCons() {
-    AskForOperand("Arbitrary Consequent Rule, Line ", AfterParseError::StayPending);
-}
-
-void OrNot() {
-    RuleMode = Rule::OrNot;
-    SetPrompt("");
-    TestParser.Caption = "Arbitrary OR-NOT Rule: Enter a logical expression";
-    Arg1Pending = Arg2Pending = 0;
-    ShowModal(TestParser);
-    RuleMode = 0;
-}
-
 std::string AcceptArbOr() {
     return WriteWithOperand(ArbOrLeft ? OrWithLeft : OrWithRight);
 }
@@ -93,6 +59,40 @@ std::string AcceptArbCons() {
 std::string AcceptOrNot() {
     return WriteWithOperand(
         [](const Expression&, const Expression& other) { return OrNot(other); });
+}
+
+}  // namespace
+
+void ArbOrLeftCommand() {
+    ArbOrLeft = true;
+    AwaitClick(Rule::ArbOr, "Arb OR (Left):  Click any active statement");
+}
+
+void ArbOrRightCommand() {
+    ArbOrLeft = false;
+    AwaitClick(Rule::ArbOr, "Arb OR (Right):  Click any active statement");
+}
+
+void ArbOr() {
+    const char* side = ArbOrLeft ? "Left" : "Right";
+    AskForOperand("Arbitrary OR (Insert " + std::string(side) + ") Rule, Line ",
+                  AfterParseError::EndRule, AcceptArbOr);
+}
+
+void ArbAnte() {
+    AskForOperand("Arbitrary Antecedent Rule, Line ", AfterParseError::StayPending, AcceptArbAnte);
+}
+
+void ArbCons() {
+    AskForOperand("Arbitrary Consequent Rule, Line ", AfterParseError::StayPending, AcceptArbCons);
+}
+
+void OrNot() {
+    RuleMode = Rule::OrNot;
+    SetPrompt("");
+    Arg1Pending = Arg2Pending = 0;
+    AskForExpression({"Arbitrary OR-NOT Rule: Enter a logical expression", AcceptOrNot});
+    RuleMode = 0;
 }
 
 }  // namespace tessaryn

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "entry/EntryChecks.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
 #include "inference/Quantifiers.h"
-#include "mainwindow/EntryChecks.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"

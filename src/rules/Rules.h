@@ -2,8 +2,6 @@
 // which tells its inference and its clicks.
 #pragma once
 
-#include <string>
-
 namespace tessaryn {
 
 inline constexpr const char* JoinPrompt = "Join:  Click any active statement (1st of 2)...";
@@ -21,21 +19,5 @@ void Rename();
 void Reorder();
 void ExistGenSelect();
 void Subsitute(bool& firstClick);
-
-// What `Continue` of MyInputBox does for the Conclusion Rule: checks the new names of the bound
-// variables and puts the renamed statement into NewStmtText. Hides the box when all is well.
-void ContinueConclusion();
-
-// The same for E Spec, Rename and Reorder: check the entry, write the statement, hide the box.
-void ContinueESpec();
-void ContinueRename();
-void ContinueReorder();
-
-// What `Continue` of TestParser does for Reflex with an entry that parses: checks the term and
-// writes the statement. Gives "" or the message of the refusal.
-std::string AcceptReflexTerm();
-
-// The same for U Spec.
-std::string AcceptUSpec();
 
 }  // namespace tessaryn

@@ -1,8 +1,8 @@
 #include "rules/VariableNames.h"
 
+#include "entry/MyInputBox.h"
 #include "expr/Parse.h"
 #include "inference/Quantifiers.h"
-#include "mainwindow/MyInputBox.h"
 
 namespace tessaryn {
 namespace {

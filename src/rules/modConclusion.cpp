@@ -12,18 +12,17 @@
 #include <unordered_set>
 #include <vector>
 
-#include "document/Document.h"
+#include "document/ActiveLines.h"
 #include "document/Writer.h"
+#include "entry/ClickPatterns.h"
+#include "entry/EntryChecks.h"
+#include "entry/MyInputBox.h"
 #include "expr/NameList.h"
 #include "expr/Parse.h"
 #include "inference/Conclusion.h"
-#include "mainwindow/ActiveStmts.h"
-#include "mainwindow/EntryChecks.h"
-#include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "rules/ClickPatterns.h"
 #include "rules/Rules.h"
 #include "rules/VariableNames.h"
 #include "view/InsertMode.h"
@@ -44,7 +43,8 @@ void Refuse(const std::string& message) {
 
 // The innermost open premise, if the line above the insertion point is in force; 0 otherwise.
 int FindPremise(int line) {
-    return line > 1 && IsActive(line - 1) ? InnermostOpenPremise() : 0;
+    return line > 1 && IsActive(line - 1, InsertionLimit()) ? InnermostOpenPremise(InsertionLimit())
+                                                            : 0;
 }
 
 bool ParseLine(int line) {
@@ -129,17 +129,24 @@ std::vector<std::string> BoundNames() {
     return names;
 }
 
+void ContinueConclusion() {
+    const std::string text = RenamedAsEntered(
+        BoundNames(), "New bound variable already used in premise or last statement");
+    if (text.empty()) return;
+    NewStmtText = text;
+    Parse();
+    if (!ParseError.empty()) return RefuseEntry(ParseError);
+    MyInputBox.Hide();
+}
+
 // Puts the statement with the names that the user wants into NewStmtText. False if the user
 // cancelled.
 bool AskForNames() {
     const std::vector<std::string> names = BoundNames();
     if (names.empty()) return true;
     Second = InHand;
-    MyInputBox.Caption = "Conclusion Rule: Generalizing on " + CommaList(names);
-    MyInputBox.Label1.Caption = AskForNamesText(names.size());
-    MyInputBox.Text1.Text = CommaList(names);
-    MyInputBox.Label2.Caption.clear();
-    ShowModal(MyInputBox);
+    AskInBox({"Conclusion Rule: Generalizing on " + CommaList(names), AskForNamesText(names.size()),
+              ContinueConclusion, "", CommaList(names)});
     return RuleMode != 0;
 }
 
@@ -180,16 +187,6 @@ void CloseBlock(int premise, int line) {
 void ResetConclusion() {
     ConclusionUVars.clear();
     ConclusionEVars.clear();
-}
-
-void ContinueConclusion() {
-    const std::string text = RenamedAsEntered(
-        BoundNames(), "New bound variable already used in premise or last statement");
-    if (text.empty()) return;
-    NewStmtText = text;
-    Parse();
-    if (!ParseError.empty()) return RefuseEntry(ParseError);
-    MyInputBox.Hide();
 }
 
 void Conclusion() {

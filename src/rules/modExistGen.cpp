@@ -7,10 +7,10 @@
 #include <string>
 
 #include "document/Document.h"
+#include "entry/ActiveStmts.h"
 #include "expr/NameList.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
-#include "mainwindow/ActiveStmts.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"

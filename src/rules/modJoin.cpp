@@ -4,13 +4,13 @@
 // First click: P. Second click: Q, which may be the same line. Both clicks take any active line.
 #include <string>
 
+#include "entry/ActiveStmts.h"
+#include "entry/ClickPatterns.h"
 #include "expr/Parse.h"
 #include "inference/Connectives.h"
-#include "mainwindow/ActiveStmts.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "rules/ClickPatterns.h"
 #include "rules/Rules.h"
 #include "view/PutStmt.h"
 

@@ -7,12 +7,12 @@
 #include <string>
 
 #include "document/Document.h"
+#include "entry/EntryChecks.h"
+#include "entry/TestParser.h"
 #include "expr/Expression.h"
-#include "mainwindow/ActiveStmts.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "mainwindow/TestParser.h"
 #include "rules/Rules.h"
 #include "view/InsertMode.h"
 #include "view/PutStmt.h"
@@ -34,16 +34,25 @@ void Refuse(const std::string& message, const std::string& reason) {
     Proof.RTB.SetFocus();
 }
 
-void EnterStatement(int rule, const std::string& caption) {
+std::string CheckPremise() {
+    const std::string logical = RootIsLogical() ? "" : "Expecting a logical expression";
+    // The later message is the one shown.
+    const std::string names = InsertMode ? CheckPremiseNames() : "";
+    return names.empty() ? logical : names;
+}
+
+std::string CheckAxiom() {
+    return RootIsLogical() ? CheckAxiomNames() : "Expecting a logical expression";
+}
+
+void EnterStatement(int rule, const std::string& caption, std::string (*check)()) {
     Proof.RTB.SetFocus();
     RuleMode = rule;
     Arg1Pending = Arg2Pending = 0;
     SpecName.clear();
     SetPrompt("");
-    TestParser.Caption = caption;
-    TestParser.StatusLine.Caption =
-        "Suggestion: Use letters a-j for bound variables, k-z for free variables";
-    ShowModal(TestParser);
+    AskForExpression({caption, check,
+                      "Suggestion: Use letters a-j for bound variables, k-z for free variables"});
     FinishRule(!ParseError.empty() || WriteStatement());
 }
 
@@ -56,7 +65,7 @@ void Premise() {
             "Premise Rule: Axiom found on subsequent line. Consider another insertion point.",
             "Line " + std::to_string(axiom) + " is an Axiom: all axioms stand ahead of premises.");
     }
-    EnterStatement(Rule::Premise, "Premise Rule: Enter a premise");
+    EnterStatement(Rule::Premise, "Premise Rule: Enter a premise", CheckPremise);
 }
 
 void Axiom() {
@@ -67,7 +76,7 @@ void Axiom() {
             "Line " + std::to_string(premise) +
                 " is a Premise: all axioms stand ahead of premises.");
     }
-    EnterStatement(Rule::Axiom, "Create an Axiom: Enter a logical expression");
+    EnterStatement(Rule::Axiom, "Create an Axiom: Enter a logical expression", CheckAxiom);
 }
 
 }  // namespace tessaryn

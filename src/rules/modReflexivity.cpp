@@ -4,25 +4,18 @@
 // No click: the term is entered in TestParser.
 #include <string>
 
+#include "entry/TermChecks.h"
+#include "entry/TestParser.h"
 #include "expr/Expression.h"
 #include "inference/Equality.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "mainwindow/TermChecks.h"
-#include "mainwindow/TestParser.h"
 #include "rules/Rules.h"
 #include "view/PutStmt.h"
 
 namespace tessaryn {
-
-void Reflexivity() {
-    RuleMode = Rule::Reflex;
-    SetPrompt("");
-    TestParser.Caption = "Reflex Rule: Enter free variable expression in active statement";
-    ShowModal(TestParser);
-    RuleMode = 0;
-}
+namespace {
 
 std::string AcceptReflexTerm() {
     EnteredTerm term;
@@ -32,6 +25,16 @@ std::string AcceptReflexTerm() {
     NewStmtText = Reflex(InHand).texts[0];
     WriteStatement();
     return "";
+}
+
+}  // namespace
+
+void Reflexivity() {
+    RuleMode = Rule::Reflex;
+    SetPrompt("");
+    AskForExpression(
+        {"Reflex Rule: Enter free variable expression in active statement", AcceptReflexTerm});
+    RuleMode = 0;
 }
 
 }  // namespace tessaryn

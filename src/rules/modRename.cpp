@@ -5,15 +5,16 @@
 // names or the quantifiers are edited in MyInputBox.
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "entry/ClickPatterns.h"
+#include "entry/MyInputBox.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
 #include "inference/Quantifiers.h"
-#include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
-#include "rules/ClickPatterns.h"
 #include "rules/Rules.h"
 #include "rules/VariableNames.h"
 #include "rules/modConclusion.h"
@@ -35,17 +36,6 @@ bool TakeUniversalStatement(int& line, Outcome (*fits)(const Expression&)) {
     Second = InHand;
     ConclusionUVars = LeadingVariables(InHand, Node::ALL);
     return true;
-}
-
-// Shows MyInputBox with the entry `preset` ready to be edited, and its caption ending in it.
-void EditPrefix(const std::string& captionStart, int line, const std::string& prompt,
-                const std::string& preset) {
-    MyInputBox.Caption = captionStart + ", Line " + std::to_string(line) + ":  " + preset;
-    MyInputBox.Label1.Caption = prompt;
-    MyInputBox.Label2.Caption.clear();
-    MyInputBox.Text1.Text = preset;
-    ShowModal(MyInputBox);
-    SetPrompt("");
 }
 
 // The end of Continue: checks the text and writes it; hides the box when all is well.
@@ -96,27 +86,10 @@ std::string CheckMissing(const std::vector<std::string>& names) {
     return "";
 }
 
-}  // namespace
-
-void Rename() {
-    int line = 0;
-    if (!TakeUniversalStatement(line, RenameFrom)) return;
-    EditPrefix("Rename Universal Bound Variables", line, AskForNamesText(ConclusionUVars.size()),
-               CommaList(ConclusionUVars));
-}
-
 void ContinueRename() {
     const std::string text =
         RenamedAsEntered(ConclusionUVars, "New bound variable already used in statement");
     if (!text.empty()) WriteEdited(text);
-}
-
-void Reorder() {
-    int line = 0;
-    if (!TakeUniversalStatement(line, ReorderFrom)) return;
-    EditPrefix("Reorder Quantifiers", line,
-               "Rearrange quantifiers with Cut and Paste (Right Click)",
-               UniversalQuantifiers(ConclusionUVars));
 }
 
 void ContinueReorder() {
@@ -129,6 +102,36 @@ void ContinueReorder() {
                                       UniversalQuantifiers(ConclusionUVars) + ".");
     }
     WriteEdited(Reorder(Second, names).texts[0]);
+}
+
+// --- asking
+
+std::string CaptionFor(const std::string& start, int line, const std::string& preset) {
+    return start + ", Line " + std::to_string(line) + ":  " + preset;
+}
+
+void EditPrefix(BoxQuestion question) {
+    AskInBox(std::move(question));
+    SetPrompt("");
+}
+
+}  // namespace
+
+void Rename() {
+    int line = 0;
+    if (!TakeUniversalStatement(line, RenameFrom)) return;
+    const std::string names = CommaList(ConclusionUVars);
+    EditPrefix({CaptionFor("Rename Universal Bound Variables", line, names),
+                AskForNamesText(ConclusionUVars.size()), ContinueRename, "", names});
+}
+
+void Reorder() {
+    int line = 0;
+    if (!TakeUniversalStatement(line, ReorderFrom)) return;
+    const std::string quantifiers = UniversalQuantifiers(ConclusionUVars);
+    EditPrefix({CaptionFor("Reorder Quantifiers", line, quantifiers),
+                "Rearrange quantifiers with Cut and Paste (Right Click)", ContinueReorder, "",
+                quantifiers});
 }
 
 }  // namespace tessaryn

@@ -8,20 +8,20 @@
 #include <string>
 #include <vector>
 
-#include "document/Document.h"
+#include "document/ActiveLines.h"
+#include "entry/ActiveStmts.h"
+#include "entry/ClickPatterns.h"
+#include "entry/EntryChecks.h"
+#include "entry/MyInputBox.h"
+#include "entry/TermChecks.h"
+#include "entry/TestParser.h"
 #include "expr/NameList.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
 #include "inference/Quantifiers.h"
-#include "mainwindow/ActiveStmts.h"
-#include "mainwindow/EntryChecks.h"
-#include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "mainwindow/TermChecks.h"
-#include "mainwindow/TestParser.h"
-#include "rules/ClickPatterns.h"
 #include "rules/Rules.h"
 #include "view/InsertMode.h"
 #include "view/PutStmt.h"
@@ -29,28 +29,13 @@
 namespace tessaryn {
 namespace {
 
-void AskForName(int line) {
-    MyInputBox.Caption = " E Spec Rule: Line " + std::to_string(line);
-    MyInputBox.Label1.Caption = "Enter the name of a new free variable:";
-    MyInputBox.Label2.Caption = "Suggestion: Use letters k-z for free variables";
-    ShowModal(MyInputBox);
-}
-
-void AskForTerm(int line) {
-    TestParser.Caption = "U Spec Rule, Line " + std::to_string(line) +
-                         ": Enter a free variable expression in active statement";
-    TestParser.StatusLine.Caption =
-        "Use only expressions with previously introduced free variables or constants";
-    ShowModal(TestParser);
-}
-
 // --- E Spec
 
 // The line that a name is in use on, 0 if none: the highest active one, or the first one behind the
 // insertion point, where a closed block counts as well.
 int LineThatUses(const std::string& name) {
     const auto uses = [&](int line) { return HoldsName(StmtTable[line].FreeVars, name); };
-    const std::vector<int> lines = ActiveLines();
+    const std::vector<int> lines = ActiveLines(InsertionLimit());
     for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
         if (uses(*line)) return *line;
     }
@@ -65,31 +50,6 @@ std::string CheckNewName(const std::string& name) {
     if (BindsInside(Second, name)) return "Inconsistent usage of free variable in this statement";
     const int line = LineThatUses(name);
     return line == 0 ? "" : "Free variable already used in statement " + std::to_string(line);
-}
-
-}  // namespace
-
-void Spec() {
-    int line = 0;
-    GetActiveStmt(line, NewStmtText);
-    if (line == 0) return BeepNoActiveStmt();
-    Arg1Pending = line;
-    Arg2Pending = 0;
-    Parse();
-    if (!ParseError.empty()) return SetPrompt("PARSER ERROR: " + ParseError);
-    const Outcome fit = SpecifyFrom(InHand);
-    if (!fit.Applies()) return BeepRefusal(line, fit);
-    const ParseRec& root = Root(InHand);
-    RuleMode = root.Rule == Node::EXIST ? Rule::ESpec : Rule::USpec;
-    SetPrompt("");
-    BoundVarName = NodeAt(InHand, root.Ptr1).Name;
-    Second = InHand;
-    if (RuleMode == Rule::ESpec) {
-        AskForName(line);
-    } else {
-        AskForTerm(line);
-    }
-    RuleMode = 0;
 }
 
 void ContinueESpec() {
@@ -110,6 +70,8 @@ void ContinueESpec() {
     MyInputBox.Hide();
 }
 
+// --- U Spec
+
 std::string AcceptUSpec() {
     EnteredTerm term;
     if (const std::string fault = CheckTerm(TokenTable2, term); !fault.empty()) return fault;
@@ -122,6 +84,37 @@ std::string AcceptUSpec() {
     }
     if (WriteStatement()) RuleMode = 0;
     return "";
+}
+
+}  // namespace
+
+void Spec() {
+    int line = 0;
+    GetActiveStmt(line, NewStmtText);
+    if (line == 0) return BeepNoActiveStmt();
+    Arg1Pending = line;
+    Arg2Pending = 0;
+    Parse();
+    if (!ParseError.empty()) return SetPrompt("PARSER ERROR: " + ParseError);
+    const Outcome fit = SpecifyFrom(InHand);
+    if (!fit.Applies()) return BeepRefusal(line, fit);
+    const ParseRec& root = Root(InHand);
+    RuleMode = root.Rule == Node::EXIST ? Rule::ESpec : Rule::USpec;
+    SetPrompt("");
+    BoundVarName = NodeAt(InHand, root.Ptr1).Name;
+    Second = InHand;
+    if (RuleMode == Rule::ESpec) {
+        AskInBox({" E Spec Rule: Line " + std::to_string(line),
+                  "Enter the name of a new free variable:", ContinueESpec,
+                  "Suggestion: Use letters k-z for free variables"});
+    } else {
+        AskForExpression(
+            {"U Spec Rule, Line " + std::to_string(line) +
+                 ": Enter a free variable expression in active statement",
+             AcceptUSpec,
+             "Use only expressions with previously introduced free variables or constants"});
+    }
+    RuleMode = 0;
 }
 
 }  // namespace tessaryn

@@ -6,12 +6,12 @@
 // The dialogue Substitution does the rest.
 #include <string>
 
+#include "entry/ActiveStmts.h"
+#include "entry/ClickPatterns.h"
 #include "inference/Equality.h"
-#include "mainwindow/ActiveStmts.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "rules/ClickPatterns.h"
 #include "rules/Rules.h"
 #include "rules/Substitution.h"
 

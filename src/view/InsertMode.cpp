@@ -38,6 +38,10 @@ int PickInsertLine(int place, std::string& reason) {
 
 }  // namespace
 
+int InsertionLimit() {
+    return InsertMode ? InsertLine : StmtCount + 1;
+}
+
 void EndInsertMode() {
     InsertMode = false;
     InsertLine = 0;

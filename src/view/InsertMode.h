@@ -10,6 +10,9 @@ inline constexpr const char* SetInsertModePrompt =
 inline bool InsertMode = false;
 inline int InsertLine = 0;  // the number of the next statement; 0 while the mode is off
 
+// New statements go in at this line; only lines above it can be referred to.
+int InsertionLimit();
+
 // The menu item: ends the mode, or waits for the click that starts it.
 void ToggleInsertMode();
 

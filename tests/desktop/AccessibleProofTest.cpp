@@ -15,9 +15,9 @@
 #include "ShownForm.h"
 #include "desktop/PaintedText.h"
 #include "desktop/ProofDisplay.h"
-#include "mainwindow/ProgramState.h"
+#include "entry/TestParser.h"
 #include "mainwindow/Proof.h"
-#include "mainwindow/TestParser.h"
+#include "menu/StartProgram.h"
 #include "platform/Platform.h"
 
 using namespace tessaryn;

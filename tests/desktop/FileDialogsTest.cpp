@@ -3,9 +3,9 @@
 #include <QTemporaryDir>
 
 #include "AnsweredFileBox.h"
-#include "document/ProofFile.h"
-#include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "menu/StartProgram.h"
+#include "output/ProofCommands.h"
 #include "platform/Events.h"
 #include "platform/Platform.h"
 

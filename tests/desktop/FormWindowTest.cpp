@@ -25,12 +25,12 @@
 #include "axioms/SubsetFrm.h"
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
-#include "mainwindow/MyInputBox.h"
-#include "mainwindow/ProgramState.h"
-#include "mainwindow/TestParser.h"
-#include "view/Comment.h"
+#include "editing/Comment.h"
+#include "editing/EditCaption.h"
+#include "entry/MyInputBox.h"
+#include "entry/TestParser.h"
+#include "menu/StartProgram.h"
 #include "view/Display.h"
-#include "view/EditCaption.h"
 
 using namespace tessaryn;
 

@@ -19,9 +19,10 @@
 
 #include "ShownForm.h"
 #include "desktop/Manual.h"
+#include "entry/TestParser.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
-#include "mainwindow/TestParser.h"
+#include "menu/StartProgram.h"
 #include "view/Display.h"
 
 using namespace tessaryn;

@@ -10,10 +10,14 @@
 #include "desktop/Desktop.h"
 #include "desktop/FormWindow.h"
 #include "desktop/PaintedText.h"
-#include "mainwindow/MyInputBox.h"
-#include "mainwindow/ProgramState.h"
+#include "editing/Comment.h"
+#include "editing/EditCaption.h"
+#include "editing/Find.h"
+#include "entry/MyInputBox.h"
+#include "entry/TestParser.h"
+#include "entry/Warning.h"
 #include "mainwindow/Proof.h"
-#include "mainwindow/TestParser.h"
+#include "menu/StartProgram.h"
 #include "output/AboutTessaryn.h"
 #include "output/PrintProof.h"
 #include "output/SaveChanges.h"
@@ -22,10 +26,6 @@
 #include "output/Tips.h"
 #include "rules/Generalize.h"
 #include "rules/Substitution.h"
-#include "view/Comment.h"
-#include "view/EditCaption.h"
-#include "view/Find.h"
-#include "view/Warning.h"
 
 using namespace tessaryn;
 

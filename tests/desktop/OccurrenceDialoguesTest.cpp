@@ -11,6 +11,7 @@
 #include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/RuleModes.h"
+#include "menu/StartProgram.h"
 #include "rules/Generalize.h"
 #include "rules/Substitution.h"
 #include "view/Display.h"

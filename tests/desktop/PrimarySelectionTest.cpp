@@ -9,10 +9,11 @@
 #include <QTextEdit>
 
 #include "ShownForm.h"
+#include "entry/TestParser.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "mainwindow/TestParser.h"
+#include "menu/StartProgram.h"
 #include "view/PutStmt.h"
 
 using namespace tessaryn;

@@ -9,6 +9,7 @@
 #include "AnsweredFileBox.h"
 #include "document/Document.h"
 #include "mainwindow/ProgramState.h"
+#include "menu/StartProgram.h"
 #include "output/Printing.h"
 #include "output/Settings.h"
 #include "platform/PageEnd.h"

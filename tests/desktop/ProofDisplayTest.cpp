@@ -16,6 +16,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
+#include "menu/StartProgram.h"
 #include "platform/Events.h"
 #include "view/PutStmt.h"
 

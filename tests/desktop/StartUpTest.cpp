@@ -13,8 +13,8 @@
 #include "ShownForm.h"
 #include "desktop/EscRun.h"
 #include "desktop/PaintedText.h"
-#include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "menu/StartProgram.h"
 #include "output/SelectDir.h"
 #include "output/Settings.h"
 

@@ -9,6 +9,7 @@
 #include "document/ProofFile.h"
 #include "document/RandomWalk.h"
 #include "mainwindow/ProgramState.h"
+#include "output/ProofCommands.h"
 
 namespace tessaryn {
 namespace {

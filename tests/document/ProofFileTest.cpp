@@ -1,5 +1,6 @@
 // The proof file, byte by byte, and what is refused on reading it.
 #include "document/ProofFile.h"
+#include "output/ProofCommands.h"
 
 #include <gtest/gtest.h>
 
@@ -11,10 +12,10 @@
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Invariants.h"
-#include "document/SavingOver.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "output/SaveChanges.h"
+#include "output/SavingOver.h"
 #include "output/WrittenProof.h"
 #include "platform/Files.h"
 #include "view/Undo.h"

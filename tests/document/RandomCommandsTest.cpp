@@ -4,14 +4,15 @@
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
 #include "document/RandomWalk.h"
+#include "editing/Delete.h"
+#include "entry/TestParser.h"
 #include "expr/Expression.h"
 #include "expr/NameList.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "mainwindow/TestParser.h"
 #include "output/WrittenProof.h"
-#include "view/Delete.h"
+#include "platform/Events.h"
 #include "view/Display.h"
 #include "view/PutStmt.h"
 #include "view/Undo.h"
@@ -134,11 +135,15 @@ TEST(Limits, TheLastStatementIsRefusedBeforeAnythingIsWritten) {
     EXPECT_EQ(StmtCount, MaxStatements);
 
     // From a box: one beep, whose reason is the writer's.
-    RuleMode = 37;
-    TestParser.RTB.SetText("P");
     const std::size_t beeps = Headless.Beeps.size();
-    TestParser.cmdContinue.Click();
-    EXPECT_EQ(TestParser.StatusLine.Caption, "Unable to process request");
+    Headless.NextStep = [] {
+        TestParser.RTB.SetText("P");
+        TestParser.cmdContinue.Click();
+        EXPECT_EQ(TestParser.StatusLine.Caption, "Unable to process request");
+        TestParser.Close();
+        return true;
+    };
+    SendChoose(Proof.optOrNot);
     ASSERT_EQ(Headless.Beeps.size(), beeps + 1);
     EXPECT_EQ(Headless.Beeps.back(), "A proof holds at most 32767 statements.");
 }

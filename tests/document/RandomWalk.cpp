@@ -7,17 +7,17 @@
 #include "cli/Keyboard.h"
 #include "document/Invariants.h"
 #include "document/ProofFile.h"
-#include "mainwindow/MyInputBox.h"
+#include "editing/Comment.h"
+#include "editing/EditCaption.h"
+#include "editing/Find.h"
+#include "entry/MyInputBox.h"
+#include "entry/TestParser.h"
+#include "entry/Warning.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "mainwindow/TestParser.h"
 #include "platform/Events.h"
-#include "view/Comment.h"
 #include "view/Display.h"
-#include "view/EditCaption.h"
-#include "view/Find.h"
-#include "view/Warning.h"
 
 namespace tessaryn {
 namespace {

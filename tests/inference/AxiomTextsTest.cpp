@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "Steps.h"
-#include "axioms/EnteredNumber.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Script.h"
+#include "entry/EnteredNumber.h"
 #include "expr/Blanks.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"

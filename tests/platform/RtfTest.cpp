@@ -1,4 +1,4 @@
-#include "platform/Rtf.h"
+#include "text/Rtf.h"
 
 #include <gtest/gtest.h>
 

@@ -4,9 +4,9 @@
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
+#include "entry/TestParser.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
-#include "mainwindow/TestParser.h"
 #include "platform/Events.h"
 
 namespace tessaryn {

@@ -9,19 +9,19 @@
 
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
-#include "document/Document.h"
+#include "document/ActiveLines.h"
 #include "document/RandomWalk.h"
+#include "entry/MyInputBox.h"
+#include "entry/TestParser.h"
+#include "entry/Warning.h"
 #include "expr/NameList.h"
 #include "expr/Parse.h"
-#include "mainwindow/ActiveStmts.h"
-#include "mainwindow/MyInputBox.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "mainwindow/TestParser.h"
 #include "platform/Events.h"
 #include "rules/Structure.h"
-#include "view/Warning.h"
+#include "view/InsertMode.h"
 
 namespace tessaryn {
 namespace {
@@ -96,7 +96,7 @@ class User {
 
   private:
     void ClickALine() {
-        const std::vector<int> lines = ActiveLines();
+        const std::vector<int> lines = ActiveLines(InsertionLimit());
         if (lines.empty()) return;
         const bool isRecent = random_(2) == 0 && lines.size() > 5;
         const std::size_t line = isRecent ? lines.size() - 1 - random_(5) : random_(lines.size());

@@ -8,13 +8,13 @@
 #include "cli/FormState.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
+#include "editing/Comment.h"
+#include "editing/EditCaption.h"
+#include "editing/Find.h"
+#include "entry/TestParser.h"
 #include "mainwindow/Proof.h"
-#include "mainwindow/TestParser.h"
 #include "platform/Events.h"
-#include "view/Comment.h"
 #include "view/Display.h"
-#include "view/EditCaption.h"
-#include "view/Find.h"
 
 namespace tessaryn {
 namespace {

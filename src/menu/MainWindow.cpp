@@ -1,0 +1,97 @@
+// The events of the main window.
+#include "menu/MainWindow.h"
+
+#include <utility>
+
+#include "document/Document.h"
+#include "editing/ToggleConclusion.h"
+#include "entry/ExpressionEditor.h"
+#include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
+#include "menu/ClickTable.h"
+#include "menu/MenuTable.h"
+#include "output/ProofCommands.h"
+#include "output/Settings.h"
+#include "output/StartUp.h"
+#include "output/Tips.h"
+#include "view/InsertMode.h"
+
+namespace tessaryn {
+namespace {
+
+SelectionExtension Extension;
+
+// Esc with nothing pending ends the program, by way of the save question.
+void EscInMainWindow(const KeyEvent& key) {
+    if (Proof.RTB.SelLength > 0) {
+        Proof.RTB.SelLength = 0;
+    } else if (RuleMode != 0) {
+        RuleMode = 0;
+        FirstClick = true;
+        SetPrompt("");
+    } else if (InsertMode && InsertLine == 0) {
+        EndInsertMode();
+        SetPrompt("");
+    } else if (!key.spent) {
+        ExitCommand();
+    }
+}
+
+void Activate() {
+    Proof.StatusLine.SelAlignment = Alignment::Center;
+    if (Proof.FirstActivation) {
+        Proof.FirstActivation = false;
+        Proof.RTB.SetFocus();
+        if (!AppPath.empty()) ShowModal(StartUp);
+        SetPrompt("Click Help** Button to start Tutorial");
+        if (TipWanted()) ShowModal(Tips);
+    }
+    if (Proof.CommandLineFile.empty()) return;
+    RunHandler([] { ReadProofFile(std::exchange(Proof.CommandLineFile, "")); });
+    Proof.RTB.SelStart = 0;
+}
+
+void ListenToDisplay() {
+    Proof.RTB.Click = [] { RunHandler(ClickInDisplay); };
+    Proof.RTB.DblClick = [] { RunHandler(ToggleDetailBlock); };
+    Proof.RTB.MouseMove = [] { Extension.MouseMoved(Proof.RTB, Proof.Timer1); };
+    Proof.Timer1.Tick = [] { Extension.Tick(Proof.RTB, Proof.Timer1); };
+    Proof.RTB.MouseUp = [](MouseButton button) {
+        Extension.ButtonUp(Proof.Timer1);
+        if (Proof.DoubleClickPending) {
+            // The detour through the end leaves the line near the top of the view.
+            Proof.DoubleClickPending = false;
+            Proof.RTB.SelStart = Proof.RTB.TextLength();
+            Proof.RTB.SelStart = Proof.DoubleClickCaret;
+            Proof.RTB.SelLength = 0;
+        }
+        if (button == MouseButton::Right) PopupMenu(Proof.mnuEdit);
+    };
+}
+
+}  // namespace
+
+void FillMainWindow() {
+    BuildMenus();
+    BuildButtons();
+    ListenToDisplay();
+    Proof.WhenActivated = Activate;
+    Proof.WhenClosed = [] { RunHandler(ExitCommand); };
+    Proof.WhenKeyPressed = [](const KeyEvent& key) {
+        if (key.key != Key::Esc) return false;
+        RunHandler([&key] { EscInMainWindow(key); });
+        return true;
+    };
+}
+
+void LoadMainWindow(const std::string& commandLine) {
+    if (commandLine.size() > 2)
+        Proof.CommandLineFile = commandLine.substr(1, commandLine.size() - 2);
+    Proof.FirstActivation = true;
+    SetPrompt("Press any key to continue");
+    IntroEnd = 0;
+    LoadSettings();
+    Proof.Caption = " Tessaryn 2.0  -  (Untitled)";
+}
+
+}  // namespace tessaryn

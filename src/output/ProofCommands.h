@@ -1,0 +1,39 @@
+// New, Open, Save, Save As and Exit: the proof file and the window around it.
+#pragma once
+
+#include <string>
+
+namespace tessaryn {
+
+// Writes the document to ProofFileName, with the hourglass up. On failure the old file is whole,
+// OperationCancelled is set, and a message box has said so.
+bool SaveProof();
+
+// MaySave, SaveProof, and then the document counts as saved: recent files, title, ProofChanged.
+// False, with all that as it was, if it was not saved.
+bool SaveProofFile();
+
+// Replaces the document by the content of a file, which becomes ProofFileName, and rebuilds the
+// display. A name without ending finds the file that ends in ".proof". On failure, memory that is
+// short included, the document, its name and the title stay, OperationCancelled is set, and
+// StatusLine says so.
+void ReadProofFile(const std::string& entered);
+
+// Commands of the File menu. New, Open and Exit go by way of the save question.
+void NewCommand();
+void OpenCommand();
+void SaveCommand();
+void SaveAsCommand();
+
+// Ends the program. OperationCancelled tells that it goes on.
+void ExitCommand();
+
+// The filter of the file dialogues.
+inline constexpr const char* ProofFilter = "Proofs (*.proof)|*.proof";
+
+// The name with everything behind its last "." replaced. A name without one gets "." and the
+// extension.
+std::string WithExtension(const std::string& name, const std::string& extension);
+std::string WithProofExtension(const std::string& name);
+
+}  // namespace tessaryn

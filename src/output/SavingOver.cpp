@@ -1,0 +1,69 @@
+#include "output/SavingOver.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+#include "mainwindow/ProgramState.h"
+#include "platform/InputFile.h"
+#include "platform/Platform.h"
+
+namespace tessaryn {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool IsSameFile(const std::string& path, const std::string& other) {
+    std::error_code error;
+    return path == other || fs::equivalent(path, other, error);
+}
+
+// Nothing that is no file, or is gone, can be saved over.
+bool IsFile(const std::string& path) {
+    std::error_code error;
+    return fs::is_regular_file(path, error);
+}
+
+// Only the content counts: a file that was touched or copied back is the same, and one that was
+// rewritten in the same moment is not.
+bool HoldsWhatWasSeen(const std::string& path) {
+    InputFile file(path);
+    if (!file.Good() || file.Size() != SeenProofFile.size) return false;
+    const std::uint64_t length = SeenProofFile.print.length;
+    std::string piece(65536, '\0');
+    std::size_t got = 1;
+    while (got > 0 && file.Print().length < length) {
+        const std::uint64_t left = length - file.Print().length;
+        got = file.Read(piece.data(), std::min<std::uint64_t>(piece.size(), left));
+    }
+    return file.Print() == SeenProofFile.print;
+}
+
+bool MaySaveOver(const std::string& whatIsThere) {
+    const Answer answer =
+        MsgBox(whatIsThere + " Save over it?", "WARNING", Buttons::YesNo, Answer::No);
+    if (answer == Answer::Yes) return true;
+    OperationCancelled = true;
+    return false;
+}
+
+}  // namespace
+
+SeenFile AsWritten(const std::string& path, const std::string& bytes) {
+    SeenFile file{path, bytes.size(), {}};
+    file.print.Add(bytes);
+    return file;
+}
+
+bool MaySave() {
+    if (!IsSameFile(ProofFileName, SeenProofFile.path) || !IsFile(ProofFileName)) return true;
+    return HoldsWhatWasSeen(ProofFileName) ||
+           MaySaveOver("The file was changed by another program.");
+}
+
+bool MayReplace(const std::string& name) {
+    return IsSameFile(name, ProofFileName) || !IsFile(name) ||
+           MaySaveOver("The file " + name + " exists already.");
+}
+
+}  // namespace tessaryn
