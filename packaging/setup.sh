@@ -6,12 +6,13 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-private-dev
     libgtest-dev libbenchmark-dev nlohmann-json3-dev fonts-liberation fonts-dejavu-core)
 test_packages=(xvfb xauth)
+check_packages=(clang clang-format libclang-rt-14-dev)
 
 # install_missing PACKAGE...: leaves at once when all are there.
 install_missing() {
     local missing=() package
     for package in "$@"; do
-        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
             missing+=("$package")
     done
     [ ${#missing[@]} -eq 0 ] && return 0
