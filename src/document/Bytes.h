@@ -98,7 +98,7 @@ class ByteReader {
     }
 
     void Refill() {
-        buffer_.resize(std::min<std::uint64_t>(left_, 65536));
+        buffer_.resize(static_cast<std::size_t>(std::min<std::uint64_t>(left_, 65536)));
         window_ = std::string_view(buffer_).substr(
             0, source_ ? source_(buffer_.data(), buffer_.size()) : 0);
     }

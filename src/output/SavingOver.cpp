@@ -34,7 +34,8 @@ bool HoldsWhatWasSeen(const std::string& path) {
     std::size_t got = 1;
     while (got > 0 && file.Print().length < length) {
         const std::uint64_t left = length - file.Print().length;
-        got = file.Read(piece.data(), std::min<std::uint64_t>(piece.size(), left));
+        got = file.Read(piece.data(),
+                        static_cast<std::size_t>(std::min<std::uint64_t>(piece.size(), left)));
     }
     return file.Print() == SeenProofFile.print;
 }

@@ -43,7 +43,8 @@ std::string PathOf(const char* file) {
 std::optional<std::string> MeantBytes(const std::string& path) {
     InputFile file(path);
     if (!file.Good()) return std::nullopt;
-    std::string bytes(std::min<std::uint64_t>(file.Size(), LongestMeant), '\0');
+    const std::uint64_t size = std::min<std::uint64_t>(file.Size(), LongestMeant);
+    std::string bytes(static_cast<std::size_t>(size), '\0');
     std::size_t done = 0;
     while (const std::size_t got = file.Read(bytes.data() + done, bytes.size() - done)) done += got;
     bytes.resize(done);

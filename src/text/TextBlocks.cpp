@@ -21,10 +21,11 @@ SurfaceChange MergedChange(const SurfaceChange& earlier, const SurfaceChange& la
 // --- formats
 
 std::size_t FormatTable::Hash::operator()(const CharFormat& format) const {
-    const std::size_t attributes = (static_cast<std::size_t>(format.Color) << 16) +
-                                   (static_cast<std::size_t>(format.Size) << 1) +
-                                   (format.Bold ? 1 : 0);
-    return std::hash<std::string>()(format.Font) ^ (attributes * 0x9E3779B97F4A7C15u);
+    const std::uint64_t attributes = (static_cast<std::uint64_t>(format.Color) << 16) +
+                                     (static_cast<std::uint64_t>(format.Size) << 1) +
+                                     (format.Bold ? 1 : 0);
+    const auto spread = static_cast<std::size_t>(attributes * 0x9E3779B97F4A7C15U);
+    return std::hash<std::string>()(format.Font) ^ spread;
 }
 
 FormatTable::Id FormatTable::Intern(const CharFormat& format) {
