@@ -1,8 +1,9 @@
 #include "axioms/SubsetFrm.h"
 
-#include <algorithm>
+#include <string>
 
 #include "entry/EntryChecks.h"
+#include "expr/NameList.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
@@ -22,10 +23,6 @@ const PaletteEntry SubsetPalette[] = {
     {&M::optGreaterThan, "optGreatThan", ">"}, {&M::optelement, "optElementOf", "@"},
     {&M::optComplement, "optComplement", "`"},
 };
-
-bool Contains(const std::vector<std::string>& names, const std::string& name) {
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
 
 // The names of variables and functions in a parse, bound ones too.
 std::vector<std::string> Atoms(const NodeList& nodes) {
@@ -116,7 +113,7 @@ bool SubsetDialogue::TakeSubsetName() {
                       "Enter a single name that begins with a small letter, such as y.");
     }
     subset_ = Root(entry).Name;
-    if (Contains(Atoms(ParseExpression(SubsetOf.parent).nodes), subset_)) {
+    if (HoldsName(Atoms(ParseExpression(SubsetOf.parent).nodes), subset_)) {
         return Refuse("Name of subset cannot be " + subset_, SubsetName);
     }
     return true;
@@ -133,10 +130,10 @@ bool SubsetDialogue::TakeBoundVars() {
     }
     vars_ = Atoms(entry.nodes);
     for (const std::string& name : Atoms(ParseExpression(SubsetOf.parent).nodes)) {
-        if (!Contains(vars_, name)) continue;
+        if (!HoldsName(vars_, name)) continue;
         return Refuse(name + " cannot be in list bound variables", BoundVars);
     }
-    if (!Contains(vars_, subset_)) return true;
+    if (!HoldsName(vars_, subset_)) return true;
     return Refuse("Name of subset '" + subset_ + "'in list bound variables", BoundVars);
 }
 
@@ -167,7 +164,7 @@ bool SubsetDialogue::CheckCriterionNames() {
         return RefuseAtName("Variable " + name + " not found in any previous active statement",
                             name);
     }
-    if (!Contains(Atoms(ParseTable), subset_)) return true;
+    if (!HoldsName(Atoms(ParseTable), subset_)) return true;
     return RefuseAtName("Invalid reference to name of subset '" + subset_ + "'", subset_);
 }
 

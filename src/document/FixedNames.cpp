@@ -42,7 +42,7 @@ std::string FixedNames(const std::string& names, int stmt, const Document& docum
     RemoveNamesInUse(fresh, limit, document);
     std::string fixed;
     for (const std::string& name : all) {
-        if (std::find(fresh.begin(), fresh.end(), name) == fresh.end()) AppendName(fixed, name);
+        if (!HoldsName(fresh, name)) AppendName(fixed, name);
     }
     return fixed;
 }

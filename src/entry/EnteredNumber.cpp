@@ -1,22 +1,44 @@
 #include "entry/EnteredNumber.h"
 
-#include <charconv>
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <locale>
+#include <sstream>
 #include <stdexcept>
-#include <system_error>
+#include <string>
 
 namespace tessaryn {
 namespace {
 
 using Limits = std::numeric_limits<short>;
 
-bool StartsNumber(std::string_view text) {
-    return !text.empty() && (text.front() == '.' || (text.front() >= '0' && text.front() <= '9'));
+// How far the text goes on with digits from there.
+std::size_t BehindDigits(std::string_view text, std::size_t from) {
+    return std::min(text.find_first_not_of("0123456789", from), text.size());
 }
 
-[[noreturn]] void ThrowTooLarge() {
-    throw std::out_of_range("the number does not fit 16 bits");
+// Digits, fraction and exponent at the head of the text, as far as they make a number.
+std::string_view NumberAtHead(std::string_view text) {
+    std::size_t end = BehindDigits(text, 0);
+    if (text.substr(end).starts_with('.')) end = BehindDigits(text, end + 1);
+    if (text.substr(end).starts_with('e') || text.substr(end).starts_with('E')) {
+        const std::string_view exponent = text.substr(end + 1);
+        const bool hasSign = exponent.starts_with('+') || exponent.starts_with('-');
+        const std::size_t digits = BehindDigits(exponent, hasSign ? 1 : 0);
+        if (digits > (hasSign ? 1 : 0)) end += 1 + digits;
+    }
+    return text.substr(0, end);
+}
+
+// The user's language has no say in how the number is read. 0 if it is none, the largest double if
+// it is beyond that.
+double ReadNumber(std::string_view text) {
+    std::istringstream source{std::string(text)};
+    source.imbue(std::locale::classic());
+    double value = 0;
+    source >> value;
+    return value;
 }
 
 }  // namespace
@@ -25,12 +47,11 @@ int EnteredNumber(std::string_view text) {
     while (text.starts_with(' ')) text.remove_prefix(1);
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) text.remove_prefix(1);
-    if (!StartsNumber(text)) return 0;  // no "inf" and "nan"
-    double value = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ec == std::errc::result_out_of_range) ThrowTooLarge();
-    value = std::nearbyint(negative ? -value : value);
-    if (value < Limits::min() || value > Limits::max()) ThrowTooLarge();
+    const double size = ReadNumber(NumberAtHead(text));
+    const double value = std::nearbyint(negative ? -size : size);
+    if (value < Limits::min() || value > Limits::max()) {
+        throw std::out_of_range("the number does not fit 16 bits");
+    }
     return static_cast<int>(value);
 }
 

@@ -137,10 +137,10 @@ bool IsIntroducedOn(const std::string& name, int stmt) {
 std::string FirstUnknownName(const std::vector<std::string>& own) {
     const std::vector<int> lines = ActiveLines(InsertionLimit());
     for (const std::string& name : FreeNames()) {
-        const bool known = std::find(own.begin(), own.end(), name) != own.end() ||
-                           std::any_of(lines.begin(), lines.end(), [&](int line) {
-                               return HoldsName(At(line).FreeVars, name);
-                           });
+        const bool known =
+            HoldsName(own, name) || std::any_of(lines.begin(), lines.end(), [&](int line) {
+                return HoldsName(At(line).FreeVars, name);
+            });
         if (!known) return name;
     }
     return "";

@@ -12,6 +12,10 @@ bool HoldsName(std::string_view list, std::string_view name) {
     return false;
 }
 
+bool HoldsName(const std::vector<std::string>& names, std::string_view name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
 NameSet::NameSet(std::string_view list) {
     size_t blank = list.find(' ');
     while (blank != list.npos) {

@@ -10,6 +10,7 @@ namespace tessaryn {
 
 // Whether the list holds the name between blanks.
 bool HoldsName(std::string_view list, std::string_view name);
+bool HoldsName(const std::vector<std::string>& names, std::string_view name);
 
 // The same for many questions of one list, which must outlive it.
 class NameSet {

@@ -62,7 +62,7 @@ bool BindsName(const TokenRec& token) {
 // Gives the bound variables the names v#1, v#2 ... False if there is nothing that could bind one.
 bool RenameBound(Expression& expression) {
     TokenList& tokens = expression.tokens;
-    if (std::ranges::none_of(tokens, BindsName)) return false;
+    if (std::none_of(tokens.begin(), tokens.end(), BindsName)) return false;
     const bool byText = expression.text.find('#') != std::string::npos;
     const std::vector<int> behind = LinkSameNames(tokens, expression.nodes.size());
     int counter = 0;

@@ -10,6 +10,7 @@
 
 #include "entry/ClickPatterns.h"
 #include "entry/MyInputBox.h"
+#include "expr/NameList.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
 #include "inference/Quantifiers.h"
@@ -66,8 +67,8 @@ std::vector<std::string> NamesInOrder(const std::string& entry, std::string& fau
             return {};
         }
         const std::string name = entry.substr(p + 4, end - p - 4);
-        const bool isListed = std::ranges::count(ConclusionUVars, name) > 0;
-        if (isListed && std::ranges::count(names, name) > 0) {
+        const bool isListed = HoldsName(ConclusionUVars, name);
+        if (isListed && HoldsName(names, name)) {
             fault = "Duplicate bound variable '" + name + "'";
             return {};
         }
@@ -80,7 +81,7 @@ std::vector<std::string> NamesInOrder(const std::string& entry, std::string& fau
 // A foreign name shows in the one that it displaced.
 std::string CheckMissing(const std::vector<std::string>& names) {
     for (const std::string& name : ConclusionUVars) {
-        if (std::ranges::count(names, name) > 0) continue;
+        if (HoldsName(names, name)) continue;
         return "Missing bound variable '" + name + "'";
     }
     return "";
