@@ -131,6 +131,11 @@ fs::path DirectoryOf(const fs::path& file) {
 
 // True if the new file has the old one's access list, or has none where the old one has none: in
 // some directories every new file is given one.
+#ifdef __EMSCRIPTEN__
+bool KeepAccessList(int, const fs::path&) {
+    return true;  // its system has no access lists
+}
+#else
 bool KeepAccessList(int file, const fs::path& old) {
     constexpr const char* AccessList = "system.posix_acl_access";
     std::array<char, 65536> list{};  // no attribute is longer
@@ -141,6 +146,7 @@ bool KeepAccessList(int file, const fs::path& old) {
     fremovexattr(file, AccessList);
     return true;
 }
+#endif
 
 // Owner, group, access list and mode of the old file, as far as the system lets them be kept. A
 // group that is not the old one gets no more than everybody has.
