@@ -1,0 +1,132 @@
+#include "check/Check.h"
+
+#include <algorithm>
+
+#include "check/Grounds.h"
+#include "check/Judge.h"
+#include "check/Layout.h"
+#include "check/ProofBytes.h"
+#include "check/RuleNames.h"
+#include "check/Statement.h"
+
+namespace tessaryn::check {
+
+struct CheckedProof::Content {
+    std::string file;
+    ProofBytes proof;
+    std::vector<char> inForce;
+    std::vector<Ground> grounds;                 // of all lines that are one
+    std::vector<std::pair<int, int>> witnesses;  // lines that speak of the witness of a line
+
+    const Record& At(int line) const { return proof.records[static_cast<std::size_t>(line)]; }
+};
+
+CheckedProof CheckProof(std::string file) {
+    const auto content = std::make_shared<CheckedProof::Content>();
+    content->file = std::move(file);
+    content->proof = ReadProofBytes(content->file);
+    CheckedProof checked;
+    checked.content_ = content;
+    checked.sentence = content->proof.error;
+    if (!checked.sentence.empty()) {
+        checked.verdict = Verdict::Refused;
+        content->proof.records.resize(1);
+        return checked;
+    }
+    Judge judge(content->proof);
+    checked.sentence = judge.Sentence();
+    checked.verdict = judge.Result();
+    checked.faultyLine = checked.verdict == Verdict::Accepted ? 0 : judge.Line();
+    content->inForce = judge.LinesInForce();
+    content->grounds = judge.TakeGrounds();
+    content->witnesses = judge.TakeWitnesses();
+    return checked;
+}
+
+int CheckedProof::Count() const {
+    return static_cast<int>(content_->proof.records.size()) - 1;
+}
+
+bool CheckedProof::InForce(int line) const {
+    return static_cast<std::size_t>(line) < content_->inForce.size() &&
+           content_->inForce[static_cast<std::size_t>(line)] != 0;
+}
+
+std::string CheckedProof::Text(int line) const {
+    std::string text;
+    for (const char c : StatementText(content_->proof, line)) {
+        if (c == '\r') text += ' ';
+        if (c != '\r' && c != '\n' && c != '\t') text += c;
+    }
+    return text;
+}
+
+std::string CheckedProof::Key(int line) const {
+    Terms terms;
+    StatementReader reader(terms);
+    return reader.ReadLoosely(Text(line)).error.empty() ? reader.Printed(true) : "";
+}
+
+std::string CheckedProof::Annotation(int line) const {
+    const Record& record = content_->At(line);
+    return std::string(content_->proof.text.substr(
+        static_cast<std::size_t>(record.startRule - 1),
+        static_cast<std::size_t>(record.endRule - record.startRule + 1)));
+}
+
+std::vector<Ground> CheckedProof::RestsOn(int line) const {
+    std::vector<Ground> grounds;
+    const auto add = [&grounds](Ground ground) {
+        for (const Ground& known : grounds) {
+            if (known.kind == ground.kind && known.text == ground.text) return;
+        }
+        grounds.push_back(std::move(ground));
+    };
+    auto next = content_->grounds.begin();
+    for (const int from : Ancestry(content_->proof.records, line)) {
+        next = std::lower_bound(next, content_->grounds.end(), from,
+                                [](const Ground& ground, int at) { return ground.line < at; });
+        if (next == content_->grounds.end()) break;
+        if (next->line != from) continue;
+        const int end = content_->At(from).arg1;  // of a premise, where it was discharged
+        if (next->kind == Ground::Kind::Premise && end != 0 && end <= line) continue;
+        Ground ground = *next;
+        if (ground.kind != Ground::Kind::Menu) ground.text = Text(from);
+        add(std::move(ground));
+    }
+    auto witness = std::lower_bound(content_->witnesses.begin(), content_->witnesses.end(),
+                                    std::pair(line, 0));
+    for (; witness != content_->witnesses.end() && witness->first == line; ++witness) {
+        const Record& record = content_->At(witness->second);
+        add({Ground::Kind::Witness, witness->second, std::string(record.specName)});
+    }
+    return grounds;
+}
+
+std::string Worded(const Ground& ground) {
+    const std::string place = " in line " + std::to_string(ground.line);
+    switch (ground.kind) {
+        case Ground::Kind::Premise:
+            return "premise " + ground.text + place;
+        case Ground::Kind::Created:
+            return "axiom " + ground.text + place;
+        case Ground::Kind::Menu:
+            return ground.text;
+        case Ground::Kind::Witness:
+            return "the choice of " + ground.text + place;
+    }
+    return "";
+}
+
+std::string Summary(const CheckedProof& proof) {
+    if (proof.verdict == Verdict::Refused) return "wrong: " + proof.sentence;
+    if (proof.verdict == Verdict::Declined) return "declined: " + proof.sentence;
+    if (proof.Count() == 0) return "no statement";
+    std::string summary;
+    for (const Ground& ground : proof.RestsOn(proof.Count())) {
+        summary += (summary.empty() ? "rests on " : ", ") + Worded(ground);
+    }
+    return summary.empty() ? "proved" : summary;
+}
+
+}  // namespace tessaryn::check

@@ -1,0 +1,32 @@
+#include "check/Grounds.h"
+
+#include <algorithm>
+
+#include "check/RuleNames.h"
+
+namespace tessaryn::check {
+
+std::vector<int> Ancestry(const std::vector<Record>& records, int line, int least) {
+    std::vector<char> seen(static_cast<std::size_t>(line - least + 1), 0);
+    std::vector<int> found;
+    const auto reach = [&](int other) {
+        if (other < least || seen[static_cast<std::size_t>(other - least)] != 0) return;
+        seen[static_cast<std::size_t>(other - least)] = 1;
+        found.push_back(other);
+    };
+    reach(line);
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        const int at = found[i];
+        const Record& record = records[static_cast<std::size_t>(at)];
+        if (record.rule == static_cast<int>(Rule::Conclusion)) {
+            reach(at - 1);
+        } else if (record.rule != static_cast<int>(Rule::Premise)) {
+            reach(record.arg1);
+            reach(record.arg2);
+        }
+    }
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+}  // namespace tessaryn::check
