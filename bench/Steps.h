@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
 
 namespace tessaryn {
@@ -27,6 +28,14 @@ class KeptProof {
   private:
     Document document_;
 };
+
+// Answers for as long as a form asks.
+inline void AnswerForms(const EventHandler& answer) {
+    while (ModalFormOpen()) {
+        answer();
+        SettleQuestions();
+    }
+}
 
 // What the desktop takes after each command: the changed range, and the formats of a screenful.
 void LookAtScreen();

@@ -16,6 +16,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
+#include "platform/Events.h"
 #include "view/InsertMode.h"
 #include "view/PutStmt.h"
 
@@ -50,20 +51,20 @@ void AddAxiom(const char* text) {
     FinishRule(WriteStatement());
 }
 
-void PressContinue(int rule, const char* number) {
-    RuleMode = rule;
+void WriteScheme(int rule, const char* number) {
+    AskForAxiomOrder(rule);
     MyInputBox.Text1.Text = number;
-    MyInputBox.Continue.Click();
+    SendChoose(MyInputBox.Continue);
 }
 
 void FixedAxiomAtEnd(benchmark::State& state) {
     MakeProof(state);
-    Measure(state, 1, [] { Proof.optPairwiseUnion.Click(); });
+    Measure(state, 1, [] { SendChoose(Proof.optPairwiseUnion); });
 }
 
 void SchemeAtEnd(benchmark::State& state) {
     MakeProof(state);
-    Measure(state, 1, [] { PressContinue(Rule::CartProd, "2"); });
+    Measure(state, 1, [] { WriteScheme(Rule::CartProd, "2"); });
 }
 
 // Where the axioms may go in: ahead of the first premise, so that all lines get new numbers.
@@ -71,7 +72,7 @@ void RingAxiomsAtLine1(benchmark::State& state) {
     MakeProof(state);
     InsertMode = true;
     InsertLine = 1;
-    Measure(state, 13, [] { Proof.optRingAxioms.Click(); });
+    Measure(state, 13, [] { SendChoose(Proof.optRingAxioms); });
     InsertMode = false;
 }
 
@@ -79,13 +80,13 @@ void RingAxiomsAtLine1(benchmark::State& state) {
 void RingAxiomsAtEnd(benchmark::State& state) {
     MakeProof(state);
     StmtTable.EditEach([](Statement& stmt) { stmt.Rule = Rule::Copy; });
-    Measure(state, 13, [] { Proof.optRingAxioms.Click(); });
+    Measure(state, 13, [] { SendChoose(Proof.optRingAxioms); });
 }
 
 void DefinitionAtEnd(benchmark::State& state) {
     MakeProof(state);
     AddAxiom("1@n");
-    Measure(state, 1, [] { Proof.optMultiplicationProperties.Click(); });
+    Measure(state, 1, [] { SendChoose(Proof.optMultiplicationProperties); });
 }
 
 void SubsetAtEnd(benchmark::State& state) {
@@ -99,7 +100,7 @@ void SubsetAtEnd(benchmark::State& state) {
         SubsetFrm.SubsetName.Text = "y";
         SubsetFrm.BoundVars.Text = "a";
         SubsetFrm.SelectExpression.SetText("a=t & P(x,a)");
-        SubsetFrm.cmdContinue.Click();
+        SendChoose(SubsetFrm.cmdContinue);
     });
 }
 
@@ -112,7 +113,7 @@ void InductionAtEnd(benchmark::State& state) {
         Arg1Pending = Arg2Pending = 0;
         InductionForm.BoundVarTextBox.Text = "k";
         InductionForm.RTB.SetText("P(x,k) & k+x=x+k");
-        InductionForm.cmdContinue.Click();
+        SendChoose(InductionForm.cmdContinue);
     });
 }
 
@@ -120,7 +121,7 @@ void InductionAtEnd(benchmark::State& state) {
 void SchemeOfOrder99(benchmark::State& state) {
     MakeLargeProof(10000);
     const int rule = static_cast<int>(state.range(0));
-    Measure(state, 1, [rule] { PressContinue(rule, "99"); });
+    Measure(state, 1, [rule] { WriteScheme(rule, "99"); });
     state.SetLabel(RuleName(rule));
 }
 

@@ -64,10 +64,10 @@ void UndoOfJoin(benchmark::State& state) {
     ClickStatement(count - 1);
     ClickStatement(count);
     for (auto _ : state) {
-        Proof.optUndo.Click();
+        SendChoose(Proof.optUndo);
         LookAtScreen();
         state.PauseTiming();
-        Proof.optRedo.Click();
+        SendChoose(Proof.optRedo);
         state.ResumeTiming();
     }
     state.SetComplexityN(count);
@@ -80,16 +80,16 @@ std::string ScratchFile() {
 void Save(benchmark::State& state) {
     MakeLargeProof(static_cast<int>(state.range(0)));
     ProofFileName = ScratchFile();
-    for (auto _ : state) Proof.optSave.Click();
+    for (auto _ : state) SendChoose(Proof.optSave);
 }
 
 void Open(benchmark::State& state) {
     MakeLargeProof(static_cast<int>(state.range(0)));
     ProofFileName = ScratchFile();
-    Proof.optSave.Click();
+    SendChoose(Proof.optSave);
     for (auto _ : state) {
         Headless.Files.push_back(ScratchFile());
-        Proof.optOpen.Click();
+        SendChoose(Proof.optOpen);
         LookAtScreen();
     }
 }

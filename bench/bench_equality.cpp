@@ -50,26 +50,22 @@ void Measure(benchmark::State& state, Rule rule) {
 
 void GeneralizeAll(benchmark::State& state) {
     Measure(state, [] {
-        Headless.NextStep = [] {
-            Generalize.BoundVarTextBox.Text = "v";
-            Generalize.BoundVarTextBox.Change();
-            SendChoose(Generalize.cmdSelectAll);
-            return SendChoose(Generalize.cmdContinue);
-        };
         SendChoose(Proof.optEGen);
         ClickStatement(2, 4);
+        Generalize.BoundVarTextBox.Text = "v";
+        Generalize.BoundVarTextBox.Change();
+        SendChoose(Generalize.cmdSelectAll);
+        SendChoose(Generalize.cmdContinue);
     });
 }
 
 void SubstituteAll(benchmark::State& state) {
     Measure(state, [] {
-        Headless.NextStep = [] {
-            SendChoose(Substitution.cmdSelectAll);
-            return SendChoose(Substitution.cmdContinue);
-        };
         SendChoose(Proof.optSubstitution);
         ClickStatement(1);
         ClickStatement(2);
+        SendChoose(Substitution.cmdSelectAll);
+        SendChoose(Substitution.cmdContinue);
     });
 }
 

@@ -36,7 +36,9 @@ void PrintCopy(benchmark::State& state) {
 
 void PrintedPages(benchmark::State& state) {
     MakeLargeProof(static_cast<int>(state.range(0)));
-    for (auto _ : state) benchmark::DoNotOptimize(PrintStatements(1, StmtCount));
+    for (auto _ : state) {
+        PrintStatements(1, StmtCount, [](PrintResult result) { benchmark::DoNotOptimize(result); });
+    }
     state.counters["pages"] = static_cast<double>(Headless.Pages.size());
 }
 

@@ -73,26 +73,22 @@ void SpecifyTerm(benchmark::State& state) {
     StartHeadless();
     Write("k=k");
     Write("ALL(a):[" + Chain(" & ", "P(a)", static_cast<int>(state.range(0))) + "]");
-    Headless.NextStep = [] {
-        TestParser.RTB.SetText("k");
-        return SendChoose(TestParser.cmdContinue);
-    };
     Measure(state, [] {
         SendChoose(Proof.optSpec);
         ClickMiddle(2, "&");
+        TestParser.RTB.SetText("k");
+        SendChoose(TestParser.cmdContinue);
     });
 }
 
 void RenameVariable(benchmark::State& state) {
     StartHeadless();
     Write("ALL(a):[" + Chain(" & ", "P(a)", static_cast<int>(state.range(0))) + "]");
-    Headless.NextStep = [] {
-        MyInputBox.Text1.Text = "b";
-        return SendChoose(MyInputBox.Continue);
-    };
     Measure(state, [] {
         SendChoose(Proof.optRename);
         ClickMiddle(1, "&");
+        MyInputBox.Text1.Text = "b";
+        SendChoose(MyInputBox.Continue);
     });
 }
 

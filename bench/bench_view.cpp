@@ -19,19 +19,11 @@
 namespace tessaryn {
 namespace {
 
-void SayContinue() {
-    Headless.NextStep = [] {
-        SendChoose(Warning.Visible ? Warning.cmdContinue : Comment.Continue);
-        return true;
-    };
-}
-
 // `prepare`, and putting the proof back to what it was after that, is not timed.
 template <class Prepare, class Command>
 void Measure(benchmark::State& state, Prepare prepare, Command command) {
     const int count = static_cast<int>(state.range(0));
     MakeLargeProof(count);
-    SayContinue();
     prepare(count);
     const KeptProof proof;
     for (auto _ : state) {
@@ -76,6 +68,7 @@ void DeleteLine2AndAllOnIt(benchmark::State& state) {
     Measure(state, Nothing, [](int) {
         StartClickRule(DeleteAllRefMode);
         Click(2, At(2).StartStmt);
+        SendChoose(Warning.cmdContinue);
     });
 }
 
@@ -89,12 +82,9 @@ void DeleteLine10Alone(benchmark::State& state) {
 
 void CommentOnLine2(benchmark::State& state) {
     Measure(state, Nothing, [](int) {
-        Headless.NextStep = [] {
-            Comment.CommentBox.SetText("Two lines\r\nof comment");
-            SendChoose(Comment.Continue);
-            return true;
-        };
         Click(2, At(2).StartStmt);
+        Comment.CommentBox.SetText("Two lines\r\nof comment");
+        SendChoose(Comment.Continue);
     });
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/HeadlessPlatform.h"
 #include "cli/Script.h"
 #include "cli/ScriptRunner.h"
 
@@ -22,6 +23,14 @@ inline std::string Build(const std::string& script) {
     ScriptOptions options;
     options.checkDocument = true;
     return RunScript(script, "script", options).error;
+}
+
+// Answers for as long as a form asks.
+inline void AnswerForms(const EventHandler& answer) {
+    while (ModalFormOpen()) {
+        answer();
+        SettleQuestions();
+    }
 }
 
 }  // namespace tessaryn

@@ -9,6 +9,7 @@
 #include "axioms/NamesInUse.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "mainwindow/Questions.h"
 #include "mainwindow/RuleModes.h"
 
 namespace tessaryn {
@@ -23,8 +24,7 @@ void InductionShortcut() {
         return FinishRule(false);
     }
     Arg1Pending = Arg2Pending = 0;
-    ShowModal(InductionForm);
-    FinishRule(true);
+    AskIn(InductionForm, [] { FinishRule(true); });
 }
 
 }  // namespace tessaryn

@@ -168,7 +168,7 @@ int PrintCommand(const Words& words, const Streams& streams) {
         streams.err << words[0] << ": Print:  Nothing to print\n";
         return 1;
     }
-    PrintStatements(1, StmtCount);
+    PrintStatements(1, StmtCount, [](PrintResult) {});
     std::string pages;
     for (const std::string& page : Headless.Pages) pages += (pages.empty() ? "" : "\f") + page;
     return ReportWriting(words[1], ReplaceFile(words[1], pages + "\n"), streams);

@@ -13,32 +13,27 @@ namespace tessaryn {
 
 namespace {
 
-// Keeps a form among the open ones for as long as it is up, however that ends.
-struct ModalScope {
-    explicit ModalScope(Form& shown) : form(shown) { Headless.Forms.push_back({&form, true}); }
-    ~ModalScope() {
-        form.Hide();
-        std::erase_if(Headless.Forms, [&](const OpenForm& open) { return open.form == &form; });
-    }
-    ModalScope(const ModalScope&) = delete;
-    ModalScope& operator=(const ModalScope&) = delete;
-
-    Form& form;
-};
-
 bool HasButton(Buttons buttons, Answer answer) {
     if (answer == Answer::Cancel) return buttons == Buttons::YesNoCancel;
     return (buttons == Buttons::OK) == (answer == Answer::OK);
 }
 
-bool TakeFileReply(CommonDialog& dialog) {
+void ReplyToFileDialog(const CommonDialog& dialog,
+                       const std::function<void(const ChosenFile&)>& reply) {
     Headless.FileDialogs.push_back(dialog);
-    if (Headless.Files.empty()) return false;
-    const std::optional<std::string> reply = Headless.Files.front();
-    Headless.Files.pop_front();
-    if (!reply) return false;
-    dialog.FileName = *reply;
-    return true;
+    ChosenFile file;
+    if (!Headless.Files.empty()) {
+        file = Headless.Files.front();
+        Headless.Files.pop_front();
+    }
+    reply(file);
+}
+
+void PutOnTop(Form& form, bool modal) {
+    form.Show();
+    std::erase_if(Headless.Forms, [&](const OpenForm& open) { return open.form == &form; });
+    Headless.Forms.push_back({&form, modal});
+    form.Activated();
 }
 
 // The entries of the recent files stay as they are: there is nothing behind them.
@@ -53,19 +48,18 @@ void ShowHiddenItems() {
 }  // namespace
 
 void StartHeadless(const std::string& settingsDir, bool showHidden) {
-    std::function<bool()> nextStep = std::move(Headless.NextStep);
     Headless = {};
-    Headless.NextStep = std::move(nextStep);
     Headless.StartingUp = true;
     ReleasePrinter();
     StartProgram();
     AppPath = settingsDir;
-    LoadMainWindow("");
-    if (showHidden) ShowHiddenItems();
-    Proof.Visible = true;
-    Headless.Forms.push_back({&Proof, false});
-    Proof.Activated();
-    Headless.StartingUp = false;
+    LoadMainWindow("", [showHidden] {
+        if (showHidden) ShowHiddenItems();
+        Proof.Visible = true;
+        Headless.Forms.push_back({&Proof, false});
+        Proof.Activated();
+    });
+    SettleQuestions();
 }
 
 Form& TopForm() {
@@ -94,20 +88,14 @@ const char* AnswerName(Answer answer) {
     return "OK";
 }
 
-void ShowModal(Form& form) {
-    form.Show();
-    const ModalScope scope(form);
-    form.Activated();
-    while (form.Visible) {
-        if (Headless.Ended || !Headless.NextStep || !Headless.NextStep()) throw ProgramEnded{};
-    }
+void PresentModal(Form& form) {
+    PutOnTop(form, true);
 }
 
+void TakeDown(Form&) {}
+
 void ShowModeless(Form& form) {
-    form.Show();
-    std::erase_if(Headless.Forms, [&](const OpenForm& open) { return open.form == &form; });
-    Headless.Forms.push_back({&form, false});
-    form.Activated();
+    PutOnTop(form, false);
 }
 
 void RefreshNow(Form&) {}
@@ -124,28 +112,25 @@ void Tell(const std::string& note) {
     Headless.Notes.push_back(note);
 }
 
-Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons,
-              Answer defaultAnswer) {
-    Answer answer = defaultAnswer;
+void PresentMessage(const Message& message, std::function<void(Answer)> reply) {
+    Answer answer = message.defaultAnswer;
     if (!Headless.Answers.empty()) {
         answer = Headless.Answers.front();
         Headless.Answers.pop_front();
     }
-    Headless.Messages.push_back({title, text, answer});
-    if (!HasButton(buttons, answer)) {
-        Headless.Fault =
-            std::string("the message box \"") + title + "\" has no button " + AnswerName(answer);
-        throw ProgramEnded{};
-    }
-    return answer;
+    Headless.Messages.push_back({message.title, message.text, answer});
+    if (HasButton(message.buttons, answer)) return reply(answer);
+    Headless.Fault =
+        "the message box \"" + message.title + "\" has no button " + AnswerName(answer);
+    EndProgram();
 }
 
-bool ShowOpen(CommonDialog& dialog) {
-    return TakeFileReply(dialog);
+void PresentOpen(const CommonDialog& dialog, std::function<void(const ChosenFile&)> reply) {
+    ReplyToFileDialog(dialog, reply);
 }
 
-bool ShowSave(CommonDialog& dialog) {
-    return TakeFileReply(dialog);
+void PresentSave(const CommonDialog& dialog, std::function<void(const ChosenFile&)> reply) {
+    ReplyToFileDialog(dialog, reply);
 }
 
 void SetClipboard(const Clip& content) {

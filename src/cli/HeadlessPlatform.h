@@ -3,7 +3,6 @@
 #pragma once
 
 #include <deque>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -41,9 +40,7 @@ struct HeadlessState {
 
     std::vector<OpenForm> Forms;  // bottom to top; hidden ones may still be among them
 
-    // Does the user's next action while a modal form is up; false: there is none left.
-    std::function<bool()> NextStep;
-    bool StartingUp = false;  // up to the end of the main window's first activation
+    bool StartingUp = false;  // until the forms of the start are gone
     bool Ended = false;       // EndProgram has been called
     std::string Fault;        // a reply that did not fit its question; the program was ended for it
 

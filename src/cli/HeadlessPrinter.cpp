@@ -100,10 +100,10 @@ void FillTexts(std::vector<Line>& lines, RichTextBox& surface) {
 
 }  // namespace
 
-PrinterState ReadyPrinter(PrinterPage& page) {
+void ReadyPrinter(std::function<void(PrinterState, const PrinterPage&)> then) {
     Job = {};
-    page = {PageWidth, PageHeight, 0, 0};
-    return Headless.HasPrinter ? PrinterState::Ready : PrinterState::Failed;
+    then(Headless.HasPrinter ? PrinterState::Ready : PrinterState::Failed,
+         {PageWidth, PageHeight, 0, 0});
 }
 
 bool LayOutForPrinter(RichTextBox& surface, int width) {

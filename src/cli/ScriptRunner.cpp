@@ -53,8 +53,10 @@ bool IsForMainWindow(const std::string& line) {
 
 // The forms of the start stand in nobody's way: work that goes on behind them closes them.
 bool ClosesStartForm(const std::string& line) {
-    if (!Headless.StartingUp || !ModalFormOpen() || !IsForMainWindow(line)) return false;
+    Headless.StartingUp = Headless.StartingUp && ModalFormOpen();
+    if (!Headless.StartingUp || !IsForMainWindow(line)) return false;
     TopForm().Close();
+    SettleQuestions();
     return true;
 }
 
@@ -77,38 +79,32 @@ bool DoNext(ScriptRun& run) {
     return false;
 }
 
-// A command that waits in a modal form may be half done.
 void CheckState(const ScriptRun& run) {
-    if (!run.checkDocument || ModalFormOpen()) return;
+    if (!run.checkDocument) return;
     std::string fault = CheckDocument();
     if (fault.empty()) fault = CheckDisplay();
     if (!fault.empty()) throw ActionFailed{"the document does not agree with itself: " + fault};
 }
 
-// False if the run is over. Nothing but ProgramEnded leaves it, as events lie on the stack below.
+// False if the run is over.
 bool Step(ScriptRun& run) {
-    if (Headless.Ended || !run.failure.empty()) return false;
-    try {
-        if (!DoNext(run)) return false;
-        CheckState(run);
-    } catch (const ActionFailed& failed) {
-        run.failure = failed.reason;
-    }
-    return run.failure.empty() && !Headless.Ended;
+    if (Headless.Ended) return false;
+    if (!DoNext(run)) return false;
+    CheckState(run);
+    return true;
 }
 
 void RunToEnd(ScriptRun& run, const ScriptOptions& options) {
-    Headless.NextStep = [&run] { return Step(run); };
     try {
         StartHeadless(options.settingsDir, options.showHidden);
         while (Step(run)) {
         }
-    } catch (const ProgramEnded&) {
-        if (run.failure.empty()) run.failure = Headless.Fault;
+        run.failure = Headless.Fault;
+    } catch (const ActionFailed& failed) {
+        run.failure = failed.reason;
     } catch (const std::exception& unexpected) {
         run.failure = std::string("unexpected failure: ") + unexpected.what();
     }
-    Headless.NextStep = nullptr;
 }
 
 // A reason may hold words of a script that is no text at all.

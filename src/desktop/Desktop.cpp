@@ -30,14 +30,25 @@ DesktopState& State() {
     return state;
 }
 
-FormWindow& Present(Form& form, bool modal) {
+void Present(Form& form, bool modal) {
     form.Show();
     QWidget* below = TopWindow();
     SyncWindows();
     FormWindow& window = WindowOf(form);
     if (below != nullptr && below != &window.Window()) window.StandInFrontOf(*below);
     window.Show(modal);
-    return window;
+    form.Activated();
+}
+
+// Nothing that the logic throws gets past it.
+void Guard(const EventHandler& event) {
+    try {
+        event();
+    } catch (const std::exception& fault) {
+        Beep(std::string("Something went wrong inside the program: ") + fault.what());
+    } catch (...) {
+        Beep("Something went wrong inside the program.");
+    }
 }
 
 }  // namespace
@@ -46,18 +57,13 @@ FormWindow& Present(Form& form, bool modal) {
 
 void Dispatch(const EventHandler& event) {
     if (Ending()) return;
-    try {
+    Guard([&] {
         for (const auto& [form, window] : State().windows) {
             if (form->Visible) window->Pull();
         }
         event();
-    } catch (const ProgramEnded&) {
-        // The event loops are on their way out.
-    } catch (const std::exception& fault) {
-        Beep(std::string("Something went wrong inside the program: ") + fault.what());
-    } catch (...) {
-        Beep("Something went wrong inside the program.");
-    }
+    });
+    Guard(SettleQuestions);
     SyncWindows();
 }
 
@@ -123,31 +129,17 @@ bool Ending() {
 
 // --- what the logic calls
 
-void ShowModal(Form& form) {
-    // Whatever way it ends, the window does not stay.
-    struct Scope {
-        Form& form;
-        FormWindow& window;
-        QPointer<QWidget> below;
-        ~Scope() {
-            form.Hide();
-            window.Window().hide();
-            // Where no window manager does it, the keyboard would be nobody's.
-            if (below && !Ending()) below->activateWindow();
-        }
-    };
-    const QPointer<QWidget> below = TopWindow();
-    FormWindow& window = Present(form, true);
-    const Scope scope{form, window, below};
-    form.Activated();
+void PresentModal(Form& form) {
+    Present(form, true);
     SyncWindows();
-    window.RunUntilHidden();
-    if (Ending()) throw ProgramEnded{};
+}
+
+void TakeDown(Form& form) {
+    WindowOf(form).Hide();
 }
 
 void ShowModeless(Form& form) {
     Present(form, false);
-    form.Activated();
 }
 
 void RefreshNow(Form& form) {

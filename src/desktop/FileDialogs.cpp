@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QStringList>
+#include <utility>
 
 #include "desktop/Desktop.h"
 #include "desktop/HelpViewer.h"
@@ -57,34 +58,41 @@ class OpenDialogue : public QFileDialog {
     FileMode lastMode_;
 };
 
-bool Run(QFileDialog& dialogue, CommonDialog& dialog) {
+// Deletes itself once it has been answered.
+void Run(QFileDialog& dialogue, const CommonDialog& dialog,
+         std::function<void(const ChosenFile&)> reply) {
     SyncWindows();
     if (!dialog.Title.empty()) dialogue.setWindowTitle(ToQt(dialog.Title));
-    LeaveManualUsable(dialogue);
     dialogue.setNameFilters(Filters(dialog.Filter));
     if (!dialog.InitDir.empty()) dialogue.setDirectory(ToQt(dialog.InitDir));
     if (!dialog.FileName.empty()) dialogue.selectFile(ToQt(dialog.FileName));
-    const bool accepted = dialogue.exec() == QDialog::Accepted;
-    if (Ending()) throw ProgramEnded{};
-    if (!accepted || dialogue.selectedFiles().isEmpty()) return false;
-    dialog.FileName = dialogue.selectedFiles().constFirst().toStdString();
-    return true;
+    dialogue.setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(&dialogue, &QDialog::finished, &dialogue,
+                     [&dialogue, reply = std::move(reply)](int result) {
+                         const QStringList files = dialogue.selectedFiles();
+                         ChosenFile chosen;
+                         if (result == QDialog::Accepted && !files.isEmpty()) {
+                             chosen = files.constFirst().toStdString();
+                         }
+                         Dispatch([&] { reply(chosen); });
+                     });
+    LeaveManualUsable(dialogue);
+    dialogue.open();
 }
 
 }  // namespace
 
-bool ShowOpen(CommonDialog& dialog) {
-    OpenDialogue dialogue(TopWindow(), dialog);
-    return Run(dialogue, dialog);
+void PresentOpen(const CommonDialog& dialog, std::function<void(const ChosenFile&)> reply) {
+    Run(*new OpenDialogue(TopWindow(), dialog), dialog, std::move(reply));
 }
 
-bool ShowSave(CommonDialog& dialog) {
-    QFileDialog dialogue(TopWindow(), QStringLiteral("Save as"));
+void PresentSave(const CommonDialog& dialog, std::function<void(const ChosenFile&)> reply) {
+    auto& dialogue = *new QFileDialog(TopWindow(), QStringLiteral("Save as"));
     dialogue.setAcceptMode(QFileDialog::AcceptSave);
     dialogue.setFileMode(QFileDialog::AnyFile);
     dialogue.setDefaultSuffix(Suffix(dialog.Filter));
     dialogue.setOption(QFileDialog::DontConfirmOverwrite, !dialog.OverwritePrompt);
-    return Run(dialogue, dialog);
+    Run(dialogue, dialog, std::move(reply));
 }
 
 }  // namespace tessaryn

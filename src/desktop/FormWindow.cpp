@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QWindow>
 #include <algorithm>
+#include <memory>
 #include <optional>
 
 #include "desktop/Bindings.h"
@@ -204,6 +205,7 @@ QMenu* FormWindow::MenuOf(const MenuItem& item) const {
 // winId() would make a native window of each menu of the parent as well, and so a window of its own
 // for assistive tools.
 void FormWindow::StandInFrontOf(QWidget& below) {
+    below_ = &below;
     static_cast<FormDialogue&>(*window_).create();
     window_->windowHandle()->setTransientParent(below.windowHandle());
 }
@@ -211,6 +213,7 @@ void FormWindow::StandInFrontOf(QWidget& below) {
 void FormWindow::Show(bool modal) {
     // What takes all input needs the others' windows to get theirs.
     const bool blocks = modal && !form_.TakesAllInput;
+    modal_ = modal;
     window_->setWindowModality(blocks ? Qt::WindowModal : Qt::NonModal);
     Sync();
     // A window that appears gives the focus back to what had it last.
@@ -219,6 +222,7 @@ void FormWindow::Show(bool modal) {
     window_->raise();
     window_->activateWindow();
     if (form_.ActiveControl == nullptr) FocusFirst();
+    if (form_.TakesAllInput) catcher_ = std::make_unique<InputCatcher>(form_);
 }
 
 void FormWindow::FocusFirst() {
@@ -231,14 +235,12 @@ void FormWindow::FocusFirst() {
     }
 }
 
-void FormWindow::RunUntilHidden() {
-    std::optional<InputCatcher> catcher;
-    if (form_.TakesAllInput) catcher.emplace(form_);
-    QEventLoop loop;
-    loop_ = &loop;
-    if (form_.Visible && !Ending()) loop.exec();
-    loop_ = nullptr;
+void FormWindow::Hide() {
+    catcher_.reset();
+    modal_ = false;
     window_->hide();
+    // Where no window manager does it, the keyboard would be nobody's.
+    if (below_ && !Ending()) below_->activateWindow();
 }
 
 // --- between controls and widgets
@@ -264,8 +266,8 @@ void FormWindow::Sync() {
     if (busy && window_->cursor().shape() != Qt::WaitCursor) window_->setCursor(Qt::WaitCursor);
     if (!busy && window_->testAttribute(Qt::WA_SetCursor)) window_->unsetCursor();
     SyncFocus();
-    if (loop_ != nullptr && !form_.Visible) loop_->quit();
-    if (loop_ == nullptr && !form_.Visible && window_->isVisible()) window_->hide();
+    // A box that is asked in stays until its answer counts.
+    if (!modal_ && !form_.Visible && window_->isVisible()) window_->hide();
 }
 
 void FormWindow::SyncFocus() {

@@ -4,12 +4,12 @@
 // the logic has set comes back in Sync, by comparison with what is shown.
 #pragma once
 
-#include <QEventLoop>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -43,8 +43,8 @@ class FormWindow : public QObject {
     void StandInFrontOf(QWidget& below);
     // Shows the window with its first focus; modal: blocks all others but the manual.
     void Show(bool modal);
-    // Returns when the form has been hidden or the program ends.
-    void RunUntilHidden();
+    // The keyboard goes back to what the window stood in front of.
+    void Hide();
 
     void Pull();
     void Sync();
@@ -73,7 +73,9 @@ class FormWindow : public QObject {
     QMenuBar* menuBar_ = nullptr;            // nullptr in a box without menus
     std::map<QObject*, Control*> controls_;  // by widget
     std::map<const MenuItem*, QMenu*> menus_;
-    QEventLoop* loop_ = nullptr;  // of RunUntilHidden
+    QPointer<QWidget> below_;           // what it stands in front of
+    bool modal_ = false;                // since it was shown last
+    std::unique_ptr<QObject> catcher_;  // of all input, for a form that takes it
 };
 
 }  // namespace tessaryn

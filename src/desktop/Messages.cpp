@@ -234,21 +234,23 @@ void ForgetNote() {
     delete Shown;
 }
 
-Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons,
-              Answer defaultAnswer) {
+void PresentMessage(const Message& message, std::function<void(Answer)> reply) {
     SyncWindows();
-    QMessageBox box(TopWindow());
+    auto& box = *new QMessageBox(TopWindow());
+    box.setAttribute(Qt::WA_DeleteOnClose);
     LeaveManualUsable(box);
-    SetTitle(box, title);
+    SetTitle(box, message.title);
     box.setTextFormat(Qt::PlainText);
-    box.setText(ShownText(text));
-    box.setIcon(buttons == Buttons::OK ? QMessageBox::Warning : QMessageBox::Question);
-    box.setStandardButtons(AllOf(buttons));
-    box.setDefaultButton(ButtonFor(defaultAnswer));
-    const int button = box.exec();
-    FadeNote();
-    if (Ending()) throw ProgramEnded{};
-    return AnswerOf(button, buttons);
+    box.setText(ShownText(message.text));
+    box.setIcon(message.buttons == Buttons::OK ? QMessageBox::Warning : QMessageBox::Question);
+    box.setStandardButtons(AllOf(message.buttons));
+    box.setDefaultButton(ButtonFor(message.defaultAnswer));
+    QObject::connect(&box, &QDialog::finished, &box,
+                     [buttons = message.buttons, reply = std::move(reply)](int button) {
+                         FadeNote();
+                         Dispatch([&] { reply(AnswerOf(button, buttons)); });
+                     });
+    box.open();
 }
 
 }  // namespace tessaryn

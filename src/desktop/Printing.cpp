@@ -12,6 +12,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "desktop/PaintedText.h"
 #include "mainwindow/ProgramState.h"
@@ -56,13 +57,26 @@ QFont PrintedFont(const CharFormat& format) {
     return font;
 }
 
-PrinterState AskForPdf(QPrinter& printer) {
+using PrinterReady = std::function<void(PrinterState, const PrinterPage&)>;
+
+void Ready(const PrinterReady& then) {
+    QPrinter& printer = *Job().printer;
+    if (!printer.isValid()) return then(PrinterState::Failed, {});
+    printer.setDocName(ToQt(PrintTitle()));
+    printer.setFullPage(true);  // coordinates from the edges of the paper
+    const QRectF paper = printer.paperRect(QPrinter::DevicePixel);
+    then(PrinterState::Ready, {Twips(paper.width()), Twips(paper.height()), 0, 0});
+}
+
+void AskForPdf(PrinterReady then) {
     const std::string name = ProofFileName.empty() ? "" : WithExtension(ProofFileName, "pdf");
-    CommonDialog choice{name, "PDF (*.pdf)|*.pdf", DefaultDir, true, false, "Print to PDF"};
-    if (!ShowSave(choice)) return PrinterState::Cancelled;
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(ToQt(choice.FileName));
-    return PrinterState::Ready;
+    ShowSave({name, "PDF (*.pdf)|*.pdf", DefaultDir, true, false, "Print to PDF"},
+             [then = std::move(then)](const ChosenFile& file) {
+                 if (!file) return then(PrinterState::Cancelled, {});
+                 Job().printer->setOutputFormat(QPrinter::PdfFormat);
+                 Job().printer->setOutputFileName(ToQt(*file));
+                 Ready(then);
+             });
 }
 
 // One line of the surface, in as many rows as it takes.
@@ -150,23 +164,13 @@ QPointF Draw(const PrintedLine& line, int from, int end, QPointF place) {
 
 }  // namespace
 
-PrinterState ReadyPrinter(PrinterPage& page) {
+void ReadyPrinter(PrinterReady then) {
     ReleasePrinter();
-    PrinterJob& job = Job();
     const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
-    job.printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    if (standard.isNull()) {
-        const PrinterState state = AskForPdf(*job.printer);
-        if (state != PrinterState::Ready) return state;
-    } else {
-        job.printer->setPrinterName(standard.printerName());
-    }
-    if (!job.printer->isValid()) return PrinterState::Failed;
-    job.printer->setDocName(ToQt(PrintTitle()));
-    job.printer->setFullPage(true);  // coordinates from the edges of the paper
-    const QRectF paper = job.printer->paperRect(QPrinter::DevicePixel);
-    page = {Twips(paper.width()), Twips(paper.height()), 0, 0};
-    return PrinterState::Ready;
+    Job().printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    if (standard.isNull()) return AskForPdf(std::move(then));
+    Job().printer->setPrinterName(standard.printerName());
+    Ready(then);
 }
 
 bool LayOutForPrinter(RichTextBox& surface, int width) {

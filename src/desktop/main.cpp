@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QSessionManager>
+#include <QTimer>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -75,6 +76,9 @@ void ListenToSession(QApplication& application) {
         [](QSessionManager& session) {
             if (!session.allowsInteraction()) return;
             Dispatch([] { Proof.Close(); });
+            while (QuestionsOpen() && !Ending()) {
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            }
             if (OperationCancelled) session.cancel();
         },
         Qt::DirectConnection);
@@ -112,14 +116,17 @@ int main(int argc, char* argv[]) {
     }
     StartProgram();
     AppPath = FindAppPath(QApplication::applicationDirPath().toStdString());
-    Dispatch([&commandLine] { LoadMainWindow(commandLine); });
-    ListenToSession(application);
-    ShowMainWindow(Proof);
-    if (std::getenv("TESSARYN_MEASURE_START") != nullptr) {
+    const auto show = [&firstPaint] {
+        ShowMainWindow(Proof);
+        if (std::getenv("TESSARYN_MEASURE_START") == nullptr) return;
         WidgetOf(Proof.RTB)
             ->findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport"))
             ->installEventFilter(&firstPaint);
-    }
+    };
+    ListenToSession(application);
+    // From the event loop, as it makes all windows anew.
+    const auto showSoon = [&] { QTimer::singleShot(0, &application, show); };
+    Dispatch([&] { LoadMainWindow(commandLine, showSoon); });
     if (!Ending()) QApplication::exec();
     ForgetNote();
     ForgetWindows();

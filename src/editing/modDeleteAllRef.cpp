@@ -12,13 +12,10 @@
 namespace tessaryn {
 namespace {
 
-// False if the user cancels.
-bool ConfirmOthers(int others) {
-    Warning.Message.Caption = "This deletition will result in  " + std::to_string(others) +
-                              " other statement(s) being deleted.";
-    Warning.Reason = "Continue deletes them all, Cancel leaves the proof as it is.";
-    ShowModal(Warning);
-    return !OperationCancelled;
+void DeleteMarked(int first) {
+    BackUpUndo();
+    DeleteStmts(first);
+    FinishDeletion();
 }
 
 void ForgetMarks() {
@@ -30,15 +27,16 @@ void ForgetMarks() {
 
 void DeleteAllRef() {
     RuleMode = 0;
-    int first = StmtToDelete();
+    const int first = StmtToDelete();
     SetPrompt("");
     if (first == 0) return;
     int count = 0;
     FlagStmts(first, count);
-    if (count > 1 && !ConfirmOthers(count - 1)) return ForgetMarks();
-    BackUpUndo();
-    DeleteStmts(first);
-    FinishDeletion();
+    if (count == 1) return DeleteMarked(first);
+    Warn("This deletition will result in  " + std::to_string(count - 1) +
+             " other statement(s) being deleted.",
+         "Continue deletes them all, Cancel leaves the proof as it is.",
+         [first] { OperationCancelled ? ForgetMarks() : DeleteMarked(first); });
 }
 
 }  // namespace tessaryn

@@ -168,7 +168,7 @@ void DeleteStmts(int& first) {
     if (!insertLineLost) return;
     // Only now: while the message is up, what the window shows must agree with the proof.
     Beep("The line ahead of which statements were inserted has been deleted.");
-    MsgBox("Insert Mode OFF", "WARNING");
+    MsgBox({"Insert Mode OFF", "WARNING"});
 }
 
 }  // namespace tessaryn

@@ -7,6 +7,7 @@
 #include "expr/Expression.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "mainwindow/Questions.h"
 #include "view/Display.h"
 
 namespace tessaryn {
@@ -20,12 +21,12 @@ void RefuseEntry(const std::string& message, const std::string& reason) {
     Beep(reason.empty() ? message : reason);
 }
 
-void AskInBox(BoxQuestion question) {
+void AskInBox(BoxQuestion question, EventHandler then) {
     MyInputBox.Caption = question.caption;
     MyInputBox.Label1.Caption = question.prompt;
     MyInputBox.Label2.Caption = question.hint;
     MyInputBox.Question = std::move(question);
-    ShowModal(MyInputBox);
+    AskIn(MyInputBox, std::move(then));
 }
 
 MyInputBoxForm::MyInputBoxForm() : Form("MyInputBox") {

@@ -39,8 +39,8 @@ struct MyInputBoxForm : Form {
 
 inline MyInputBoxForm MyInputBox;
 
-// Shows the form with a question.
-void AskInBox(BoxQuestion question);
+// Shows the form with a question; `then` runs when it has been hidden.
+void AskInBox(BoxQuestion question, EventHandler then = nullptr);
 
 // Refuses the entry: beep, the message in Label2, the focus back to Text1. The box stays. `reason`
 // goes with the beep where the message alone does not tell what to enter.

@@ -7,13 +7,14 @@
 #include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "mainwindow/Questions.h"
 #include "platform/Platform.h"
 
 namespace tessaryn {
-void AskForExpression(ExpressionQuestion question) {
+void AskForExpression(ExpressionQuestion question, EventHandler then) {
     TestParser.Caption = question.caption;
     TestParser.Question = std::move(question);
-    ShowModal(TestParser);
+    AskIn(TestParser, std::move(then));
 }
 
 TestParserForm::TestParserForm() : Form("TestParser") {

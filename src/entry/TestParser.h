@@ -48,7 +48,7 @@ struct TestParserForm : Form {
 
 inline TestParserForm TestParser;
 
-// Shows the form with a question.
-void AskForExpression(ExpressionQuestion question);
+// Shows the form with a question; `then` runs when it has been hidden.
+void AskForExpression(ExpressionQuestion question, EventHandler then);
 
 }  // namespace tessaryn

@@ -1,6 +1,9 @@
 #include "entry/Warning.h"
 
+#include <utility>
+
 #include "mainwindow/ProgramState.h"
+#include "mainwindow/Questions.h"
 
 namespace tessaryn {
 
@@ -19,6 +22,12 @@ void WarningForm::Activated() {
 void WarningForm::Close() {
     OperationCancelled = true;
     Hide();
+}
+
+void Warn(const std::string& message, const std::string& reason, EventHandler then) {
+    Warning.Message.Caption = message;
+    Warning.Reason = reason;
+    AskIn(Warning, std::move(then));
 }
 
 }  // namespace tessaryn

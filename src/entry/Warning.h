@@ -1,5 +1,5 @@
-// A question with Continue and Cancel. The caller sets Message and Reason and shows the form
-// modally; afterwards OperationCancelled tells whether the user cancelled.
+// A question with Continue and Cancel. Behind it, OperationCancelled tells whether the user
+// cancelled.
 #pragma once
 
 #include <string>
@@ -22,5 +22,8 @@ struct WarningForm : Form {
 };
 
 inline WarningForm Warning;
+
+// Shows the form with a message, and a reason for the beep with which it shows.
+void Warn(const std::string& message, const std::string& reason, EventHandler then);
 
 }  // namespace tessaryn

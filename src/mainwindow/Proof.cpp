@@ -1,6 +1,7 @@
 #include "mainwindow/Proof.h"
 
 #include <exception>
+#include <utility>
 
 #include "document/Document.h"
 #include "document/Invariants.h"
@@ -13,7 +14,7 @@ namespace {
 void CheckInDebugBuild() {
 #ifndef NDEBUG
     const std::string fault = CheckDocument();
-    if (!fault.empty()) MsgBox(fault, "INTERNAL ERROR");
+    if (!fault.empty()) MsgBox({fault, "INTERNAL ERROR"});
 #endif
 }
 
@@ -49,16 +50,16 @@ void ReportParseError() {
 }
 
 void RunHandler(const EventHandler& handler, const std::string& message) {
+    const std::string outer = std::exchange(FailureMessage, message);
     try {
         handler();
         CheckInDebugBuild();
-    } catch (const ProgramEnded&) {
-        throw;
     } catch (const std::exception& fault) {
         Beep(std::string("Something went wrong inside the program: ") + fault.what());
         RuleMode = 0;
         SetPrompt(message);
     }
+    FailureMessage = outer;
 }
 
 }  // namespace tessaryn

@@ -101,6 +101,9 @@ void SetPrompt(const std::string& text);
 // Reports a failed Parse: beep, and "PARSER ERROR: " with ParseError in StatusLine.
 void ReportParseError();
 
+// What StatusLine shows if the command under way fails.
+inline std::string FailureMessage = "Unable to process request";
+
 // The one wrapper round every event handler: anything unexpected beeps, ends the pending rule and
 // shows `message` in StatusLine. Debug builds check the document behind each command.
 void RunHandler(const EventHandler& handler,

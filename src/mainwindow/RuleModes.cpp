@@ -12,6 +12,10 @@ void AwaitClick(int ruleMode, const std::string& prompt) {
     Proof.RTB.SetFocus();
 }
 
+void EndRule() {
+    RuleMode = 0;
+}
+
 void FinishRule(bool written) {
     RuleMode = 0;
     if (written) SetPrompt("");

@@ -11,6 +11,9 @@ namespace tessaryn {
 // display is dropped.
 void AwaitClick(int ruleMode, const std::string& prompt);
 
+// No rule is pending any more, and StatusLine stays as it is.
+void EndRule();
+
 // The end of a rule: none is pending any more. If its statement has been written the prompt goes;
 // otherwise StatusLine keeps the message.
 void FinishRule(bool written);

@@ -8,6 +8,7 @@
 #include "entry/ExpressionEditor.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "mainwindow/Questions.h"
 #include "menu/ClickTable.h"
 #include "menu/MenuTable.h"
 #include "output/ProofCommands.h"
@@ -37,18 +38,24 @@ void EscInMainWindow(const KeyEvent& key) {
     }
 }
 
+void OpenNamedProof() {
+    if (Proof.CommandLineFile.empty()) return;
+    ReadProofFile(std::exchange(Proof.CommandLineFile, ""));
+    Proof.RTB.SelStart = 0;
+}
+
+void AfterGreeting() {
+    SetPrompt("Click Help** Button to start Tutorial");
+    if (!TipWanted()) return OpenNamedProof();
+    AskIn(Tips, OpenNamedProof);
+}
+
 void Activate() {
     Proof.StatusLine.SelAlignment = Alignment::Center;
-    if (Proof.FirstActivation) {
-        Proof.FirstActivation = false;
-        Proof.RTB.SetFocus();
-        if (!AppPath.empty()) ShowModal(StartUp);
-        SetPrompt("Click Help** Button to start Tutorial");
-        if (TipWanted()) ShowModal(Tips);
-    }
-    if (Proof.CommandLineFile.empty()) return;
-    RunHandler([] { ReadProofFile(std::exchange(Proof.CommandLineFile, "")); });
-    Proof.RTB.SelStart = 0;
+    if (!std::exchange(Proof.FirstActivation, false)) return OpenNamedProof();
+    Proof.RTB.SetFocus();
+    if (AppPath.empty()) return AfterGreeting();
+    AskIn(StartUp, AfterGreeting);
 }
 
 void ListenToDisplay() {
@@ -75,7 +82,7 @@ void FillMainWindow() {
     BuildMenus();
     BuildButtons();
     ListenToDisplay();
-    Proof.WhenActivated = Activate;
+    Proof.WhenActivated = [] { RunHandler(Activate); };
     Proof.WhenClosed = [] { RunHandler(ExitCommand); };
     Proof.WhenKeyPressed = [](const KeyEvent& key) {
         if (key.key != Key::Esc) return false;
@@ -84,14 +91,17 @@ void FillMainWindow() {
     };
 }
 
-void LoadMainWindow(const std::string& commandLine) {
-    if (commandLine.size() > 2)
+void LoadMainWindow(const std::string& commandLine, const EventHandler& then) {
+    if (commandLine.size() > 2) {
         Proof.CommandLineFile = commandLine.substr(1, commandLine.size() - 2);
+    }
     Proof.FirstActivation = true;
     SetPrompt("Press any key to continue");
     IntroEnd = 0;
-    LoadSettings();
-    Proof.Caption = " Tessaryn 2.0  -  (Untitled)";
+    LoadSettings([then] {
+        Proof.Caption = " Tessaryn 2.0  -  (Untitled)";
+        then();
+    });
 }
 
 }  // namespace tessaryn

@@ -3,13 +3,15 @@
 
 #include <string>
 
+#include "platform/Controls.h"
+
 namespace tessaryn {
 
 // Gives the form Proof, as it was made, its menus, its buttons and its events.
 void FillMainWindow();
 
-// What the window does once at its start. commandLine: "" or the path of a proof in quotation
-// marks.
-void LoadMainWindow(const std::string& commandLine);
+// What the window does once at its start, ahead of being shown by `then`. commandLine: "" or the
+// path of a proof in quotation marks.
+void LoadMainWindow(const std::string& commandLine, const EventHandler& then);
 
 }  // namespace tessaryn

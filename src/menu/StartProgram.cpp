@@ -33,6 +33,7 @@
 namespace tessaryn {
 
 void StartProgram() {
+    ForgetQuestions();
     InHand = Second = {};
     RuleMode = Arg1Pending = Arg2Pending = 0;
     SpecName.clear();

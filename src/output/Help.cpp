@@ -8,7 +8,7 @@ namespace tessaryn {
 
 void ShowManual() {
     if (!ShowHelpFile(AppPath + "\\Tessaryn.chm")) {
-        MsgBox("Help file \"Tessaryn.chm\" not found", "SYSTEM ERROR");
+        MsgBox({"Help file \"Tessaryn.chm\" not found", "SYSTEM ERROR"});
     }
 }
 

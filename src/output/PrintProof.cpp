@@ -1,6 +1,5 @@
 #include "output/PrintProof.h"
 
-#include <exception>
 #include <stdexcept>
 
 #include "document/Document.h"
@@ -29,7 +28,7 @@ PrintProofForm::PrintProofForm() : Form("PrintProof") {
         StatusLine.Caption.clear();
     };
     Text2.Change = [this] { StatusLine.Caption.clear(); };
-    cmdContinue.Click = [this] { Continue(); };
+    cmdContinue.Click = [this] { RunHandler([this] { Continue(); }, "Unable to print"); };
     cmdCancel.Click = [this] { Hide(); };
     DefaultButton = &cmdContinue;
 }
@@ -67,14 +66,10 @@ void PrintProofForm::Continue() {
                                            ", the first not behind the last.");
     }
     if (ProofText.empty()) return Refuse("PRINT: No text to print", "The proof is empty.");
-    PrintResult result = PrintResult::Failed;
-    try {
-        result = PrintStatements(from, to);
-    } catch (const std::exception&) {
-        // A failure like any other of the printer.
-    }
-    if (result == PrintResult::Failed) return Refuse("Unable to print", "The printer failed.");
-    if (result == PrintResult::Done) Hide();
+    PrintStatements(from, to, [this](PrintResult result) {
+        if (result == PrintResult::Failed) Refuse("Unable to print", "The printer failed.");
+        if (result == PrintResult::Done) Hide();
+    });
 }
 
 void PrintCommand() {

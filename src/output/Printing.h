@@ -2,6 +2,7 @@
 // of its own and without indentation, printed page by page.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/RichTextBox.h"
@@ -23,15 +24,16 @@ std::string PrintTitle();
 
 enum class PrintResult { Done, Cancelled, Failed };
 
-// Readies the printer and lays the surface out for it. Margins are in twips; width and height tell
-// what they leave of a page.
-PrintResult WYSIWYG_RTF(RichTextBox& surface, int leftMargin, int rightMargin, int topMargin,
-                        int bottomMargin, int& width, int& height);
+// Readies the printer, for which the user may have to name a file, and lays the surface out for it.
+// Margins are in twips. The surface must stay until `then` has been told whether it went well, and
+// the width and height that the margins leave of a page.
+void WYSIWYG_RTF(RichTextBox& surface, int leftMargin, int rightMargin, int topMargin,
+                 int bottomMargin, std::function<void(PrintResult, int width, int height)> then);
 // Prints what has been laid out, between the same margins.
 PrintResult PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int rightMargin,
                      int bottomMargin);
 
 // The copy of statements first to last, printed at margins of an inch.
-PrintResult PrintStatements(int first, int last);
+void PrintStatements(int first, int last, std::function<void(PrintResult)> then);
 
 }  // namespace tessaryn

@@ -1,7 +1,6 @@
 #include "output/ProofCommands.h"
 
 #include <algorithm>
-#include <exception>
 #include <filesystem>
 #include <new>
 #include <system_error>
@@ -10,6 +9,7 @@
 #include "document/ProofFile.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "mainwindow/Questions.h"
 #include "output/SaveChanges.h"
 #include "output/SavingOver.h"
 #include "output/Settings.h"
@@ -60,6 +60,19 @@ std::string NameOfProof(const std::string& entered) {
     return itself || !std::filesystem::is_regular_file(ended, error) ? entered : ended;
 }
 
+// Why the proof can't be saved; "" if the file now holds it.
+std::string WrittenOr(const std::string& fileName) {
+    try {
+        const std::string bytes = WriteProof();
+        if (bytes.size() > MaxProofFile) return "The proof is too long for a file.";
+        std::string fault = ReplaceFile(fileName, bytes);
+        if (fault.empty()) SeenProofFile = AsWritten(fileName, bytes);
+        return fault;
+    } catch (const std::bad_alloc&) {
+        return "That needs more memory than there is.";
+    }
+}
+
 // Why a file can't be opened, behind its name; "" if it now is the open proof.
 std::string OpenedOr(const std::string& fileName) {
     InputFile file(fileName);
@@ -99,28 +112,31 @@ bool SaveProof() {
     SetPrompt("Please wait...");
     Proof.MousePointer = Pointer::Hourglass;
     RefreshNow(Proof);
-    const std::string bytes = WriteProof();
-    const std::string fault = bytes.size() <= MaxProofFile ? ReplaceFile(ProofFileName, bytes)
-                                                           : "The proof is too long for a file.";
+    const std::string fault = WrittenOr(ProofFileName);
     Proof.MousePointer = Pointer::Default;
     SetPrompt(prompt);
-    if (fault.empty()) {
-        SeenProofFile = AsWritten(ProofFileName, bytes);
-        return true;
-    }
+    if (fault.empty()) return true;
     OperationCancelled = true;
     Beep(fault);
-    MsgBox("Unable to save file", "WARNING");
+    MsgBox({"Unable to save file", "WARNING"});
     return false;
 }
 
-bool SaveProofFile() {
-    if (!MaySave() || !SaveProof()) return false;
-    Proof.CommonDialog1.FileName = ProofFileName;
-    UpdateRecentFiles();
-    ProofChanged = false;
-    Proof.Caption = ProofTitle();
-    return true;
+void SaveProofFile(std::string name, std::function<void(bool)> then) {
+    const std::string previousName = std::exchange(ProofFileName, std::move(name));
+    const auto end = [previousName, then = std::move(then)](bool saved) {
+        if (!saved) ProofFileName = previousName;
+        then(saved);
+    };
+    const auto save = [end] {
+        if (!SaveProof()) return end(false);
+        Proof.CommonDialog1.FileName = ProofFileName;
+        UpdateRecentFiles();
+        ProofChanged = false;
+        Proof.Caption = ProofTitle();
+        end(true);
+    };
+    SaveUnlessChanged(save, [end] { end(false); });
 }
 
 void ReadProofFile(const std::string& entered) {
@@ -143,13 +159,19 @@ void ReadProofFile(const std::string& entered) {
     SetPrompt("Open: Unable to open proof file");
 }
 
-void NewCommand() {
-    Proof.RTB.SetFocus();
-    if (ProofChanged) {
-        OpenFollows = false;
-        ShowModal(SaveChanges);
-        if (OperationCancelled) return;
-    }
+namespace {
+
+// Goes on once the user has been asked about unsaved changes, if there are any and the user did not
+// cancel.
+void OfferToSave(const EventHandler& goOn) {
+    if (!ProofChanged) return goOn();
+    OpenFollows = false;
+    AskIn(SaveChanges, [goOn] {
+        if (!OperationCancelled) goOn();
+    });
+}
+
+void EmptyProof() {
     ProofFileName.clear();
     Proof.CommonDialog1.FileName.clear();
     ClearDocument();
@@ -163,19 +185,23 @@ void NewCommand() {
     Proof.Caption = " Tessaryn 2.0 - (Untitled)";
 }
 
+void OpenNow(const std::string& path) {
+    RefreshNow(Proof);
+    ReadProofFile(path);
+    Proof.RTB.SelStart = 0;
+}
+
+}  // namespace
+
+void NewCommand() {
+    Proof.RTB.SetFocus();
+    OfferToSave(EmptyProof);
+}
+
 void ExitCommand() {
-    try {
-        Proof.RTB.SetFocus();
-        OperationCancelled = false;
-        if (ProofChanged) {
-            OpenFollows = false;
-            ShowModal(SaveChanges);
-            if (OperationCancelled) return;
-        }
-        EndProgram();
-    } catch (const std::exception&) {
-        MsgBox("Unable to save file", "WARNING");
-    }
+    Proof.RTB.SetFocus();
+    OperationCancelled = false;
+    OfferToSave(EndProgram);
 }
 
 void OpenCommand() {
@@ -184,28 +210,31 @@ void OpenCommand() {
     SetPrompt("");
     if (ProofChanged) {
         OpenFollows = true;
-        ShowModal(SaveChanges);
+        AskIn(SaveChanges, [] {
+            RecentPicked = false;
+            Proof.RTB.SelStart = 0;
+        });
+    } else if (std::exchange(RecentPicked, false)) {
+        OpenNow(RecentName);
     } else {
-        CommonDialog choice{"", ProofFilter, DefaultDir, false, true};
-        if (!RecentPicked && !ShowOpen(choice)) return;
-        RefreshNow(Proof);
-        ReadProofFile(RecentPicked ? RecentName : choice.FileName);
+        AskWhatToOpen({"", ProofFilter, DefaultDir, false, true}, [](const ChosenFile& path) {
+            if (path) OpenNow(*path);
+        });
     }
-    Proof.RTB.SelStart = 0;
 }
 
 void SaveAsCommand() {
     Proof.RTB.SetFocus();
     if (RuleMode != 0) SetPrompt("");  // what it asks for is not waited for any more
     RuleMode = 0;
-    CommonDialog& dialog = Proof.CommonDialog1;
-    if (!dialog.FileName.empty()) dialog.FileName = WithProofExtension(dialog.FileName);
-    CommonDialog choice{dialog.FileName, ProofFilter, DefaultDir, true, false};
-    if (!ShowSave(choice)) return;
-    RefreshNow(Proof);
-    dialog.FileName = choice.FileName;
-    const std::string previousName = std::exchange(ProofFileName, choice.FileName);
-    if (!SaveProofFile()) ProofFileName = previousName;
+    std::string& name = Proof.CommonDialog1.FileName;
+    if (!name.empty()) name = WithProofExtension(name);
+    AskWhereToSave({name, ProofFilter, DefaultDir, true, false}, [](const ChosenFile& path) {
+        if (!path) return;
+        RefreshNow(Proof);
+        Proof.CommonDialog1.FileName = *path;
+        SaveProofFile(*path, [](bool) {});
+    });
 }
 
 void SaveCommand() {
@@ -213,7 +242,7 @@ void SaveCommand() {
     if (ProofFileName.empty()) {
         SaveAsCommand();
     } else {
-        SaveProofFile();
+        SaveProofFile(ProofFileName, [](bool) {});
     }
 }
 

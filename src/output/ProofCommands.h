@@ -1,6 +1,7 @@
 // New, Open, Save, Save As and Exit: the proof file and the window around it.
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace tessaryn {
@@ -9,9 +10,10 @@ namespace tessaryn {
 // OperationCancelled is set, and a message box has said so.
 bool SaveProof();
 
-// MaySave, SaveProof, and then the document counts as saved: recent files, title, ProofChanged.
-// False, with all that as it was, if it was not saved.
-bool SaveProofFile();
+// SaveProof under a name, unless another program has changed that file and the user wants to keep
+// it. Then the document counts as saved: ProofFileName, recent files, title, ProofChanged; if it
+// was not saved, all that is as it was. `then` is told which.
+void SaveProofFile(std::string name, std::function<void(bool saved)> then);
 
 // Replaces the document by the content of a file, which becomes ProofFileName, and rebuilds the
 // display. A name without ending finds the file that ends in ".proof". On failure, memory that is

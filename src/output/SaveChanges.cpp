@@ -4,6 +4,7 @@
 
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "mainwindow/Questions.h"
 #include "output/ProofCommands.h"
 #include "output/SavingOver.h"
 #include "output/Settings.h"
@@ -11,8 +12,8 @@
 namespace tessaryn {
 
 SaveChangesForm::SaveChangesForm() : Form("SaveChanges", "Save changes to current proof?") {
-    cmdYes.Click = [this] { Yes(); };
-    cmdNo.Click = [this] { No(); };
+    cmdYes.Click = [this] { RunHandler([this] { Yes(); }); };
+    cmdNo.Click = [this] { RunHandler([this] { No(); }); };
     cmdCancel.Click = [this] { Close(); };
     DefaultButton = &cmdYes;
 }
@@ -30,41 +31,42 @@ void SaveChangesForm::Close() {
 }
 
 void SaveChangesForm::No() {
-    if (OpenFollows) OpenProofFile();
-    Hide();
+    GoOn();
 }
 
 void SaveChangesForm::Yes() {
-    const std::string previousName = ProofFileName;
-    bool save = true;
-    if (!ProofFileName.empty()) {
-        const std::string name = WithProofExtension(ProofFileName);
-        if (!MayReplace(name)) return Hide();
-        ProofFileName = name;
-    } else {
-        CommonDialog1 = {"", ProofFilter, DefaultDir, true, false};
-        save = ShowSave(CommonDialog1);
-        if (save) ProofFileName = CommonDialog1.FileName;
+    if (ProofFileName.empty()) {
+        // Without a name it is not saved, and what was asked for goes on.
+        AskWhereToSave({"", ProofFilter, DefaultDir, true, false},
+                       [this](const ChosenFile& path) { path ? SaveAs(*path) : GoOn(); });
+        return;
     }
-    if (save) {
-        RefreshNow(Proof);
-        if (!SaveProofFile()) {
-            // Nothing that would lose the proof goes on.
-            ProofFileName = previousName;
-            return Hide();
-        }
-    }
-    if (OpenFollows) OpenProofFile();
-    Hide();
+    const std::string name = WithProofExtension(ProofFileName);
+    ReplaceIfWanted(
+        name, [this, name] { SaveAs(name); }, [this] { Hide(); });
 }
 
-void SaveChangesForm::OpenProofFile() {
-    if (!RecentPicked) {
-        CommonDialog1 = {"", ProofFilter, DefaultDir, false, true};
-        if (!ShowOpen(CommonDialog1)) return ProofFileName.clear();
-    }
+// Where it can't be saved, nothing that would lose the proof goes on.
+void SaveChangesForm::SaveAs(const std::string& name) {
     RefreshNow(Proof);
-    ReadProofFile(std::exchange(RecentPicked, false) ? RecentName : CommonDialog1.FileName);
+    SaveProofFile(name, [this](bool saved) { saved ? GoOn() : Hide(); });
+}
+
+// Opens the file, if one is to be opened. The form stays until it is known which.
+void SaveChangesForm::GoOn() {
+    if (!OpenFollows) return Hide();
+    if (std::exchange(RecentPicked, false)) return OpenProofFile(RecentName);
+    AskWhatToOpen({"", ProofFilter, DefaultDir, false, true}, [this](const ChosenFile& path) {
+        if (path) return OpenProofFile(*path);
+        ProofFileName.clear();
+        Hide();
+    });
+}
+
+void SaveChangesForm::OpenProofFile(const std::string& path) {
+    RefreshNow(Proof);
+    ReadProofFile(path);
+    Hide();
 }
 
 }  // namespace tessaryn

@@ -23,12 +23,13 @@ struct SaveChangesForm : Form {
     Button cmdYes{*this, "cmdYes", "Yes"};
     Button cmdNo{*this, "cmdNo", "No"};
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
-    CommonDialog CommonDialog1;
 
   private:
     void Yes();
     void No();
-    void OpenProofFile();
+    void SaveAs(const std::string& name);
+    void GoOn();
+    void OpenProofFile(const std::string& path);
 };
 
 inline SaveChangesForm SaveChanges;

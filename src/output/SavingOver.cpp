@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "mainwindow/ProgramState.h"
+#include "mainwindow/Questions.h"
 #include "platform/InputFile.h"
-#include "platform/Platform.h"
 
 namespace tessaryn {
 namespace {
@@ -40,12 +41,13 @@ bool HoldsWhatWasSeen(const std::string& path) {
     return file.Print() == SeenProofFile.print;
 }
 
-bool MaySaveOver(const std::string& whatIsThere) {
-    const Answer answer =
-        MsgBox(whatIsThere + " Save over it?", "WARNING", Buttons::YesNo, Answer::No);
-    if (answer == Answer::Yes) return true;
-    OperationCancelled = true;
-    return false;
+void AskToSaveOver(const std::string& whatIsThere, EventHandler save, EventHandler otherwise) {
+    Ask({whatIsThere + " Save over it?", "WARNING", Buttons::YesNo, Answer::No},
+        [save = std::move(save), otherwise = std::move(otherwise)](Answer answer) {
+            if (answer == Answer::Yes) return save();
+            OperationCancelled = true;
+            otherwise();
+        });
 }
 
 }  // namespace
@@ -56,15 +58,16 @@ SeenFile AsWritten(const std::string& path, const std::string& bytes) {
     return file;
 }
 
-bool MaySave() {
-    if (!IsSameFile(ProofFileName, SeenProofFile.path) || !IsFile(ProofFileName)) return true;
-    return HoldsWhatWasSeen(ProofFileName) ||
-           MaySaveOver("The file was changed by another program.");
+void SaveUnlessChanged(EventHandler save, EventHandler otherwise) {
+    const bool seen = IsSameFile(ProofFileName, SeenProofFile.path) && IsFile(ProofFileName);
+    if (!seen || HoldsWhatWasSeen(ProofFileName)) return save();
+    AskToSaveOver("The file was changed by another program.", std::move(save),
+                  std::move(otherwise));
 }
 
-bool MayReplace(const std::string& name) {
-    return IsSameFile(name, ProofFileName) || !IsFile(name) ||
-           MaySaveOver("The file " + name + " exists already.");
+void ReplaceIfWanted(const std::string& name, EventHandler save, EventHandler otherwise) {
+    if (IsSameFile(name, ProofFileName) || !IsFile(name)) return save();
+    AskToSaveOver("The file " + name + " exists already.", std::move(save), std::move(otherwise));
 }
 
 }  // namespace tessaryn

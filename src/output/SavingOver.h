@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/Controls.h"
 #include "platform/Fingerprint.h"
 
 namespace tessaryn {
@@ -18,11 +19,11 @@ inline SeenFile SeenProofFile;  // the open proof's
 
 SeenFile AsWritten(const std::string& path, const std::string& bytes);
 
-// False if ProofFileName is the open proof's file, another program has changed it, and the user
-// does not want it saved over. OperationCancelled is then set.
-bool MaySave();
+// Asks if ProofFileName is the open proof's file and another program has changed it. If the user
+// does not want it saved over, OperationCancelled is set; otherwise `save` is run.
+void SaveUnlessChanged(EventHandler save, EventHandler otherwise);
 
 // The same for a file that is not the open proof's, under a name that no dialogue has asked about.
-bool MayReplace(const std::string& name);
+void ReplaceIfWanted(const std::string& name, EventHandler save, EventHandler otherwise);
 
 }  // namespace tessaryn

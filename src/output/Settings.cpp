@@ -197,12 +197,8 @@ void PutAtHead(Names& names, const std::string& name) {
 }
 
 void OpenRecent(const std::string& name) {
-    struct Picked {
-        Picked() { RecentPicked = true; }
-        ~Picked() { RecentPicked = false; }
-    };
     RecentName = name;
-    const Picked picked;
+    RecentPicked = true;
     OpenCommand();
 }
 
@@ -231,10 +227,13 @@ bool LoadTipWish() {
     return true;
 }
 
-void Warn(const std::string& text, const std::string& reason) {
-    Warning.Message.Caption = text;
-    Warning.Reason = reason;
-    ShowModal(Warning);
+void LoadDirectoryAndTipWish() {
+    const bool hasDirectory = LoadDefaultDir();
+    const bool hasOption = LoadTipWish();
+    if (hasDirectory && hasOption) return;
+    Beep("\"" + PathOf(hasDirectory ? OptionFile : DefaultDirFile) +
+         "\" is missing or damaged. The program goes on without what stood in it.");
+    SetPrompt("WARNING: Unable to get Recent Files or Default Directory");
 }
 
 }  // namespace
@@ -249,34 +248,31 @@ std::string FindAppPath(const std::string& programDir) {
     return own;
 }
 
-void LoadSettings() {
-    if (AppPath.empty()) return;
+void LoadSettings(const EventHandler& then) {
+    if (AppPath.empty()) return then();
     RemoveLeftoversBeside(PathOf(OptionFile));
-    GetFontSize();
-    LoadRecentMenu();
-    const bool hasDirectory = LoadDefaultDir();
-    const bool hasOption = LoadTipWish();
-    if (hasDirectory && hasOption) return;
-    Beep("\"" + PathOf(hasDirectory ? OptionFile : DefaultDirFile) +
-         "\" is missing or damaged. The program goes on without what stood in it.");
-    SetPrompt("WARNING: Unable to get Recent Files or Default Directory");
+    GetFontSize([then] {
+        LoadRecentMenu([then] {
+            LoadDirectoryAndTipWish();
+            then();
+        });
+    });
 }
 
-void GetFontSize() {
-    if (AppPath.empty()) return;
+void GetFontSize(const EventHandler& then) {
     if (const std::optional<int> size = StoredTextSize()) {
         SetTextSize(*size);
-    } else {
-        Warn("Unable to find Font Size Files",
-             "The text is of medium size until you choose another in the menu View.");
+        return then();
     }
+    Warn("Unable to find Font Size Files",
+         "The text is of medium size until you choose another in the menu View.", then);
 }
 
 void SaveFontSize() {
     const std::string fault = WriteSetting(FontSizeFile, Header(StmtFontSize));
     if (fault.empty()) return;
     Beep(fault);
-    MsgBox("Unable to save user font file", "WARNING");
+    MsgBox({"Unable to save user font file", "WARNING"});
 }
 
 template <int size>
@@ -294,14 +290,13 @@ template void ChooseTextSize<10>();
 template void ChooseTextSize<12>();
 template void ChooseTextSize<14>();
 
-void LoadRecentMenu() {
-    if (AppPath.empty()) return;
+void LoadRecentMenu(const EventHandler& then) {
     if (const std::optional<Names> names = StoredRecentFiles()) {
         FillRecentMenu(*names);
-    } else {
-        Warn("Unable to find Recent Files",
-             "The menu File lists proofs again once you have opened or saved one.");
+        return then();
     }
+    Warn("Unable to find Recent Files",
+         "The menu File lists proofs again once you have opened or saved one.", then);
 }
 
 void UpdateRecentFiles() {
@@ -315,7 +310,7 @@ void UpdateRecentFiles() {
         FillRecentMenu(names);
     } else {
         Beep(fault);
-        MsgBox("Unable to save recent file name", "WARNING");
+        MsgBox({"Unable to save recent file name", "WARNING"});
     }
 }
 

@@ -16,6 +16,8 @@
 
 #include <string>
 
+#include "platform/Controls.h"
+
 namespace tessaryn {
 
 inline std::string DefaultDir;  // where the file dialogues begin; "" until set
@@ -24,15 +26,16 @@ inline std::string DefaultDir;  // where the file dialogues begin; "" until set
 // which is made with the four files as delivered at its first use. "" if the user has none.
 std::string FindAppPath(const std::string& programDir);
 
-// Reads all four. What can't be read is reported and stays as it is.
-void LoadSettings();
+// Reads all four. What can't be read is reported and stays as it is. `then` runs behind the
+// reports.
+void LoadSettings(const EventHandler& then);
 
-void GetFontSize();
+void GetFontSize(const EventHandler& then);
 void SaveFontSize();
 template <int size>
 void ChooseTextSize();  // the three sizes of the menu: 10, 12, 14
 
-void LoadRecentMenu();
+void LoadRecentMenu(const EventHandler& then);
 // Puts ProofFileName at the head of the recent files, in the file and in the menu.
 void UpdateRecentFiles();
 template <int place>

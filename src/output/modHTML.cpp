@@ -5,6 +5,7 @@
 #include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "mainwindow/Questions.h"
 #include "output/HTML.h"
 #include "output/ProofCommands.h"
 #include "output/Settings.h"
@@ -132,14 +133,16 @@ void HTMLCommand() {
     CommonDialog choice{dialog.FileName, "HTML (*.html)|*.html", DefaultDir, true,
                         false,           "Make HTML File"};
     OperationCancelled = true;
-    if (!ShowSave(choice)) return;
-    OperationCancelled = false;
-    dialog.FileName = choice.FileName;
-    const std::string fault = SaveHTMLWithHourglass(choice.FileName);
-    SetPrompt(prompt);
-    if (fault.empty()) return;
-    Beep(fault);
-    MsgBox("Unable to save HTML file", "WARNING");
+    AskWhereToSave(choice, [prompt](const ChosenFile& path) {
+        if (!path) return;
+        OperationCancelled = false;
+        Proof.CommonDialog1.FileName = *path;
+        const std::string fault = SaveHTMLWithHourglass(*path);
+        SetPrompt(prompt);
+        if (fault.empty()) return;
+        Beep(fault);
+        MsgBox({"Unable to save HTML file", "WARNING"});
+    });
 }
 
 }  // namespace tessaryn

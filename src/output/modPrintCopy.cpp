@@ -1,5 +1,6 @@
 // The copy that goes to the printer: text and formats of the pages.
 #include <algorithm>
+#include <exception>
 #include <filesystem>
 #include <string_view>
 #include <utility>
@@ -123,12 +124,19 @@ std::string PrintTitle() {
                                  : std::filesystem::path(ProofFileName).stem().string();
 }
 
-PrintResult PrintStatements(int first, int last) {
+void PrintStatements(int first, int last, std::function<void(PrintResult)> then) {
     BuildPrintCopy(first, last);
-    int width = 0;
-    int height = 0;
-    const PrintResult ready = WYSIWYG_RTF(WorkArea.RTB, Inch, Inch, Inch, Inch, width, height);
-    return ready == PrintResult::Done ? PrintRTF(WorkArea.RTB, Inch, Inch, Inch, Inch) : ready;
+    const auto print = [then = std::move(then)](PrintResult result, int, int) {
+        try {
+            if (result == PrintResult::Done) {
+                result = PrintRTF(WorkArea.RTB, Inch, Inch, Inch, Inch);
+            }
+        } catch (const std::exception&) {
+            result = PrintResult::Failed;
+        }
+        then(result);
+    };
+    WYSIWYG_RTF(WorkArea.RTB, Inch, Inch, Inch, Inch, print);
 }
 
 }  // namespace tessaryn

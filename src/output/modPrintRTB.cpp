@@ -1,4 +1,6 @@
 // The pages of a surface. The platform's printer measures in twips here, and does the drawing.
+#include <utility>
+
 #include "output/Printing.h"
 #include "platform/Platform.h"
 
@@ -25,22 +27,20 @@ int PrintPages(RichTextBox& surface, const PageRect& rect) {
 
 }  // namespace
 
-PrintResult WYSIWYG_RTF(RichTextBox& surface, int leftMargin, int rightMargin, int topMargin,
-                        int bottomMargin, int& width, int& height) {
-    switch (ReadyPrinter(Page)) {
-        case PrinterState::Ready:
-            break;
-        case PrinterState::Cancelled:
-            return PrintResult::Cancelled;
-        case PrinterState::Failed:
-            return PrintResult::Failed;
-    }
-    const PageRect rect = Between(leftMargin, topMargin, rightMargin, bottomMargin);
-    width = rect.Right - rect.Left;
-    height = rect.Bottom - rect.Top;
-    if (width > 0 && height > 0 && LayOutForPrinter(surface, width)) return PrintResult::Done;
-    ReleasePrinter();
-    return PrintResult::Failed;
+void WYSIWYG_RTF(RichTextBox& surface, int leftMargin, int rightMargin, int topMargin,
+                 int bottomMargin, std::function<void(PrintResult, int, int)> then) {
+    ReadyPrinter(
+        [=, &surface, then = std::move(then)](PrinterState state, const PrinterPage& page) {
+            if (state == PrinterState::Cancelled) return then(PrintResult::Cancelled, 0, 0);
+            if (state == PrinterState::Failed) return then(PrintResult::Failed, 0, 0);
+            Page = page;
+            const PageRect rect = Between(leftMargin, topMargin, rightMargin, bottomMargin);
+            const int width = rect.Right - rect.Left;
+            const int height = rect.Bottom - rect.Top;
+            const bool fits = width > 0 && height > 0 && LayOutForPrinter(surface, width);
+            if (!fits) ReleasePrinter();
+            then(fits ? PrintResult::Done : PrintResult::Failed, width, height);
+        });
 }
 
 PrintResult PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int rightMargin,

@@ -1,17 +1,39 @@
 #include "platform/Events.h"
 
+#include "platform/Questions.h"
+
 namespace tessaryn {
 
-bool SendKey(Form& form, Control* focus, const KeyEvent& key) {
+namespace {
+
+bool TakeKey(Form& form, Control* focus, const KeyEvent& key) {
     if (form.KeyPressed(key)) return true;
     if (auto* box = dynamic_cast<RichTextBox*>(focus)) return box->KeyDown && box->KeyDown(key);
     if (auto* box = dynamic_cast<TextBox*>(focus)) return box->KeyPress && box->KeyPress(key);
     return false;
 }
 
-void SendRelease(RichTextBox& box) {
-    if (box.Click) box.Click();
+void Call(const EventHandler& handler) {
+    if (handler) handler();
+    SettleQuestions();
+}
+
+void ButtonUp(RichTextBox& box) {
     if (box.MouseUp) box.MouseUp(MouseButton::Left);
+    SettleQuestions();
+}
+
+}  // namespace
+
+bool SendKey(Form& form, Control* focus, const KeyEvent& key) {
+    const bool taken = TakeKey(form, focus, key);
+    SettleQuestions();
+    return taken;
+}
+
+void SendRelease(RichTextBox& box) {
+    Call(box.Click);
+    ButtonUp(box);
 }
 
 void SendClick(RichTextBox& box, int start, int length) {
@@ -23,16 +45,16 @@ void SendClick(RichTextBox& box, int start, int length) {
 void SendDoubleClick(RichTextBox& box, int start) {
     const int formsShown = FormsShown;
     box.SelStart = start;
-    if (box.Click) box.Click();
+    Call(box.Click);
     if (FormsShown != formsShown) return;
-    if (box.DblClick) box.DblClick();
-    if (box.MouseUp) box.MouseUp(MouseButton::Left);
+    Call(box.DblClick);
+    ButtonUp(box);
 }
 
 void SendPaste(RichTextBox& box, const Clip& content) {
     if (box.ReadOnly || !box.Pasted) return;
     box.Pasted(content);
-    if (box.Change) box.Change();
+    Call(box.Change);
 }
 
 bool SendChoose(Control& control) {
@@ -52,7 +74,7 @@ bool SendChoose(Control& control) {
         handler = option->Click ? option->Click : [] {};
     }
     if (!handler) return false;
-    handler();
+    Call(handler);
     return true;
 }
 

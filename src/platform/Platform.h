@@ -1,17 +1,16 @@
-// The outside world as the logic sees it. Each function has one body for the desktop (src/desktop/)
-// and one without a display (src/cli/); the logic never asks which it runs on.
+// The outside world as the logic sees it, besides what asks (Questions.h). Each function has one
+// body for the desktop (src/desktop/) and one without a display (src/cli/); the logic never asks
+// which it runs on.
 #pragma once
 
+#include <functional>
 #include <string>
-#include <vector>
 
 #include "platform/Form.h"
+#include "platform/Questions.h"
 #include "platform/RichTextBox.h"
 
 namespace tessaryn {
-
-// Shows a form, runs its Activated, and returns when the form has been hidden.
-void ShowModal(Form& form);
 
 // Shows a form beside the one that opened it, and returns at once.
 void ShowModeless(Form& form);
@@ -22,10 +21,6 @@ void RefreshNow(Form& form);
 // Ends the program once the present event is over. Returns.
 void EndProgram();
 
-// Thrown through an event when the program ends while a modal form is still up. No handler may
-// swallow it.
-struct ProgramEnded {};
-
 // --- messages
 
 // The system's beep for a refusal. reason: one sentence that tells a person what was clicked and
@@ -34,28 +29,6 @@ void Beep(const std::string& reason);
 
 // Tells a person what they should know of a command that was done: one sentence, without a beep.
 void Tell(const std::string& note);
-
-enum class Answer { OK, Yes, No, Cancel };
-enum class Buttons { OK, YesNo, YesNoCancel };
-
-// A modal message box. Closing it counts as Cancel, or as No where there is no such button.
-Answer MsgBox(const std::string& text, const std::string& title, Buttons buttons = Buttons::OK,
-              Answer defaultAnswer = Answer::OK);
-
-// --- file dialogues
-
-struct CommonDialog {
-    std::string FileName;  // in: the name offered; out: the full path chosen
-    std::string Filter;    // "Proofs (*.proof)|*.proof"
-    std::string InitDir;   // "" for the system's choice
-    bool OverwritePrompt = false;
-    bool FileMustExist = false;  // a name without ending may stand for one with the filter's
-    std::string Title{};         // of its window; "" for what is usual
-};
-
-// Each returns false, with FileName as it was, when the user cancels.
-bool ShowOpen(CommonDialog& dialog);
-bool ShowSave(CommonDialog& dialog);
 
 // --- clipboard
 
@@ -81,7 +54,7 @@ struct PageRect {  // in the printer's own coordinates
 enum class PrinterState { Ready, Cancelled, Failed };
 
 // Readies the system's default printer or, where there is none, a PDF file that the user names.
-PrinterState ReadyPrinter(PrinterPage& page);
+void ReadyPrinter(std::function<void(PrinterState, const PrinterPage&)> then);
 // Lays a surface out in lines of that width. The surface must stay as it is until ReleasePrinter.
 bool LayOutForPrinter(RichTextBox& surface, int width);
 // Begins the first page.

@@ -23,8 +23,7 @@ void AskForOperand(const std::string& captionStart, AfterParseError after,
     Second = InHand;
     SetPrompt("");
     AskForExpression(
-        {captionStart + std::to_string(line) + ":  Enter a logical expression", accept});
-    RuleMode = 0;
+        {captionStart + std::to_string(line) + ":  Enter a logical expression", accept}, EndRule);
 }
 
 // A logical expression without new free variables: "" or the message.
@@ -91,8 +90,7 @@ void OrNot() {
     RuleMode = Rule::OrNot;
     SetPrompt("");
     Arg1Pending = Arg2Pending = 0;
-    AskForExpression({"Arbitrary OR-NOT Rule: Enter a logical expression", AcceptOrNot});
-    RuleMode = 0;
+    AskForExpression({"Arbitrary OR-NOT Rule: Enter a logical expression", AcceptOrNot}, EndRule);
 }
 
 }  // namespace tessaryn

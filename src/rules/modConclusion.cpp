@@ -139,17 +139,6 @@ void ContinueConclusion() {
     MyInputBox.Hide();
 }
 
-// Puts the statement with the names that the user wants into NewStmtText. False if the user
-// cancelled.
-bool AskForNames() {
-    const std::vector<std::string> names = BoundNames();
-    if (names.empty()) return true;
-    Second = InHand;
-    AskInBox({"Conclusion Rule: Generalizing on " + CommaList(names), AskForNamesText(names.size()),
-              ContinueConclusion, "", CommaList(names)});
-    return RuleMode != 0;
-}
-
 // --- the steps
 
 // Builds the statement in NewStmtText and tests it. False after a refusal.
@@ -173,13 +162,20 @@ bool BuildStatement(int premise, int line) {
     return fault.empty();
 }
 
+void EndConclusion() {
+    EndRule();
+    Proof.RTB.SetFocus();
+}
+
 void CloseBlock(int premise, int line) {
-    if (!StatementsFit(1)) return;
-    BackUpUndo();
-    EditAt(premise).Arg1 = line;
-    IndentStatements(premise, line - 1);
-    Arg2Pending = 0;
-    PutStmt();
+    if (StatementsFit(1)) {
+        BackUpUndo();
+        EditAt(premise).Arg1 = line;
+        IndentStatements(premise, line - 1);
+        Arg2Pending = 0;
+        PutStmt();
+    }
+    EndConclusion();
 }
 
 }  // namespace
@@ -198,12 +194,17 @@ void Conclusion() {
     Arg1Pending = premise;
     if (premise == 0) {
         Refuse("Conclusion Rule: No active premise found");
-    } else if (BuildStatement(premise, line)) {
-        if (!AskForNames()) return;
-        CloseBlock(premise, line);
+        return EndConclusion();
     }
-    RuleMode = 0;
-    Proof.RTB.SetFocus();
+    if (!BuildStatement(premise, line)) return EndConclusion();
+    const std::vector<std::string> names = BoundNames();
+    if (names.empty()) return CloseBlock(premise, line);
+    Second = InHand;
+    AskInBox({"Conclusion Rule: Generalizing on " + CommaList(names), AskForNamesText(names.size()),
+              ContinueConclusion, "", CommaList(names)},
+             [premise, line] {
+                 if (RuleMode != 0) CloseBlock(premise, line);
+             });
 }
 
 }  // namespace tessaryn

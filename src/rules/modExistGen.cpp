@@ -13,6 +13,7 @@
 #include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "mainwindow/Questions.h"
 #include "mainwindow/RuleModes.h"
 #include "rules/Generalize.h"
 #include "rules/Rules.h"
@@ -79,9 +80,10 @@ void ExistGenSelect() {
     Generalize.Caption =
         " Existential Generalization:  Line " + std::to_string(line) + ", '" + GenExpression + "'";
     SetPrompt("");
-    ShowModal(Generalize);
-    FinishRule(true);
-    Proof.RTB.SelLength = 0;
+    AskIn(Generalize, [] {
+        FinishRule(true);
+        Proof.RTB.SelLength = 0;
+    });
 }
 
 }  // namespace tessaryn

@@ -10,6 +10,7 @@
 #include "inference/Connectives.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "mainwindow/Questions.h"
 #include "mainwindow/RuleModes.h"
 #include "rules/Rules.h"
 #include "view/PutStmt.h"
@@ -28,15 +29,16 @@ void FirstStatement(bool& firstClick) {
     firstClick = false;
 }
 
-Answer AskForSingleQuantifier(int count) {
+Message SingleQuantifierQuestion(int count) {
     const std::string end = count == 1 ? " under a single universal quantifer?"
                                        : " under a single set of universal quantifers?";
-    return MsgBox(
+    return {
         "Join lines " + std::to_string(Arg1Pending) + " and " + std::to_string(Arg2Pending) + end,
-        "Join Rule Option", Buttons::YesNoCancel, Answer::No);
+        "Join Rule Option", Buttons::YesNoCancel, Answer::No};
 }
 
-void WriteJoined() {
+void WriteJoined(const Outcome& joined) {
+    NewStmtText = joined.texts[0];
     Parse();
     if (ParseError.empty()) return FinishRule(WriteStatement());
     Beep(ParseError);
@@ -57,12 +59,12 @@ void SecondStatement(bool& firstClick) {
     Arg2Pending = line;
     if (!ParseOrReport()) return FinishRule(false);
     const int count = CommonQuantifiers(Second, InHand);
-    const Answer answer = count > 0 ? AskForSingleQuantifier(count) : Answer::No;
-    if (answer == Answer::Cancel) return FinishRule(true);
-    const Outcome joined =
-        answer == Answer::Yes ? JoinUnderQuantifiers(Second, InHand, count) : Join(Second, InHand);
-    NewStmtText = joined.texts[0];
-    WriteJoined();
+    if (count == 0) return WriteJoined(Join(Second, InHand));
+    Ask(SingleQuantifierQuestion(count), [count](Answer answer) {
+        if (answer == Answer::Cancel) return FinishRule(true);
+        WriteJoined(answer == Answer::Yes ? JoinUnderQuantifiers(Second, InHand, count)
+                                          : Join(Second, InHand));
+    });
 }
 
 }  // namespace

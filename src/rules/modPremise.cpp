@@ -51,9 +51,9 @@ void EnterStatement(int rule, const std::string& caption, std::string (*check)()
     Arg1Pending = Arg2Pending = 0;
     SpecName.clear();
     SetPrompt("");
-    AskForExpression({caption, check,
-                      "Suggestion: Use letters a-j for bound variables, k-z for free variables"});
-    FinishRule(!ParseError.empty() || WriteStatement());
+    AskForExpression(
+        {caption, check, "Suggestion: Use letters a-j for bound variables, k-z for free variables"},
+        [] { FinishRule(!ParseError.empty() || WriteStatement()); });
 }
 
 }  // namespace

@@ -33,8 +33,8 @@ void Reflexivity() {
     RuleMode = Rule::Reflex;
     SetPrompt("");
     AskForExpression(
-        {"Reflex Rule: Enter free variable expression in active statement", AcceptReflexTerm});
-    RuleMode = 0;
+        {"Reflex Rule: Enter free variable expression in active statement", AcceptReflexTerm},
+        EndRule);
 }
 
 }  // namespace tessaryn

@@ -112,8 +112,7 @@ std::string CaptionFor(const std::string& start, int line, const std::string& pr
 }
 
 void EditPrefix(BoxQuestion question) {
-    AskInBox(std::move(question));
-    SetPrompt("");
+    AskInBox(std::move(question), [] { SetPrompt(""); });
 }
 
 }  // namespace

@@ -106,15 +106,16 @@ void Spec() {
     if (RuleMode == Rule::ESpec) {
         AskInBox({" E Spec Rule: Line " + std::to_string(line),
                   "Enter the name of a new free variable:", ContinueESpec,
-                  "Suggestion: Use letters k-z for free variables"});
+                  "Suggestion: Use letters k-z for free variables"},
+                 EndRule);
     } else {
         AskForExpression(
             {"U Spec Rule, Line " + std::to_string(line) +
                  ": Enter a free variable expression in active statement",
              AcceptUSpec,
-             "Use only expressions with previously introduced free variables or constants"});
+             "Use only expressions with previously introduced free variables or constants"},
+            EndRule);
     }
-    RuleMode = 0;
 }
 
 }  // namespace tessaryn

@@ -11,6 +11,7 @@
 #include "inference/Equality.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "mainwindow/Questions.h"
 #include "mainwindow/RuleModes.h"
 #include "rules/Rules.h"
 #include "rules/Substitution.h"
@@ -48,8 +49,7 @@ void TakeStatement() {
     SubstTargetTable = ParseTable;
     const Outcome fit = SubstituteIn(statement, InHand);
     if (!fit.Applies()) return BeepRefusal(line, fit);
-    ShowModal(Substitution);
-    RuleMode = 0;
+    AskIn(Substitution, EndRule);
 }
 
 }  // namespace

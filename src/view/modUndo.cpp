@@ -42,7 +42,7 @@ void SettleInsertMode(int savedLine) {
     if (savedLine < 1) {
         EndInsertMode();
         Beep("The restored proof has no insert line.");
-        MsgBox("Insert Mode switched OFF", "WARNING");
+        MsgBox({"Insert Mode switched OFF", "WARNING"});
     } else if (savedLine != InsertLine) {
         InsertLine = savedLine;
         Proof.InsertLineLabel.Caption = "^ " + std::to_string(InsertLine);

@@ -54,21 +54,27 @@ void TypeInto(EntryForm& form, const std::string& text) {
     for (std::size_t at = 0; at < text.size();) PressKey(form, TakeKey(text, at));
 }
 
-TEST(HeadlessPlatform, NestsModalForms) {
+TEST(Questions, AreAnsweredFromTheTopDown) {
     Headless = {};
+    ForgetQuestions();
     EntryForm outer("Outer"), inner("Inner");
-    std::vector<std::string> onTop;
-    int step = 0;
-    Headless.NextStep = [&] {
-        onTop.push_back(TopForm().Name);
-        if (++step == 1) ShowModal(inner);
-        if (step == 2) inner.Hide();
-        if (step == 3) outer.Hide();
-        return true;
-    };
-    ShowModal(outer);
-    EXPECT_EQ(onTop, (std::vector<std::string>{"Outer", "Inner", "Outer"}));
-    EXPECT_FALSE(ModalFormOpen());
+    std::string order;
+    const auto asks = [&](char letter) { return [&order, letter] { order += letter; }; };
+    ShowModal(outer, asks('o'));
+    ShowModal(inner, asks('i'));
+    MsgBox({"Sure?", "WARNING", Buttons::YesNo, Answer::No},
+           [&](Answer answer) { order += answer == Answer::No ? 'n' : '?'; });
+    EXPECT_EQ(order, "") << "nothing goes on within the event";
+    SettleQuestions();
+    EXPECT_EQ(order, "n");
+    outer.Hide();
+    SettleQuestions();
+    EXPECT_EQ(order, "n") << "another stands on it";
+    EXPECT_EQ(&TopForm(), &inner);
+    inner.Hide();
+    SettleQuestions();
+    EXPECT_EQ(order, "nio");
+    EXPECT_FALSE(QuestionsOpen() || ModalFormOpen());
 }
 
 TEST(Keyboard, EditsAOneLineBox) {

@@ -9,7 +9,10 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QTest>
 #include <QTimer>
+
+#include "platform/Questions.h"
 
 namespace tessaryn {
 
@@ -35,6 +38,10 @@ inline void AnswerFileDialogue(const QString& path) {
         EXPECT_TRUE(buttons->buttons().constFirst()->isEnabled()) << qPrintable(path);
         answered.accept();
     });
+}
+
+inline void AwaitAnswer() {
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QuestionsOpen(); }));
 }
 
 }  // namespace tessaryn

@@ -19,10 +19,12 @@ TEST(FileDialogs, OpenFindsAProofByItsNameWithoutEnding) {
     }
     for (const auto& [entered, found] : {std::pair("kbd", "kbd.proof"), std::pair("both", "both"),
                                          std::pair("both.proof", "both.proof")}) {
-        CommonDialog choice{"", ProofFilter, directory.path().toStdString(), false, true};
         AnswerFileDialogue(QString::fromLatin1(entered));
-        EXPECT_TRUE(ShowOpen(choice)) << entered;
-        EXPECT_EQ(choice.FileName, directory.filePath(QString::fromLatin1(found)).toStdString());
+        ChosenFile chosen;
+        ShowOpen({"", ProofFilter, directory.path().toStdString(), false, true},
+                 [&](const ChosenFile& file) { chosen = file; });
+        AwaitAnswer();
+        EXPECT_EQ(chosen, directory.filePath(QString::fromLatin1(found)).toStdString()) << entered;
     }
 }
 
@@ -33,6 +35,7 @@ TEST(FileDialogs, EachTellsWhatItIsFor) {
           std::pair(&Proof.optHTML, "Make HTML File")}) {
         AnswerFileDialogue(QString());
         EXPECT_TRUE(SendChoose(*item));
+        AwaitAnswer();
         EXPECT_EQ(FileBoxShown.title, QString::fromLatin1(title));
     }
 }

@@ -344,26 +344,13 @@ TEST(FormWindow, AFaultInTheLogicIsToldAndLeavesTheWindowUsable) {
 }
 
 TEST(Messages, AQuestionHasItsReasonBesideItAndEscMeansNo) {
-    QTimer::singleShot(0, qApp, [] {
-        QTimer::singleShot(0, qApp, [] {
-            EXPECT_EQ(NoteShown(), QStringLiteral("why"));
-            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
-        });
-    });
+    Answer answer = Answer::Yes;
     Beep("why");
-    EXPECT_EQ(MsgBox("Go on?", "WARNING", Buttons::YesNo, Answer::Yes), Answer::No);
-}
-
-TEST(FormWindow, EndOfTheProgramUnwindsThroughAModalForm) {
-    EntryForm form;
-    bool returned = false;
-    QTimer::singleShot(0, qApp, [] { Dispatch([] { EndProgram(); }); });
-    Dispatch([&] {
-        ShowModal(form);
-        returned = true;
-    });
-    EXPECT_FALSE(returned);
-    EXPECT_FALSE(form.Visible);
+    MsgBox({"Go on?", "WARNING", Buttons::YesNo, Answer::Yes}, [&](Answer a) { answer = a; });
+    QApplication::processEvents();
+    EXPECT_EQ(NoteShown(), QStringLiteral("why"));
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    EXPECT_EQ(answer, Answer::No);
 }
 
 // The selection grows at each tick while the pointer is held at the right edge, and the display

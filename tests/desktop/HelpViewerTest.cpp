@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QWindow>
 #include <algorithm>
@@ -97,13 +98,16 @@ void ReadBeside(QWidget& box) {
 
 // Does something with the box that comes up, and closes what is left of it.
 void WithBox(const std::function<void()>& open, const std::function<void(QWidget&)>& act) {
-    QPointer<QWidget> box;
+    bool acted = false;
     QTimer::singleShot(0, qApp, [&] {
-        box = QApplication::activeModalWidget();
+        const QPointer<QWidget> box = QApplication::activeModalWidget();
         act(*box);
         box->close();
+        acted = true;
     });
     open();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return acted; }));
+    SettleQuestions();
 }
 
 }  // namespace
@@ -188,13 +192,13 @@ TEST(HelpViewer, IsOpenToUseWhileABoxWaits) {
                 ReadBeside(box);
                 EXPECT_EQ(RuleMode, 1);
             });
-    WithBox([] { MsgBox("Unable to save file", "WARNING"); }, ReadBeside);
+    WithBox([] { MsgBox({"Unable to save file", "WARNING"}); }, ReadBeside);
     // With the question whether to replace a file, which a file box asks by itself.
     const QTemporaryDir directory;
     const QString there = directory.filePath(QStringLiteral("there.proof"));
     QFile(there).open(QIODevice::WriteOnly);
-    CommonDialog choice{there.toStdString(), "Proofs (*.proof)|*.proof", "", true, false};
-    WithBox([&] { ShowSave(choice); },
+    const CommonDialog choice{there.toStdString(), "Proofs (*.proof)|*.proof", "", true, false};
+    WithBox([&] { ShowSave(choice, [](const ChosenFile&) {}); },
             [](QWidget& box) {
                 ReadBeside(box);
                 WithBox([&] { QMetaObject::invokeMethod(&box, "accept"); }, ReadBeside);

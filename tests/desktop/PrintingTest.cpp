@@ -22,10 +22,13 @@ namespace {
 
 PrintResult PrintTo(const QString& path) {
     AnswerFileDialogue(path);
-    int width = 0;
-    int height = 0;
-    const PrintResult ready = WYSIWYG_RTF(WorkArea.RTB, Inch, Inch, Inch, Inch, width, height);
-    return ready == PrintResult::Done ? PrintRTF(WorkArea.RTB, Inch, Inch, Inch, Inch) : ready;
+    PrintResult result = PrintResult::Failed;
+    WYSIWYG_RTF(WorkArea.RTB, Inch, Inch, Inch, Inch, [&](PrintResult ready, int, int) {
+        result =
+            ready == PrintResult::Done ? PrintRTF(WorkArea.RTB, Inch, Inch, Inch, Inch) : ready;
+    });
+    AwaitAnswer();
+    return result;
 }
 
 void FillWorkArea(int lines) {
@@ -57,7 +60,11 @@ QByteArray TitleEntry(const QString& title) {
 std::vector<int> PageStarts(const QString& path) {
     AnswerFileDialogue(path);
     PrinterPage page;
-    EXPECT_EQ(ReadyPrinter(page), PrinterState::Ready);
+    ReadyPrinter([&](PrinterState state, const PrinterPage& ready) {
+        EXPECT_EQ(state, PrinterState::Ready);
+        page = ready;
+    });
+    AwaitAnswer();
     const PageRect rect{Inch, Inch, page.Width - Inch, page.Height - Inch};
     EXPECT_TRUE(LayOutForPrinter(WorkArea.RTB, rect.Right - rect.Left) && StartPrinting());
     std::vector<int> starts;

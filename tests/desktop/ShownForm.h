@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QTimer>
 #include <functional>
 
 #include "desktop/Desktop.h"
@@ -14,21 +13,13 @@ namespace tessaryn {
 
 // Shows a form, does something in its window, and tells whether that has closed it.
 inline bool ClosedBy(Form& form, const std::function<void(QWidget&)>& act) {
-    bool acted = false;
-    bool closed = false;
-    QObject context;
-    QTimer::singleShot(0, &context, [&] {
-        acted = true;
-        QWidget& window = WindowOf(form).Window();
-        window.activateWindow();
-        QApplication::processEvents();
-        act(window);
-        closed = !form.Visible;
-        form.Hide();
-        SyncWindows();
-    });
     Dispatch([&form] { ShowModal(form); });
-    EXPECT_TRUE(acted);
+    QWidget& window = WindowOf(form).Window();
+    window.activateWindow();
+    QApplication::processEvents();
+    act(window);
+    const bool closed = !form.Visible;
+    Dispatch([&form] { form.Hide(); });
     return closed;
 }
 

@@ -23,12 +23,9 @@ TEST(ShownText, KeepsTheEndsOfATextThatIsTooLong) {
 }
 
 TEST(MsgBox, ShowsTextAndTitleAsTheyStand) {
-    QString told;
-    QTimer::singleShot(0, qApp, [&told] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        told = box->windowHandle()->title() + box->text();
-        box->accept();
-    });
-    MsgBox("<b>[*]", "[*]x");
+    MsgBox({"<b>[*]", "[*]x"});
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    const QString told = box->windowHandle()->title() + box->text();
+    box->accept();
     EXPECT_EQ(told, QStringLiteral("[*]x<b>[*]"));
 }

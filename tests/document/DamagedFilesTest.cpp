@@ -3,6 +3,7 @@
 
 #include <fstream>
 
+#include "OwnDirectory.h"
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/DamagedDocument.h"
@@ -24,10 +25,12 @@ const char* const Nested =
     " ; choose Continue ; + EXIST(a):a=u ; Spec 11 ; < k ; + k=u => P"
     " ; click 13 ; set CommentBox \"\u20ac\" ; choose Continue";
 
-TEST(DamagedFiles, WhatOpensStaysWhole) {
+using DamagedFiles = OwnDirectory;
+
+TEST_F(DamagedFiles, WhatOpensStaysWhole) {
     ASSERT_EQ(Do(Nested), "");
     const std::string whole = WriteProof();
-    const std::string path = testing::TempDir() + "damaged.proof";
+    const std::string path = Path("damaged.proof");
     int opened = 0;
     for (unsigned seed = 1; seed <= 2000; ++seed) {
         const RandomNumber random = RandomNumbers(seed);

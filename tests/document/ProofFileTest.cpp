@@ -1,6 +1,7 @@
 // The proof file, byte by byte, and what is refused on reading it.
 #include "document/ProofFile.h"
 #include "output/ProofCommands.h"
+#include "platform/Events.h"
 
 #include <gtest/gtest.h>
 
@@ -33,7 +34,7 @@ class ProofFileTest : public OwnDirectory {
         OperationCancelled = false;
         ProofChanged = false;
         Headless.Files.push_back(path);
-        Proof.optOpen.Click();
+        SendChoose(Proof.optOpen);
         return !OperationCancelled;
     }
 };
@@ -71,7 +72,7 @@ TEST_F(ProofFileTest, SavedOpenedAndSavedAgainIsTheSame) {
     ASSERT_EQ(BuildVariedProof(), "");
     ProofCaption = "Größe";
     ProofFileName = Path("a.proof");
-    SaveProofFile();
+    SaveProofFile(ProofFileName, [](bool) {});
     EXPECT_FALSE(ProofChanged);
     const std::string first = *ReadWholeFile(Path("a.proof"));
     const std::string leftover = OldLeftover();
@@ -89,7 +90,7 @@ TEST_F(ProofFileTest, SavedOpenedAndSavedAgainIsTheSame) {
 
 TEST_F(ProofFileTest, EmptyProofs) {
     ProofFileName = Path("empty.proof");
-    SaveProofFile();
+    SaveProofFile(ProofFileName, [](bool) {});
     ASSERT_TRUE(Open(Path("empty.proof")));
     EXPECT_EQ(IntroEnd, -4);
     RuleMode = 1;
@@ -229,7 +230,7 @@ TEST_F(ProofFileTest, FailureToSaveLosesNothing) {
     ASSERT_EQ(Do("+ P"), "");
     ProofFileName = Path("gone/a.proof");
     Proof.Caption = "as before";
-    Proof.optSave.Click();
+    SendChoose(Proof.optSave);
     ASSERT_EQ(Headless.Messages.size(), 1u);
     EXPECT_EQ(Headless.Messages[0].title, "WARNING");
     EXPECT_EQ(Headless.Messages[0].text, "Unable to save file");
@@ -249,14 +250,14 @@ TEST_F(ProofFileTest, WhatAnotherProgramWroteIsNotSavedOverUnasked) {
         WriteFile("a.proof", bytes);
         fs::last_write_time(path, time);
     };
-    const auto save = [] { Proof.optSave.Click(); };
+    const auto save = [] { SendChoose(Proof.optSave); };
     const auto saveAs = [&] {
         Headless.Files.push_back(path);
-        Proof.optSaveAs.Click();
+        SendChoose(Proof.optSaveAs);
     };
     const auto saveAtNew = [] {
-        Headless.NextStep = [] { return SaveChanges.cmdYes.Click(), true; };
-        Proof.optNew.Click();
+        SendChoose(Proof.optNew);
+        SendChoose(SaveChanges.cmdYes);
     };
     const struct {
         const char* what;
@@ -275,7 +276,7 @@ TEST_F(ProofFileTest, WhatAnotherProgramWroteIsNotSavedOverUnasked) {
     for (const auto& row : rows) {
         ProofFileName = path;
         SeenProofFile = {};
-        ASSERT_TRUE(SaveProofFile());
+        SendChoose(Proof.optSave);
         row.happens();
         const std::optional<std::string> there = ReadWholeFile(path);
         ProofChanged = true;

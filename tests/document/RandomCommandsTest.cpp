@@ -136,14 +136,10 @@ TEST(Limits, TheLastStatementIsRefusedBeforeAnythingIsWritten) {
 
     // From a box: one beep, whose reason is the writer's.
     const std::size_t beeps = Headless.Beeps.size();
-    Headless.NextStep = [] {
-        TestParser.RTB.SetText("P");
-        TestParser.cmdContinue.Click();
-        EXPECT_EQ(TestParser.StatusLine.Caption, "Unable to process request");
-        TestParser.Close();
-        return true;
-    };
     SendChoose(Proof.optOrNot);
+    TestParser.RTB.SetText("P");
+    SendChoose(TestParser.cmdContinue);
+    EXPECT_EQ(TestParser.StatusLine.Caption, "Unable to process request");
     ASSERT_EQ(Headless.Beeps.size(), beeps + 1);
     EXPECT_EQ(Headless.Beeps.back(), "A proof holds at most 32767 statements.");
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
 #include "document/Invariants.h"
@@ -79,20 +80,13 @@ RandomWalk::RandomWalk(RandomNumber random) : random_(std::move(random)) {
         auto* item = dynamic_cast<MenuItem*>(control);
         if (item != nullptr && item->Click && item != &Proof.optExit) all_.push_back(item);
     }
-    Headless.NextStep = [this] {
-        AnswerForm();
-        return true;
-    };
-}
-
-RandomWalk::~RandomWalk() {
-    Headless.NextStep = nullptr;
 }
 
 void RandomWalk::Step() {
     MenuItem* const command =
         random_(20) == 0 ? all_[random_(all_.size())] : usual_[random_(usual_.size())];
     if (command != nullptr) SendChoose(*command);
+    AnswerForms([this] { AnswerForm(); });
     if (Find.Visible) UseFind();
     for (std::size_t clicks = random_(3); clicks > 0; --clicks) ClickSomewhere();
     LookSomewhere();
@@ -118,6 +112,7 @@ void RandomWalk::ClickSomewhere() {
         default:
             SendClick(Proof.RTB, place);
     }
+    AnswerForms([this] { AnswerForm(); });
     Headless.Answers.clear();
 }
 

@@ -20,7 +20,6 @@ class RandomWalk {
     explicit RandomWalk(RandomNumber random);
     RandomWalk(const RandomWalk&) = delete;
     RandomWalk& operator=(const RandomWalk&) = delete;
-    ~RandomWalk();
 
     void Step();
 

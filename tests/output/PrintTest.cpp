@@ -93,10 +93,16 @@ TEST(Printing, PageEndsAheadOfAStatementAndNotInsideIt) {
     }
 }
 
+PrintResult Printed(int first, int last) {
+    PrintResult result = PrintResult::Cancelled;
+    PrintStatements(first, last, [&](PrintResult end) { result = end; });
+    return result;
+}
+
 TEST(Printing, PagesHoldEverythingOnce) {
     StartProof();
     for (int i = 0; i < 200; ++i) AddLine("P & " + std::string(300, 'x'), Rule::Axiom);
-    ASSERT_EQ(PrintStatements(1, 200), PrintResult::Done);
+    ASSERT_EQ(Printed(1, 200), PrintResult::Done);
     EXPECT_GT(Headless.Pages.size(), 15u);  // a long line takes several rows
     std::string all;
     for (const std::string& page : Headless.Pages) {
@@ -108,23 +114,15 @@ TEST(Printing, PagesHoldEverythingOnce) {
     std::erase(copy, '\r');
     EXPECT_EQ(all, copy);
     Headless.HasPrinter = false;
-    EXPECT_EQ(PrintStatements(1, 1), PrintResult::Failed);
+    EXPECT_EQ(Printed(1, 1), PrintResult::Failed);
 }
 
 // Opens the form as the user does and answers in it.
 void Print(const std::function<void()>& answer) {
-    bool answered = false;
-    Headless.NextStep = [&] {
-        if (answered) return false;
-        answered = true;
-        answer();
-        return true;
-    };
-    try {
-        SendChoose(Proof.optPrint);
-    } catch (const ProgramEnded&) {
-    }
-    Headless.NextStep = nullptr;
+    SendChoose(Proof.optPrint);
+    answer();
+    PrintProof.Close();
+    SettleQuestions();
 }
 
 TEST(Printing, SelectionGivesTheRange) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "Steps.h"
+#include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
 #include "document/Document.h"
@@ -190,25 +191,35 @@ struct Watch {
     int written = 0;
 };
 
+void Choose(Watch& watch, MenuItem& item) {
+    SendChoose(item);
+    AnswerForms([&] { watch.answers.Reply(); });
+}
+
+void ClickPlace(Watch& watch, int place) {
+    SendClick(Proof.RTB, place);
+    AnswerForms([&] { watch.answers.Reply(); });
+}
+
 // Makes the rule pending again where the last click has ended it. False if it is no click rule.
-bool MakePending(const MenuItem& item) {
-    if (RuleMode == 0) item.Click();
+bool MakePending(Watch& watch, MenuItem& item) {
+    if (RuleMode == 0) Choose(watch, item);
     return RuleMode != 0;
 }
 
 void ClickAt(Watch& watch, const MenuItem& item, int place) {
     watch.Begin(item, place);
-    SendClick(Proof.RTB, place);
+    ClickPlace(watch, place);
     watch.End();
 }
 
-void TryItem(Watch& watch, const MenuItem& item, const std::vector<int>& places) {
+void TryItem(Watch& watch, MenuItem& item, const std::vector<int>& places) {
     watch.Begin(item, -1);
-    item.Click();
+    Choose(watch, item);
     watch.End();
     std::size_t begin = 0;
     for (const int place : places) {
-        if (!MakePending(item)) return;
+        if (!MakePending(watch, item)) return;
         const bool awaitsFirst = FirstClick;
         ClickAt(watch, item, place);
         if (RuleMode == 0 || FirstClick == awaitsFirst) continue;
@@ -216,8 +227,8 @@ void TryItem(Watch& watch, const MenuItem& item, const std::vector<int>& places)
         for (std::size_t k = begin++ % 7; k < places.size(); k += 7) {
             ClickAt(watch, item, places[k]);
             if (RuleMode != 0) continue;
-            item.Click();
-            SendClick(Proof.RTB, place);
+            Choose(watch, item);
+            ClickPlace(watch, place);
         }
         RuleMode = 0;
     }
@@ -230,17 +241,12 @@ TEST_P(EveryClick, WritesOrTellsWhyNot) {
     for (const bool accept : {false, true}) {
         ASSERT_EQ(Do(GetParam().steps), "");
         Watch watch(accept);
-        Headless.NextStep = [&] {
-            watch.answers.Reply();
-            return true;
-        };
         const std::vector<int> places = EveryNth(AllPlaces(), accept ? 1 : 5);
-        for (const MenuItem* item : RuleItems()) {
+        for (MenuItem* item : RuleItems()) {
             TryItem(watch, *item, places);
             ASSERT_FALSE(HasFailure()) << "with " << item->Name;
         }
         EXPECT_GT(watch.written, accept ? 100 : 5);
-        Headless.NextStep = nullptr;
     }
 }
 

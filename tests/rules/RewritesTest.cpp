@@ -50,18 +50,20 @@ struct Clicks {
         const int count = StmtCount;
         const Statement first = StmtTable[1];
         for (int place = first.StartStmt - 1; place < first.EndStmt; ++place) {
-            rule.Click();
+            SendChoose(rule);
             if (prepare) prepare();
             SendClick(Proof.RTB, place);
+            AnswerForms(answer);
             RuleMode = 0;
             if (StmtCount == count) continue;
             ++written[StmtTable.back().Rule];
             ASSERT_TRUE(LastLineHolds(sameMeaning)) << ProofText.View();
-            Proof.optUndo.Click();
+            SendChoose(Proof.optUndo);
         }
     }
 
     std::function<void()> prepare;  // what is done ahead of the click
+    std::function<void()> answer;   // in a form
     std::map<int, int> written;     // by rule
 };
 
@@ -100,7 +102,7 @@ TEST(RulesOnTerms, WriteWhatFollows) {
             oneOf({"", "ALL(x):", "EXIST(y):"}) + "[" + RandomFormula(random, 3) + "]";
         const std::string script = EnterPremise(formula) + EnterPremise(equation);
         if (!Build(script).empty() || StmtCount != 2) continue;
-        Headless.NextStep = [&] {
+        clicks.answer = [&] {
             Form& form = TopForm();
             if (&form == &Generalize) ReplaceByTyping(Generalize.BoundVarTextBox, name());
             auto& box = static_cast<OccurrenceForm&>(form);
@@ -109,7 +111,6 @@ TEST(RulesOnTerms, WriteWhatFollows) {
                 SendClick(box.RTB, static_cast<int>(random() % box.RTB.GetText().size()));
             }
             if (!SendChoose(box.cmdContinue) || form.Visible) SendChoose(box.cmdCancel);
-            return true;
         };
         clicks.prepare = nullptr;
         clicks.At(Proof.optEGen, false);
@@ -120,7 +121,6 @@ TEST(RulesOnTerms, WriteWhatFollows) {
         clicks.At(Proof.optSubstitution, false);
         if (HasFatalFailure()) return;
     }
-    Headless.NextStep = nullptr;
     for (const int rule : {Rule::EGen, Rule::Substitute})
         EXPECT_GT(clicks.written[rule], 100) << RuleName(rule);
 }

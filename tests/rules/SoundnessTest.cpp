@@ -8,6 +8,7 @@
 #include <map>
 
 #include "Steps.h"
+#include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/ActiveLines.h"
 #include "document/RandomWalk.h"
@@ -71,13 +72,7 @@ std::vector<Structure> StructuresOfTheAxioms() {
 
 class User {
   public:
-    explicit User(unsigned seed) : random_(RandomNumbers(seed)) {
-        EXPECT_EQ(Do(Axioms), "");
-        Headless.NextStep = [this] {
-            AnswerForm();
-            return true;
-        };
-    }
+    explicit User(unsigned seed) : random_(RandomNumbers(seed)) { EXPECT_EQ(Do(Axioms), ""); }
 
     void Step() {
         const std::pair<MenuItem*, int> commands[] = {
@@ -90,6 +85,7 @@ class User {
         const std::size_t most = random_(4) == 0 ? std::size(commands) : std::size(commands) - 2;
         const auto& [item, clicks] = commands[random_(most)];
         SendChoose(*item);
+        AnswerForms([this] { AnswerForm(); });
         for (int click = 0; click < clicks && RuleMode != 0; ++click) ClickALine();
         RuleMode = 0;
     }
@@ -102,6 +98,7 @@ class User {
         const std::size_t line = isRecent ? lines.size() - 1 - random_(5) : random_(lines.size());
         const Statement& stmt = StmtTable[lines[line]];
         SendClick(Proof.RTB, stmt.StartStmt - ViewOffset(stmt) - 1);
+        AnswerForms([this] { AnswerForm(); });
     }
 
     void AnswerForm() {
