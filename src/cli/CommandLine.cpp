@@ -193,7 +193,7 @@ int FitsCommand(const Words& words, const Streams& streams) {
 
 int VersionCommand(const Words& words, const Streams& streams) {
     if (!words.empty()) return ReportWrongUse(streams);
-    streams.out << "tessaryn-cli 2.0\n";
+    streams.out << "tessaryn-cli " TESSARYN_VERSION "\n";
     return 0;
 }
 

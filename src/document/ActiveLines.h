@@ -10,8 +10,16 @@
 
 namespace tessaryn {
 
-// The active lines below `limit`, ascending.
-std::vector<int> ActiveLines(int limit, const Document& doc = Doc);
+// The walk past closed blocks, both ways: from a closed Premise on to its Conclusion, which is in
+// force where the block is not, and from a Conclusion back to ahead of its block.
+int LineBehind(int line, const Document& doc = Doc);
+int LineAhead(int line, const Document& doc = Doc);
+
+// The active lines from `first` on, which is in no closed block, to below `limit`; ascending.
+std::vector<int> ActiveLines(int first, int limit, const Document& doc = Doc);
+inline std::vector<int> ActiveLines(int limit, const Document& doc = Doc) {
+    return ActiveLines(1, limit, doc);
+}
 
 // Is this line one of them?
 bool IsActive(int line, int limit, const Document& doc = Doc);

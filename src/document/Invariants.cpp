@@ -27,10 +27,6 @@ class Complaint {
     std::string text_;
 };
 
-int Length(std::string_view text) {
-    return static_cast<int>(text.size());
-}
-
 // --- structure
 
 // Is the 1-based index in the middle of a character of the text?

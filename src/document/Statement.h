@@ -14,6 +14,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace tessaryn {
 
@@ -40,6 +41,11 @@ struct Statement {
 
     bool operator==(const Statement&) const = default;
 };
+
+// The bytes of a text, as the indexes count them.
+inline int Length(std::string_view text) {
+    return static_cast<int>(text.size());
+}
 
 int Depth(const Statement& stmt);
 // Bytes of the block, the CR LF CR LF behind it included.

@@ -9,10 +9,6 @@
 namespace tessaryn {
 namespace {
 
-int Length(std::string_view text) {
-    return static_cast<int>(text.size());
-}
-
 std::string IndentContinuationLines(const std::string& text) {
     std::string indented;
     for (const char c : text) {

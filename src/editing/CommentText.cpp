@@ -8,10 +8,6 @@ namespace {
 
 constexpr const char* TwoLineEnds = "\r\n\r\n";
 
-int Length(const std::string& text) {
-    return static_cast<int>(text.size());
-}
-
 // The TABs ahead of each line of a statement's comment: those that the old one has.
 std::string Indentation(const Statement& stmt) {
     if (stmt.EndUserComment == 0) return std::string(static_cast<std::size_t>(Depth(stmt)), '\t');

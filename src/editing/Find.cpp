@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <exception>
+#include <numeric>
 #include <vector>
 
-#include "document/Document.h"
+#include "document/ActiveLines.h"
 #include "entry/ExpressionEditor.h"
 #include "mainwindow/Proof.h"
 #include "view/Display.h"
@@ -31,15 +32,10 @@ int NextPlace() {
 
 // The statements in which a hit counts, ascending.
 std::vector<int> SearchedStmts() {
-    std::vector<int> lines;
-    for (int line = 1; line <= StmtCount;) {
-        if (Find.ChkActiveOnly.Value && IsClosedPremise(At(line))) {
-            line = At(line).Arg1;
-            continue;
-        }
-        if (At(line).Visible) lines.push_back(line);
-        ++line;
-    }
+    std::vector<int> lines(static_cast<std::size_t>(StmtCount));
+    std::iota(lines.begin(), lines.end(), 1);
+    if (Find.ChkActiveOnly.Value) lines = ActiveLines(StmtCount + 1);
+    std::erase_if(lines, [](int line) { return !At(line).Visible; });
     return lines;
 }
 

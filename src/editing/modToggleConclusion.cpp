@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "document/Document.h"
+#include "document/ActiveLines.h"
 #include "editing/Comment.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -60,9 +60,9 @@ void ToggleBlock(int conclusion) {
 
 // The nearest shown highlight ahead of a statement, closed blocks passed over; 0 if there is none.
 int HighlightAhead(int line) {
-    int ahead = (IsConclusion(At(line)) ? At(line).Arg1 : line) - 1;
+    int ahead = LineAhead(line);
     while (ahead > 0 && !(At(ahead).Visible && At(ahead).Highlight)) {
-        ahead = (IsConclusion(At(ahead)) ? At(ahead).Arg1 : ahead) - 1;
+        ahead = LineAhead(ahead);
     }
     return ahead;
 }

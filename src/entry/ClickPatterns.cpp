@@ -35,13 +35,6 @@ void TakeSecond(int line, const LinesClick& rule) {
 
 }  // namespace
 
-bool ParseOrReport() {
-    Parse();
-    if (ParseError.empty()) return true;
-    ReportParseError();
-    return false;
-}
-
 bool TakeClickedLine(int& line, AfterParseError after, bool saysWhy) {
     GetActiveStmt(line, NewStmtText);
     if (line == 0) {

@@ -38,10 +38,6 @@ void ClickLines(const LinesClick& rule);
 
 // --- the steps, for rules with a conversation of their own
 
-// Parses the expression in hand. On an error: beep, "PARSER ERROR: " with the message in
-// StatusLine.
-bool ParseOrReport();
-
 // Finds the statement of a click and parses it: InHand is the statement. False after a beep.
 bool TakeClickedLine(int& line, AfterParseError after, bool saysWhy = true);
 

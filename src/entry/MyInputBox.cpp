@@ -45,7 +45,7 @@ void MyInputBoxForm::Activated() {
 
 void MyInputBoxForm::Close() {
     RuleMode = 0;
-    ParseError = "Cancelled";
+    OperationCancelled = true;
     Hide();
 }
 

@@ -1,6 +1,6 @@
 // The one-line dialogue with which a rule asks for a number or for names.
 //
-// The rule sets RuleMode and calls AskInBox. RuleMode is 0 afterwards if the user cancelled.
+// The rule sets RuleMode, which is 0 again if the user cancels, and calls AskInBox.
 #pragma once
 
 #include <string>

@@ -34,7 +34,7 @@ void TestParserForm::Activated() {
 }
 
 void TestParserForm::Close() {
-    ParseError = "Cancelled";
+    OperationCancelled = true;
     Hide();
     RuleMode = 0;
     SetPrompt("");

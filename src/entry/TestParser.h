@@ -1,9 +1,8 @@
 // The dialogue in which a whole expression is entered: a premise, an axiom, the term of a U Spec,
 // the added operand of the arbitrary rules, the term of Reflex.
 //
-// The rule sets RuleMode and calls AskForExpression. Afterwards ParseError is "" if the entry was
-// accepted and "Cancelled" if not; the accepted text is in NewStmtText with its parse in the
-// tables, unless `accept` has written the statement already.
+// The rule sets RuleMode and calls AskForExpression. An accepted text is in NewStmtText afterwards
+// with its parse in the tables, unless `accept` has written the statement already.
 #pragma once
 
 #include <string>

@@ -14,7 +14,6 @@ WarningForm::WarningForm() : Form("Warning", "WARNING") {
 }
 
 void WarningForm::Activated() {
-    OperationCancelled = false;
     Beep(Reason);
     cmdContinue.SetFocus();
 }

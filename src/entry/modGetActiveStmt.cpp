@@ -39,13 +39,6 @@ int LastTokenUpTo(int offset, bool& found) {
     return last;
 }
 
-bool ParseOrReport() {
-    Parse();
-    if (ParseError.empty()) return true;
-    ReportParseError();
-    return false;
-}
-
 // Token indexes stay valid: TABs are white space.
 void ParseWithoutTabs() {
     if (NewStmtText.find('\t') == std::string::npos) return;

@@ -5,7 +5,7 @@
 
 #include "document/Document.h"
 #include "document/Invariants.h"
-#include "expr/Expression.h"
+#include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
 
 namespace tessaryn {
@@ -28,10 +28,10 @@ ProofForm::ProofForm() : Form("Proof") {
 
 std::string TitleOf(const std::string& caption, const std::string& fileName) {
     if (fileName.empty()) {
-        if (caption.empty()) return " Tessaryn 2.0  -  (Untitled)";
+        if (caption.empty()) return " Tessaryn " TESSARYN_VERSION "  -  (Untitled)";
         return " " + caption + " - (Untitled)";
     }
-    if (caption.empty()) return " Tessaryn 2.0  -  " + fileName;
+    if (caption.empty()) return " Tessaryn " TESSARYN_VERSION "  -  " + fileName;
     return " " + caption + "  -  " + fileName;
 }
 
@@ -47,6 +47,13 @@ void SetPrompt(const std::string& text) {
 void ReportParseError() {
     SetPrompt("PARSER ERROR: " + ParseError);
     Beep(ParseError);
+}
+
+bool ParseOrReport() {
+    Parse();
+    if (ParseError.empty()) return true;
+    ReportParseError();
+    return false;
 }
 
 void RunHandler(const EventHandler& handler, const std::string& message) {

@@ -101,6 +101,10 @@ void SetPrompt(const std::string& text);
 // Reports a failed Parse: beep, and "PARSER ERROR: " with ParseError in StatusLine.
 void ReportParseError();
 
+// Parses the expression in hand. On an error: beep, "PARSER ERROR: " with the message in
+// StatusLine.
+bool ParseOrReport();
+
 // What StatusLine shows if the command under way fails.
 inline std::string FailureMessage = "Unable to process request";
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 
 namespace tessaryn {
@@ -18,6 +19,7 @@ std::function<void(Reply)> Guarded(std::function<void(Reply)> then) {
 }  // namespace
 
 void AskIn(Form& form, EventHandler then) {
+    OperationCancelled = false;
     ShowModal(form, [then = std::move(then), message = FailureMessage] {
         if (then) RunHandler(then, message);
     });

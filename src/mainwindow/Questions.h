@@ -6,7 +6,7 @@
 
 namespace tessaryn {
 
-// In a form, until it has been hidden.
+// In a form, until it has been hidden. OperationCancelled then tells whether the user cancelled.
 void AskIn(Form& form, EventHandler then = nullptr);
 
 // In a message box.

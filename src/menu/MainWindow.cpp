@@ -99,7 +99,7 @@ void LoadMainWindow(const std::string& commandLine, const EventHandler& then) {
     SetPrompt("Press any key to continue");
     IntroEnd = 0;
     LoadSettings([then] {
-        Proof.Caption = " Tessaryn 2.0  -  (Untitled)";
+        Proof.Caption = " Tessaryn " TESSARYN_VERSION "  -  (Untitled)";
         then();
     });
 }

@@ -8,7 +8,7 @@ namespace tessaryn {
 struct AboutTessarynForm : Form {
     AboutTessarynForm();
 
-    Label ProgramName{*this, "ProgramName", "Tessaryn 2.0"};
+    Label ProgramName{*this, "ProgramName", "Tessaryn " TESSARYN_VERSION};
     Label Purpose{*this, "Purpose", "An interactive editor for formal proofs"};
     Button cmdOK{*this, "cmdOK", "OK"};
 };

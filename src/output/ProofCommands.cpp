@@ -182,7 +182,7 @@ void EmptyProof() {
     CheckStoredText();
     ResetFonts();
     Proof.RTB.SelStart = 0;
-    Proof.Caption = " Tessaryn 2.0 - (Untitled)";
+    Proof.Caption = " Tessaryn " TESSARYN_VERSION " - (Untitled)";
 }
 
 void OpenNow(const std::string& path) {

@@ -20,7 +20,6 @@ SaveChangesForm::SaveChangesForm() : Form("SaveChanges", "Save changes to curren
 
 void SaveChangesForm::Activated() {
     Beep("The proof has changes that are in no file yet.");
-    OperationCancelled = false;
     FileName.Caption = ProofFileName.empty() ? "(Untitled file)" : ProofFileName;
     cmdYes.SetFocus();
 }

@@ -11,7 +11,7 @@ struct StartUpForm : Form {
     bool KeyPressed(const KeyEvent& key) override;
     void Clicked() override;
 
-    Label ProgramName{*this, "ProgramName", "Tessaryn 2.0"};
+    Label ProgramName{*this, "ProgramName", "Tessaryn " TESSARYN_VERSION};
     Label BuildDate{*this, "BuildDate"};
 };
 

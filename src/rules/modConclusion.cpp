@@ -73,17 +73,13 @@ void CollectNames(int premise, int last, bool contradiction) {
 // Stops at the first message.
 template <class Visit>
 std::string WalkLaterLines(int line, Visit visit) {
-    for (int i = line; i <= StmtCount && !IsOpenPremise(At(i));) {
-        if (IsClosedPremise(At(i))) {
-            i = At(i).Arg1;
-            continue;
-        }
+    for (int i = line; i <= StmtCount && !IsOpenPremise(At(i)); i = LineBehind(i)) {
+        if (IsClosedPremise(At(i))) continue;
         for (const std::string& name : NamesOf(At(i).FreeVars)) {
             if (!visit(name, i)) continue;
             return "Conclusion Rule: Inconsistent usage of variable '" + name + "' on line " +
                    std::to_string(i) + ". Consider deleting that line.";
         }
-        ++i;
     }
     return "";
 }
@@ -91,11 +87,10 @@ std::string WalkLaterLines(int line, Visit visit) {
 // The names that are green on an active line above the premise, up to the next open one.
 std::unordered_set<std::string> GreenNamesAbove(int premise) {
     std::unordered_set<std::string> green;
-    for (int j = premise - 1; j > 0 && !IsOpenPremise(At(j));) {
+    for (int j = premise - 1; j > 0 && !IsOpenPremise(At(j)); j = LineAhead(j)) {
         for (const std::string& name : NamesOf(At(j).FreeVars)) {
             if (IsGreen(name, j)) green.insert(name);
         }
-        j = IsConclusion(At(j)) ? At(j).Arg1 - 1 : j - 1;
     }
     return green;
 }
@@ -203,7 +198,7 @@ void Conclusion() {
     AskInBox({"Conclusion Rule: Generalizing on " + CommaList(names), AskForNamesText(names.size()),
               ContinueConclusion, "", CommaList(names)},
              [premise, line] {
-                 if (RuleMode != 0) CloseBlock(premise, line);
+                 if (!OperationCancelled) CloseBlock(premise, line);
              });
 }
 

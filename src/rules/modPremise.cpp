@@ -53,7 +53,7 @@ void EnterStatement(int rule, const std::string& caption, std::string (*check)()
     SetPrompt("");
     AskForExpression(
         {caption, check, "Suggestion: Use letters a-j for bound variables, k-z for free variables"},
-        [] { FinishRule(!ParseError.empty() || WriteStatement()); });
+        [] { FinishRule(OperationCancelled || WriteStatement()); });
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "document/Document.h"
+#include "document/ActiveLines.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
@@ -21,7 +21,7 @@ int PickInsertLine(int place, std::string& reason) {
             stmt.Visible && stmt.ViewerStartLine <= place && place <= ViewerEndRule(stmt);
         if (!hit) {
             // Lines of a closed block can't be chosen, not even where its Premise is hidden.
-            i = IsClosedPremise(stmt) ? stmt.Arg1 : i + 1;
+            i = LineBehind(i);
         } else if (!IsConclusion(stmt)) {
             return i;
         } else if (At(i - 1).Visible) {

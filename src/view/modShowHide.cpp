@@ -1,7 +1,7 @@
 // The commands of the View menu.
 #include "view/ShowHide.h"
 
-#include "document/Document.h"
+#include "document/ActiveLines.h"
 #include "mainwindow/Proof.h"
 #include "view/Display.h"
 #include "view/InsertMode.h"
@@ -22,7 +22,7 @@ void CaretToEnd() {
 int LastFoldedLine() {
     int line = StmtCount;
     while (line > 0 && (At(line).Visible || At(line).Highlight)) {
-        line = (IsConclusion(At(line)) ? At(line).Arg1 : line) - 1;
+        line = LineAhead(line);
     }
     return line;
 }
@@ -37,20 +37,18 @@ int ShownHighlightAhead(int line) {
     return ahead;
 }
 
+void HideClosedBlocks() {
+    for (int line = 1; line <= StmtCount; line = LineBehind(line)) {
+        if (IsClosedPremise(At(line))) HideLines(line, At(line).Arg1 - 1);
+    }
+}
+
 }  // namespace
 
 int ShowActiveLines(int first, int last) {
-    int firstShown = 0;
-    for (int line = first; line <= last;) {
-        if (IsClosedPremise(At(line))) {
-            line = At(line).Arg1;
-            continue;
-        }
-        SetVisible(line, true);
-        if (firstShown == 0) firstShown = line;
-        ++line;
-    }
-    return firstShown;
+    const std::vector<int> lines = ActiveLines(first, last + 1);
+    for (const int line : lines) SetVisible(line, true);
+    return lines.empty() ? 0 : lines.front();
 }
 
 void HideLines(int first, int last) {
@@ -59,15 +57,10 @@ void HideLines(int first, int last) {
 
 void HideAllDetails() {
     Proof.RTB.SetFocus();
-    for (int line = 1; line < StmtCount;) {
-        if (IsClosedPremise(At(line))) {
-            HideLines(line, At(line).Arg1 - 1);
-            line = At(line).Arg1;
-            continue;
-        }
+    HideClosedBlocks();
+    for (const int line : ActiveLines(StmtCount)) {
         // A highlighted line stays as it was, shown or not.
         if (!At(line).Highlight) SetVisible(line, false);
-        ++line;
     }
     if (InsertMode && InsertLine > 1) SetVisible(InsertLine - 1, true);
     if (StmtCount > 0) SetVisible(StmtCount, true);
@@ -77,15 +70,8 @@ void HideAllDetails() {
 
 void ShowAllActive() {
     Proof.RTB.SetFocus();
-    for (int line = 1; line <= StmtCount;) {
-        if (IsClosedPremise(At(line))) {
-            HideLines(line, At(line).Arg1 - 1);
-            line = At(line).Arg1;
-            continue;
-        }
-        SetVisible(line, true);
-        ++line;
-    }
+    HideClosedBlocks();
+    ShowActiveLines(1, StmtCount);
     Redraw();
     InsertMode&& InsertLine >= 2 ? PutCaretBehindInsertMark() : CaretToEnd();
 }
