@@ -121,6 +121,7 @@ std::string ScriptOf(std::string_view steps) {
 std::string Do(std::string_view steps) {
     ScriptOptions options;
     options.checkDocument = true;
+    options.checkLines = true;
     options.showHidden = true;
     const std::string script = ScriptOf(steps);
     const std::string error = RunScript(script, "script", options).error;

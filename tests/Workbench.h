@@ -22,6 +22,7 @@ inline std::string EnterAxiom(const std::string& text) {
 inline std::string Build(const std::string& script) {
     ScriptOptions options;
     options.checkDocument = true;
+    options.checkLines = true;
     return RunScript(script, "script", options).error;
 }
 

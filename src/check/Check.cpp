@@ -118,15 +118,18 @@ std::string Worded(const Ground& ground) {
     return "";
 }
 
+std::string WordedGrounds(const CheckedProof& proof, int line) {
+    std::string worded;
+    for (const Ground& ground : proof.RestsOn(line)) {
+        worded += (worded.empty() ? "rests on " : ", ") + Worded(ground);
+    }
+    return worded.empty() ? "proved" : worded;
+}
+
 std::string Summary(const CheckedProof& proof) {
     if (proof.verdict == Verdict::Refused) return "wrong: " + proof.sentence;
     if (proof.verdict == Verdict::Declined) return "declined: " + proof.sentence;
-    if (proof.Count() == 0) return "no statement";
-    std::string summary;
-    for (const Ground& ground : proof.RestsOn(proof.Count())) {
-        summary += (summary.empty() ? "rests on " : ", ") + Worded(ground);
-    }
-    return summary.empty() ? "proved" : summary;
+    return proof.Count() == 0 ? "no statement" : WordedGrounds(proof, proof.Count());
 }
 
 }  // namespace tessaryn::check

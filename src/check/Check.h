@@ -57,7 +57,10 @@ class CheckedProof {
 
 CheckedProof CheckProof(std::string file);
 
-// "proved", "rests on ..." or what is wrong.
+// "proved" or "rests on ...", of a line of an accepted proof.
+std::string WordedGrounds(const CheckedProof& proof, int line);
+
+// The same of the last line of a proof that is accepted; else what is wrong.
 std::string Summary(const CheckedProof& proof);
 
 }  // namespace tessaryn::check

@@ -6,6 +6,7 @@
 #include <iostream>
 #include <optional>
 
+#include "cli/CheckFiles.h"
 #include "cli/ExpressionTables.h"
 #include "cli/Fits.h"
 #include "cli/FormState.h"
@@ -37,6 +38,7 @@ constexpr const char* Usage =
     "       tessaryn-cli html IN.proof OUT.html\n"
     "       tessaryn-cli print IN.proof OUT.txt\n"
     "       tessaryn-cli fits FILE.proof [LINE]\n"
+    "       tessaryn-cli check [--json] [--all] FILE.proof...\n"
     "       tessaryn-cli --version | --help\n";
 
 constexpr const char* Help =
@@ -44,7 +46,7 @@ constexpr const char* Help =
     "run    runs a script of user actions, one a line\n"
     "         --settings DIR  reads and writes the settings in DIR\n"
     "         --hidden        hidden menu items can be chosen\n"
-    "         --check         checks the whole document after each action\n"
+    "         --check         checks the whole document after each action, each line of it too\n"
     "parse  reads expressions as JSON strings, prints their tables, one a line\n"
     "same   reads pairs of expressions as JSON arrays, prints true or false\n"
     "dump   opens a proof and prints its state as JSON\n"
@@ -52,8 +54,12 @@ constexpr const char* Help =
     "print  writes a proof as it would be printed, a form feed between pages\n"
     "fits   prints the rules that fit the active lines of a proof, or one of them, and\n"
     "         what they would write, as JSON, one a line\n"
+    "check  says whether each line of a proof follows, and what the last one rests on\n"
+    "         --json  as JSON, with all statements that are in force at the end\n"
+    "         --all   with all statements\n"
     "\n"
-    "Exit status: 0 done; 1 refused, or an expectation failed; 2 wrong use.\n";
+    "Exit status: 0 done; 1 refused, or an expectation failed; 2 wrong use, or a file that\n"
+    "check can't read or judge.\n";
 
 int ReportWrongUse(const Streams& streams) {
     streams.err << Usage;
@@ -74,6 +80,7 @@ std::optional<RunRequest> ReadRunRequest(const Words& words) {
             request.options.showHidden = true;
         } else if (word == "--check") {
             request.options.checkDocument = true;
+            request.options.checkLines = true;
         } else if (word == "--settings" && i + 1 < words.size() && !words[i + 1].empty()) {
             request.options.settingsDir = words[++i];
         } else if (request.file.empty() && (word == "-" || !word.starts_with('-'))) {
@@ -191,6 +198,23 @@ int FitsCommand(const Words& words, const Streams& streams) {
     return 0;
 }
 
+int CheckCommand(const Words& words, const Streams& streams) {
+    CheckRequest request;
+    for (const std::string& word : words) {
+        if (word == "--json") {
+            request.asJson = true;
+        } else if (word == "--all") {
+            request.allLines = true;
+        } else if (word.empty() || word.starts_with('-')) {
+            return ReportWrongUse(streams);
+        } else {
+            request.files.push_back(word);
+        }
+    }
+    if (request.files.empty()) return ReportWrongUse(streams);
+    return CheckFiles(request, streams.out, streams.err);
+}
+
 int VersionCommand(const Words& words, const Streams& streams) {
     if (!words.empty()) return ReportWrongUse(streams);
     streams.out << "tessaryn-cli " TESSARYN_VERSION "\n";
@@ -216,6 +240,7 @@ constexpr std::array Commands = std::to_array<CommandRow>({
     {"html", HtmlCommand},
     {"print", PrintCommand},
     {"fits", FitsCommand},
+    {"check", CheckCommand},
     {"--version", VersionCommand},
     {"--help", HelpCommand},
 });

@@ -25,7 +25,9 @@ struct ScriptRun {
     std::string typing;          // the text of a `type`
     std::size_t typed = 0;       // bytes of it whose keys have been pressed
     bool checkDocument = false;  // after each action
-    std::string failure;         // "" as long as all is well; then the run is over
+    bool checkLines = false;
+    std::string checked;  // the bytes of the document that was checked last
+    std::string failure;  // "" as long as all is well; then the run is over
 
     // How many beeps and messages there were when the last action that was no `expect` began, and
     // at the last `dump`.

@@ -4,10 +4,12 @@
 #include <ostream>
 #include <sstream>
 
+#include "check/Check.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
 #include "cli/Script.h"
 #include "document/Invariants.h"
+#include "document/ProofFile.h"
 #include "text/Encoding.h"
 #include "view/Display.h"
 
@@ -86,11 +88,21 @@ void CheckState(const ScriptRun& run) {
     if (!fault.empty()) throw ActionFailed{"the document does not agree with itself: " + fault};
 }
 
+void CheckLines(ScriptRun& run) {
+    if (!run.checkLines || ModalFormOpen()) return;
+    std::string bytes = WriteProof();
+    if (bytes == run.checked) return;
+    run.checked = std::move(bytes);
+    const std::string fault = check::CheckProof(run.checked).sentence;
+    if (!fault.empty()) throw ActionFailed{fault};
+}
+
 // False if the run is over.
 bool Step(ScriptRun& run) {
     if (Headless.Ended) return false;
     if (!DoNext(run)) return false;
     CheckState(run);
+    CheckLines(run);
     return true;
 }
 
@@ -128,6 +140,7 @@ int RunScript(const std::string& script, const std::string& name, const ScriptOp
     ScriptRun run(out);
     run.lines = SplitLines(script);
     run.checkDocument = options.checkDocument;
+    run.checkLines = options.checkLines;
     RunToEnd(run, options);
     for (const std::string& note : Headless.Notes) err << name << ": " << OnOneLine(note) << '\n';
     if (run.failure.empty()) return 0;

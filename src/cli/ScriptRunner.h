@@ -17,6 +17,7 @@ struct ScriptOptions {
     std::string settingsDir;              // "" reads and writes no settings
     bool showHidden = false;              // menu items that are made hidden can be chosen
     bool checkDocument = CheckByDefault;  // after each action; a fault ends the run
+    bool checkLines = false;              // the same: whether each line follows
 };
 
 // Results go to out, the reason of a failure to err as "NAME:LINE: reason". Gives the exit status:

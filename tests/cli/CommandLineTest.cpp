@@ -43,6 +43,8 @@ TEST(CommandLine, WrongUseShowsTheUsage) {
         {"--help", "me"},
         {"html", "a"},
         {"print", "a", "b", "c"},
+        {"check", "--json"},
+        {"check", "--every", "a"},
     };
     for (const auto& row : rows) {
         const Outcome outcome = Call(row);
@@ -118,6 +120,31 @@ std::string SavedProof(const std::string& name) {
     const std::string path = ::testing::TempDir() + name;
     EXPECT_EQ(Build(EnterPremise("x @ s") + "save " + Quoted(path) + "\n"), "");
     return path;
+}
+
+TEST(CommandLine, CheckTellsWhatAProofRestsOn) {
+    const std::string file = SavedProof("good.proof");
+    EXPECT_EQ(Call({"check", file}).output, file + ": rests on premise x @ s in line 1\n");
+    EXPECT_EQ(Call({"check", "--all", file}).output,
+              file + ": rests on premise x @ s in line 1\n" + file +
+                  ":1: x @ s: rests on premise x @ s in line 1\n");
+    EXPECT_EQ(nlohmann::json::parse(Call({"check", "--json", file}).output),
+              nlohmann::json::parse(R"({"file":")" + file + R"json(","line":0,"reason":"",
+                  "verdict":"accepted","statements":[{"inForce":true,"line":1,"rule":"Premise",
+                  "text":"x @ s","restsOn":[{"kind":"premise","line":1,"text":"x @ s"}]}]})json"));
+
+    std::string bytes = *ReadWholeFile(file);
+    bytes[10 + 2 + 2] = 16;  // the rule, Detach
+    const std::string forged = ::testing::TempDir() + "forged.proof";
+    std::ofstream(forged, std::ios::binary) << bytes;
+    const Outcome wrong = Call({"check", file, forged, "/nowhere/x.proof"});
+    EXPECT_EQ(wrong.status, 1);
+    EXPECT_EQ(wrong.error, "/nowhere/x.proof: the file can't be read\n");
+    const std::string sentence = "line 1 is annotated otherwise than its record, Detach, says\n";
+    EXPECT_TRUE(wrong.output.ends_with(forged + ": wrong: " + sentence));
+    EXPECT_EQ(Call({"check", file, "/nowhere/x.proof"}).status, 2);
+    EXPECT_EQ(Call({"run", "--check", "-"}, "open " + Quoted(forged)).error, "-:1: " + sentence);
+    EXPECT_EQ(Call({"run", "-"}, "open " + Quoted(forged)).status, 0);
 }
 
 TEST(CommandLine, DumpOpensAProof) {

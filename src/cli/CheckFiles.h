@@ -1,0 +1,26 @@
+// Proof files held against the second checker.
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "check/Check.h"
+
+namespace tessaryn {
+
+struct CheckRequest {
+    bool asJson = false;
+    bool allLines = false;  // tell of each line what it rests on
+    std::vector<std::string> files;
+};
+
+// Prints a line for each file, or a JSON object. Exit status: 0 all accepted, 1 one refused, 2 none
+// refused but one declined, or not to be read.
+int CheckFiles(const CheckRequest& request, std::ostream& out, std::ostream& err);
+
+// Nothing if it can't be read. As much of it as the editor would read.
+std::optional<check::CheckedProof> CheckFile(const std::string& path);
+
+}  // namespace tessaryn
