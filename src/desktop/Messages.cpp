@@ -67,16 +67,15 @@ class Note : public QLabel {
         move(box == nullptr ? Beside(PlaceOfInput()) : Outside(*box));
         show();
         raise();
+        explained_ = qobject_cast<const QMessageBox*>(box);
         wait_.start(ShownFor + PerCharacter * static_cast<int>(reason.size()));
-        // What explains a message box stays for as long as that is open.
-        if (qobject_cast<const QMessageBox*>(box) != nullptr) wait_.stop();
     }
 
     bool Stands() const { return !isHidden() && fade_.state() != QAbstractAnimation::Running; }
 
     void Fade() {
         wait_.stop();
-        if (!Stands()) return;
+        if (!Stands() || (explained_ && explained_->isVisible())) return;
         fade_.setStartValue(windowOpacity());
         fade_.start();
     }
@@ -132,6 +131,7 @@ class Note : public QLabel {
         });
     }
 
+    QPointer<const QMessageBox> explained_;  // the note stays for as long as that is open
     QTimer wait_;
     QPropertyAnimation fade_;
 };

@@ -10,7 +10,7 @@ namespace tessaryn {
 // the text size Large.
 QFont TellingFont();
 
-void FadeNote();      // lets it go; the user has moved on
+void FadeNote();      // lets it go, unless it explains a message box that is open
 QString NoteShown();  // its text, "" if there is none
 bool NoteStands();    // one is in sight and has not been let go
 void ForgetNote();    // at the end, while there is still an application

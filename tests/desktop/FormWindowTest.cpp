@@ -343,14 +343,18 @@ TEST(FormWindow, AFaultInTheLogicIsToldAndLeavesTheWindowUsable) {
               "cancelled");
 }
 
-TEST(Messages, AQuestionHasItsReasonBesideItAndEscMeansNo) {
+TEST(Messages, AQuestionHasItsReasonBesideItUntilEscWhichMeansNo) {
     Answer answer = Answer::Yes;
     Beep("why");
     MsgBox({"Go on?", "WARNING", Buttons::YesNo, Answer::Yes}, [&](Answer a) { answer = a; });
     QApplication::processEvents();
     EXPECT_EQ(NoteShown(), QStringLiteral("why"));
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Tab);
+    FadeNote();  // its time is over
+    EXPECT_TRUE(NoteStands());
     QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
     EXPECT_EQ(answer, Answer::No);
+    EXPECT_FALSE(NoteStands());
 }
 
 // The selection grows at each tick while the pointer is held at the right edge, and the display
