@@ -8,6 +8,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/HelpViewer.h"
 #include "desktop/PaintedText.h"
+#include "output/SavingOver.h"
 
 namespace tessaryn {
 
@@ -58,6 +59,15 @@ class OpenDialogue : public QFileDialog {
     FileMode lastMode_;
 };
 
+// The dialogue of a desktop environment asks about the name as it was typed, which gets its ending
+// only then; the toolkit's own asks about the name with its ending.
+bool LeadsOverAFileUnasked(QFileDialog& dialogue) {
+    const QString path = dialogue.selectedFiles().value(0);
+    if (dialogue.layout() != nullptr || !QFileInfo(path).isFile()) return false;
+    dialogue.setDefaultSuffix(QString());
+    return dialogue.selectedFiles().value(0) != path;
+}
+
 // Deletes itself once it has been answered.
 void Run(QFileDialog& dialogue, const CommonDialog& dialog,
          std::function<void(const ChosenFile&)> reply) {
@@ -92,7 +102,16 @@ void PresentSave(const CommonDialog& dialog, std::function<void(const ChosenFile
     dialogue.setFileMode(QFileDialog::AnyFile);
     dialogue.setDefaultSuffix(Suffix(dialog.Filter));
     dialogue.setOption(QFileDialog::DontConfirmOverwrite, !dialog.OverwritePrompt);
-    Run(dialogue, dialog, std::move(reply));
+    Run(dialogue, dialog, [&dialogue, dialog, reply](const ChosenFile& chosen) {
+        if (!chosen || !dialog.OverwritePrompt || !LeadsOverAFileUnasked(dialogue)) {
+            return reply(chosen);
+        }
+        CommonDialog again = dialog;
+        again.FileName = *chosen;
+        MsgBox(MayReplace(*chosen), [chosen, again, reply](Answer answer) {
+            answer == Answer::Yes ? reply(chosen) : PresentSave(again, reply);
+        });
+    });
 }
 
 }  // namespace tessaryn

@@ -41,8 +41,12 @@ bool HoldsWhatWasSeen(const std::string& path) {
     return file.Print() == SeenProofFile.print;
 }
 
-void AskToSaveOver(const std::string& whatIsThere, EventHandler save, EventHandler otherwise) {
-    Ask({whatIsThere + " Save over it?", "WARNING", Buttons::YesNo, Answer::No},
+Message MaySaveOver(const std::string& whatIsThere) {
+    return {whatIsThere + " Save over it?", "WARNING", Buttons::YesNo, Answer::No};
+}
+
+void AskToSaveOver(Message question, EventHandler save, EventHandler otherwise) {
+    Ask(std::move(question),
         [save = std::move(save), otherwise = std::move(otherwise)](Answer answer) {
             if (answer == Answer::Yes) return save();
             OperationCancelled = true;
@@ -61,13 +65,17 @@ SeenFile AsWritten(const std::string& path, const std::string& bytes) {
 void SaveUnlessChanged(EventHandler save, EventHandler otherwise) {
     const bool seen = IsSameFile(ProofFileName, SeenProofFile.path) && IsFile(ProofFileName);
     if (!seen || HoldsWhatWasSeen(ProofFileName)) return save();
-    AskToSaveOver("The file was changed by another program.", std::move(save),
+    AskToSaveOver(MaySaveOver("The file was changed by another program."), std::move(save),
                   std::move(otherwise));
+}
+
+Message MayReplace(const std::string& name) {
+    return MaySaveOver("The file " + name + " exists already.");
 }
 
 void ReplaceIfWanted(const std::string& name, EventHandler save, EventHandler otherwise) {
     if (IsSameFile(name, ProofFileName) || !IsFile(name)) return save();
-    AskToSaveOver("The file " + name + " exists already.", std::move(save), std::move(otherwise));
+    AskToSaveOver(MayReplace(name), std::move(save), std::move(otherwise));
 }
 
 }  // namespace tessaryn

@@ -6,6 +6,7 @@
 
 #include "platform/Controls.h"
 #include "platform/Fingerprint.h"
+#include "platform/Questions.h"
 
 namespace tessaryn {
 
@@ -25,5 +26,8 @@ void SaveUnlessChanged(EventHandler save, EventHandler otherwise);
 
 // The same for a file that is not the open proof's, under a name that no dialogue has asked about.
 void ReplaceIfWanted(const std::string& name, EventHandler save, EventHandler otherwise);
+
+// What that asks.
+Message MayReplace(const std::string& name);
 
 }  // namespace tessaryn
