@@ -14,7 +14,7 @@ std::string NewNameBut(const Step& step, std::string_view introduced) {
     for (std::size_t i = 0; i < step.names.size(); ++i) {
         const int name = step.names[i];
         if (step.scope.FirstUse(name) != 0) continue;
-        if (step.reds[i] != 0 && step.scope.FirstEver(name) != 0) continue;
+        if (step.reds[i] != 0 && step.scope.MayHaveBeenInUse(name)) continue;
         if (step.terms.NameText(name) == introduced) continue;
         return "the name " + std::string(step.terms.NameText(name)) +
                " is in no line in force ahead of it";

@@ -11,11 +11,13 @@ void Scope::Enter(std::span<const int> names, std::span<const char> reds) {
     const int line = Count() + 1;
     inForce_.push_back(1);
     linesInForce_.push_back(line);
-    for (const int name : names) {
-        const auto place = static_cast<std::size_t>(name);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const auto place = static_cast<std::size_t>(names[i]);
         if (uses_.size() <= place) uses_.resize(place * 2 + 16);
-        if (uses_[place].first == 0) uses_[place].first = line;
-        if (uses_[place].firstEver == 0) uses_[place].firstEver = line;
+        Use& use = uses_[place];
+        if (use.first == 0) use.first = line;
+        if (use.firstEver == 0) use.firstEver = line;
+        use.everRed = use.everRed || reds[i] != 0;
     }
     names_.insert(names_.end(), names.begin(), names.end());
     reds_.insert(reds_.end(), reds.begin(), reds.end());
@@ -48,6 +50,12 @@ void Scope::OpenPremise() {
 void Scope::BringIn(int witness) {
     uses_[static_cast<std::size_t>(witness)].witnessLine = Count();
     witnesses_.push_back(witness);
+}
+
+bool Scope::MayHaveBeenInUse(int name) const {
+    const Use use = UseOf(name);
+    if (openPremises_.empty()) return use.everRed;
+    return use.firstEver != 0 && use.firstEver < openPremises_.back();
 }
 
 std::span<const int> Scope::Names(int line) const {

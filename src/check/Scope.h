@@ -33,6 +33,10 @@ class Scope {
     int FirstUse(int name) const { return UseOf(name).first; }
     // The first line of all in which it is free, in force or not; 0 none.
     int FirstEver(int name) const { return UseOf(name).firstEver; }
+    // Whether a name that the record of the next line calls red may have been in use when that was
+    // written: in a line whose block was closed since. If no premise was open then, it was red
+    // there.
+    bool MayHaveBeenInUse(int name) const;
     // The E Spec in force that brought the name in; 0 none.
     int WitnessLine(int name) const { return UseOf(name).witnessLine; }
 
@@ -41,6 +45,7 @@ class Scope {
         int first = 0;
         int witnessLine = 0;
         int firstEver = 0;
+        bool everRed = false;
     };
     Use UseOf(int name) const;
 
