@@ -50,7 +50,7 @@ void BM_ParseByTokens(benchmark::State& state) {
         benchmark::DoNotOptimize(parsed.nodes.data());
     }
     if (!parsed.error.empty()) state.SkipWithError(parsed.error.c_str());
-    const double entries = static_cast<double>(parsed.tokens.size() - 1);
+    const auto entries = static_cast<double>(parsed.tokens.size() - 1);
     state.counters["entries"] = entries;
     state.counters["perToken"] = benchmark::Counter(
         entries, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);

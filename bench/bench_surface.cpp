@@ -32,6 +32,7 @@ struct Content {
 
 std::vector<FormatRun> SevenRuns(int index) {
     std::vector<FormatRun> runs;
+    runs.reserve(7);
     for (int i = 0; i < 7; ++i) {
         runs.push_back(
             {10 * i,

@@ -16,7 +16,7 @@ std::deque<OpenFile> OpenFiles;  // by their numbers; each file is closed before
 
 }  // namespace
 
-InputFile::InputFile(const std::string& path) : number_(-1) {
+InputFile::InputFile(const std::string& path) {
     const auto file = MemoryFiles.find(path);
     if (file == MemoryFiles.end()) return;
     number_ = static_cast<int>(OpenFiles.size());

@@ -65,7 +65,7 @@ struct Reference {
                 token = rest.substr(0, rest.find_first_not_of(more));
             } else if (rest.starts_with("<=>")) {
                 token = "<=>";
-            } else if (std::set<std::string>{"=>", "<=", ">=", "&&", "||"}.count(
+            } else if (std::set<std::string>{"=>", "<=", ">=", "&&", "||"}.contains(
                            rest.substr(0, 2))) {
                 token = rest.substr(0, 2);
             } else if (!In(c, " \t\n\r") && !In(c, "()[]+-*/^_,~`:@=<>&|")) {

@@ -5,8 +5,6 @@
 
 #include "text/Utf8.h"
 
-#include "text/Utf8.h"
-
 namespace tessaryn {
 
 namespace {

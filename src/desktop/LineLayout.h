@@ -65,7 +65,7 @@ class LineLayout {
     void Cut();
     int EndOf(std::size_t piece) const;
     Place PieceOf(int byte) const;
-    Shown& LaidOut(std::size_t piece);
+    Shown& LaidOut(std::size_t number);
 
     RichTextBox& box_;
     int first_;

@@ -131,7 +131,7 @@ CharFormat FormatOf(const QTextCharFormat& shown) {
     if (shown.hasProperty(SurfaceFont)) {
         format.Font = shown.property(SurfaceFont).toString().toStdString();
     }
-    if (shown.fontPointSize() > 0) format.Size = static_cast<int>(shown.fontPointSize() + 0.5);
+    if (shown.fontPointSize() > 0) format.Size = qRound(shown.fontPointSize());
     if (shown.foreground().style() != Qt::NoBrush) {
         format.Color = shown.foreground().color().rgb() & 0xFFFFFF;
     }

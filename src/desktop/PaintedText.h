@@ -37,7 +37,7 @@ std::string StoredText(const QString& shown, const std::string& font);
 QFont FontOf(const CharFormat& format);
 // Carries the surface's font name along, so that FormatOf gives the very same format back.
 QTextCharFormat TextFormat(const CharFormat& format);
-CharFormat FormatOf(const QTextCharFormat& format);
+CharFormat FormatOf(const QTextCharFormat& shown);
 
 // Names the fonts that stand in for those of the surface. Once, at the start.
 void SubstituteFonts();

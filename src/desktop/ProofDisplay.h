@@ -63,11 +63,11 @@ class ProofDisplay : public QAbstractScrollArea {
     // ProofDisplay.cpp: content, layout, painting
     void MeasureFont();
     void UpdateScrollBars();
-    LineLayout& LaidOut(int line);
+    LineLayout& LaidOut(int number);
     int LineTop(int line) const;  // in the viewport
     int LineAtY(int y) const;
     int PositionAt(const QPoint& place, QTextLine::CursorPosition kind);
-    void PaintLine(QPainter& painter, int line);
+    void PaintLine(QPainter& painter, int number);
     void RestartCaret();
 
     // ProofDisplayInput.cpp: caret and selection

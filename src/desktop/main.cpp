@@ -36,8 +36,9 @@ const char* const Usage =
 
 // Options of the program itself; those of the toolkit have been taken out before.
 int Inform(const QString& option) {
-    if (option == QStringLiteral("--help")) return std::puts(Usage) < 0;
-    if (option == QStringLiteral("--version")) return std::puts("tessaryn " TESSARYN_VERSION) < 0;
+    if (option == QStringLiteral("--help")) return std::puts(Usage) < 0 ? 1 : 0;
+    if (option == QStringLiteral("--version"))
+        return std::puts("tessaryn " TESSARYN_VERSION) < 0 ? 1 : 0;
     std::fprintf(stderr, "tessaryn: unknown option %s\n%s", option.toUtf8().constData(), Usage);
     return 2;
 }

@@ -178,7 +178,7 @@ class StatementTable {
     StatementTable CutOffFrom(int line) {
         StatementTable whole = *this;
         count_ = line - 1;
-        const std::size_t kept = static_cast<std::size_t>(count_);
+        const auto kept = static_cast<std::size_t>(count_);
         pages_.resize((kept + PageSize - 1) / PageSize);
         if (kept % PageSize > 0) OwnPage(pages_.size() - 1).statements.resize(kept % PageSize);
         return whole;

@@ -83,7 +83,7 @@ std::string FindMembership(EnteredTerm& term, const std::vector<int>& lines) {
 std::string CheckTerm(const TokenList& clicked, EnteredTerm& term) {
     const ParseRec& root = ParseTable.back();
     if (!IsAlgebraic(root.Rule)) return "Expecting free variable expression";
-    if (const std::string fault = CheckBoundNames(clicked); !fault.empty()) return fault;
+    if (std::string fault = CheckBoundNames(clicked); !fault.empty()) return fault;
     term.isName = root.Rule == Node::Atom;
     term.text = term.isName ? root.Name : NewStmtText;
     const std::vector<int> lines = ActiveLines(InsertionLimit());

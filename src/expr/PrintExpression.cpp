@@ -20,7 +20,7 @@ std::vector<bool> BreaksOf(const std::string& source, const TokenList& tokens) {
     if (source.find('\n') == source.npos) return breaks;
     for (size_t i = 1; i < tokens.size(); i++) {
         if (!IsConnective(KindOf(tokens[i].Token))) continue;
-        const size_t position = static_cast<size_t>(tokens[i].Position);
+        const auto position = static_cast<size_t>(tokens[i].Position);
         breaks.push_back(position >= 2 && position <= source.size() &&
                          source[position - 2] == '\n');
     }

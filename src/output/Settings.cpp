@@ -78,7 +78,7 @@ std::string Header(int number) {
     return out.Take();
 }
 
-std::string WithString(std::string content, const std::string& text) {
+std::string WithString(const std::string& content, const std::string& text) {
     ByteWriter out;
     out.Bytes(content);
     out.String(text);
@@ -117,7 +117,7 @@ std::string Environment(const char* name) {
 
 // "" if the user has no directory of that kind.
 std::string UserConfigDir() {
-    const std::string given = Environment("XDG_CONFIG_HOME");
+    std::string given = Environment("XDG_CONFIG_HOME");
     if (given.starts_with('/')) return given;
     const std::string home = Environment("HOME");
     return home.empty() ? "" : home + "/.config";
@@ -243,7 +243,7 @@ std::string FindAppPath(const std::string& programDir) {
     const std::string config = UserConfigDir();
     if (config.empty()) return "";
     std::error_code error;
-    const std::string own = config + "/tessaryn";
+    std::string own = config + "/tessaryn";
     if (!fs::exists(own, error) || fs::is_empty(own, error)) Deliver(own);
     return own;
 }

@@ -25,7 +25,7 @@ class InputFile {
     const Fingerprint& Print() const { return print_; }  // of what was read
 
   private:
-    int number_;
+    int number_ = -1;
     std::uint64_t size_ = 0;
     Fingerprint print_;
 };

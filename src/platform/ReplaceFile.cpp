@@ -151,8 +151,8 @@ bool KeepAccessList(int file, const fs::path& old) {
 // Owner, group, access list and mode of the old file, as far as the system lets them be kept. A
 // group that is not the old one gets no more than everybody has.
 bool KeepAttributes(int file, const fs::path& old, const struct stat& info) {
-    constexpr uid_t SameUser = static_cast<uid_t>(-1);
-    constexpr gid_t SameGroup = static_cast<gid_t>(-1);
+    constexpr auto SameUser = static_cast<uid_t>(-1);
+    constexpr auto SameGroup = static_cast<gid_t>(-1);
     mode_t mode = info.st_mode & 07777U;
     if (fchown(file, info.st_uid, SameGroup) != 0) mode &= 0777U;
     const bool groupKept = fchown(file, SameUser, info.st_gid) == 0;

@@ -144,9 +144,9 @@ void RichTextBox::LoadFromEditor(std::string text, const std::vector<FormatRun>&
     Select(start, CharEnd(GetText(), end) - start);
 }
 
-void RichTextBox::SetBlocks(std::string text, const std::vector<Block>& blocks,
+void RichTextBox::SetBlocks(std::string_view text, const std::vector<Block>& blocks,
                             BlockFormatter formatter) {
-    Record(content_.SetBlocks(std::move(text), blocks, std::move(formatter)));
+    Record(content_.SetBlocks(text, blocks, std::move(formatter)));
     Select(CharStart(GetText(), Limited(selStart_)), 0);
 }
 

@@ -36,7 +36,10 @@ struct RichTextBox : Control {
             (box_.*Set)(value);
             return *this;
         }
-        Property& operator=(const Property& other) { return *this = other(); }
+        Property& operator=(const Property& other) {
+            (box_.*Set)(other());
+            return *this;
+        }
 
       private:
         RichTextBox& box_;
@@ -134,7 +137,8 @@ struct RichTextBox : Control {
     // when first needed. Until the next SetBlocks, SetText or SetTextRTF the formatter must stay
     // valid and give a block the runs that belong to its key: what it reads may change only once
     // the block has been reformatted.
-    void SetBlocks(std::string text, const std::vector<Block>& blocks, BlockFormatter formatter);
+    void SetBlocks(std::string_view text, const std::vector<Block>& blocks,
+                   BlockFormatter formatter);
     // The same for blocks first to last - 1 alone (0-based); `text` is what stands there then, and
     // the new blocks cover it. The formatter stays, and knows all blocks by their new places.
     void SetBlocks(std::size_t first, std::size_t last, std::string_view text,

@@ -35,7 +35,7 @@ std::string CheckOperand() {
 
 // Writes what the rule makes of the clicked statement and the entry, or gives the message.
 std::string WriteWithOperand(Outcome (*infer)(const Expression&, const Expression&)) {
-    if (const std::string fault = CheckOperand(); !fault.empty()) return fault;
+    if (std::string fault = CheckOperand(); !fault.empty()) return fault;
     NewStmtText = infer(Second, InHand).texts[0];
     Parse();
     if (!ParseError.empty()) return "Incompatible antecedent and consequent";

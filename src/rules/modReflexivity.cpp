@@ -19,7 +19,7 @@ namespace {
 
 std::string AcceptReflexTerm() {
     EnteredTerm term;
-    if (const std::string fault = CheckTerm({}, term); !fault.empty()) return fault;
+    if (std::string fault = CheckTerm({}, term); !fault.empty()) return fault;
     Arg1Pending = term.isName ? 0 : term.footing;
     Arg2Pending = 0;
     NewStmtText = Reflex(InHand).texts[0];

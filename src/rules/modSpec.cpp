@@ -74,7 +74,7 @@ void ContinueESpec() {
 
 std::string AcceptUSpec() {
     EnteredTerm term;
-    if (const std::string fault = CheckTerm(TokenTable2, term); !fault.empty()) return fault;
+    if (std::string fault = CheckTerm(TokenTable2, term); !fault.empty()) return fault;
     const bool restsOnFooting = !term.isName && BindsSomething(Second);
     NewStmtText = Specify(Second, InHand).texts[0];
     Arg2Pending = restsOnFooting ? term.footing : 0;

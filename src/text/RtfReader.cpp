@@ -239,7 +239,7 @@ class Reader {
 
     void ObeyWord(std::string_view word, std::optional<int> number) {
         if (starred && word == "tessaryn") ownWriter = true;
-        if (starred || skippedDestinations.count(word) > 0) {
+        if (starred || skippedDestinations.contains(word)) {
             group.destination = Destination::Skip;
             return;
         }

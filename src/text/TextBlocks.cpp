@@ -304,7 +304,7 @@ std::optional<std::vector<TextBlocks::Block>> Fitted(const std::vector<TextBlock
 
 }  // namespace
 
-SurfaceChange TextBlocks::SetBlocks(std::string newText, const std::vector<Block>& newBlocks,
+SurfaceChange TextBlocks::SetBlocks(std::string_view newText, const std::vector<Block>& newBlocks,
                                     Formatter newFormatter) {
     const auto fitted = Fitted(newBlocks, static_cast<int>(newText.size()));
     formatter = std::move(newFormatter);

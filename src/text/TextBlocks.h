@@ -61,7 +61,7 @@ struct TextBlocks {
     SurfaceChange Replace(int start, int removed, std::string_view newText,
                           const std::vector<FormatRun>& runs);
     SurfaceChange Reformat(int start, int length, const Reformatter& reformatter);
-    SurfaceChange SetBlocks(std::string newText, const std::vector<Block>& newBlocks,
+    SurfaceChange SetBlocks(std::string_view newText, const std::vector<Block>& newBlocks,
                             Formatter newFormatter);
     // The same for blocks first to last - 1 alone (0-based); newText is what stands there then, and
     // the new blocks cover it. The formatter stays.

@@ -39,6 +39,7 @@ bool MakeCanonical(Canonical& stmt) {
 void PutCanonical(const std::vector<Canonical>& texts) {
     const bool names = RuleMode == Rule::ESpec || RuleMode == Rule::USpec;
     std::vector<NewStatement> stmts;
+    stmts.reserve(texts.size());
     for (const Canonical& each : texts) {
         stmts.push_back(
             {RuleMode, Arg1Pending, Arg2Pending, names ? SpecName : "", each.text, each.freeVars});

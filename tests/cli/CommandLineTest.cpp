@@ -117,7 +117,7 @@ TEST(CommandLine, SameComparesPairs) {
 
 // The path of a proof of one line.
 std::string SavedProof(const std::string& name) {
-    const std::string path = ::testing::TempDir() + name;
+    std::string path = ::testing::TempDir() + name;
     EXPECT_EQ(Build(EnterPremise("x @ s") + "save " + Quoted(path) + "\n"), "");
     return path;
 }

@@ -57,7 +57,8 @@ void TypeInto(EntryForm& form, const std::string& text) {
 TEST(Questions, AreAnsweredFromTheTopDown) {
     Headless = {};
     ForgetQuestions();
-    EntryForm outer("Outer"), inner("Inner");
+    EntryForm outer("Outer");
+    EntryForm inner("Inner");
     std::string order;
     const auto asks = [&](char letter) { return [&order, letter] { order += letter; }; };
     ShowModal(outer, asks('o'));

@@ -208,7 +208,9 @@ TEST(ScriptRunner, DumpsTheState) {
                                           "set RTB \"x @ s\"\ndump\ndump\n");
     ASSERT_EQ(result.error, "");
     std::istringstream lines(result.output);
-    std::string empty, full, again;
+    std::string empty;
+    std::string full;
+    std::string again;
     std::getline(lines, empty);
     std::getline(lines, full);
     std::getline(lines, again);
