@@ -6,7 +6,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-private-dev
     libgtest-dev libbenchmark-dev nlohmann-json3-dev fonts-liberation fonts-dejavu-core)
 test_packages=(xvfb xauth)
-check_packages=(clang clang-format libclang-rt-14-dev)
+check_packages=(clang clang-format clang-tidy libclang-rt-14-dev)
 wasm_packages=(emscripten nodejs)
 
 # install_missing PACKAGE...: leaves at once when all are there.
