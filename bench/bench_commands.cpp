@@ -14,6 +14,7 @@
 #include "mainwindow/RuleModes.h"
 #include "menu/ClickTable.h"
 #include "platform/Events.h"
+#include "view/Display.h"
 #include "view/InsertMode.h"
 #include "view/PutStmt.h"
 
@@ -21,40 +22,48 @@ namespace tessaryn {
 namespace {
 
 // The proof is put back, untimed, after each round.
-template <class Command>
-void Measure(benchmark::State& state, Command command) {
+template <class Prepare, class Command>
+void Measure(benchmark::State& state, Prepare prepare, Command command) {
     const int count = static_cast<int>(state.range(0));
     MakeLargeProof(count);
     const KeptProof proof;
     for (auto _ : state) {
-        command(count);
-        LookAtScreen();
         state.PauseTiming();
         proof.PutBack();
         Headless.Beeps.clear();
+        prepare();
+        LookAtScreen();
         state.ResumeTiming();
+        command();
+        LookAtScreen();
     }
     state.SetComplexityN(count);
 }
 
+void JoinLastLines() {
+    StartClickRule(Rule::Join);
+    ClickStatement(StmtCount - 1);
+    ClickStatement(StmtCount);
+}
+
+// As one of many: what was put back shares its bytes with the one that is kept, and the first line
+// written behind it parts the two.
 void JoinAtEnd(benchmark::State& state) {
-    Measure(state, [](int count) {
-        StartClickRule(Rule::Join);
-        ClickStatement(count - 1);
-        ClickStatement(count);
-    });
+    Measure(state, JoinLastLines, JoinLastLines);
 }
 
 void InsertPremiseAtLine2(benchmark::State& state) {
-    Measure(state, [](int) {
-        InsertMode = true;
-        InsertLine = 2;
-        RuleMode = Rule::Premise;
-        Arg1Pending = Arg2Pending = 0;
-        NewStmtText = "S(v) & v @ w";
-        WriteStatement();
-        InsertMode = false;
-    });
+    Measure(
+        state, [] { ResetFonts(); },
+        [] {
+            InsertMode = true;
+            InsertLine = 2;
+            RuleMode = Rule::Premise;
+            Arg1Pending = Arg2Pending = 0;
+            NewStmtText = "S(v) & v @ w";
+            WriteStatement();
+            InsertMode = false;
+        });
 }
 
 void UndoOfJoin(benchmark::State& state) {

@@ -1,5 +1,7 @@
 #include "document/ActiveLines.h"
 
+#include <algorithm>
+
 namespace tessaryn {
 
 int LineBehind(int line, const Document& doc) {
@@ -20,23 +22,29 @@ std::vector<int> ActiveLines(int first, int limit, const Document& doc) {
     return lines;
 }
 
+namespace {
+
+// The next edge of a block on the walk past closed ones. Their Conclusions don't count.
+int NextEdge(int edge, const StatementTable& table) {
+    return table.BlockEdgeFrom(std::max(edge, table.BlockEnd(edge)) + 1);
+}
+
+}  // namespace
+
 bool IsActive(int line, int limit, const Document& doc) {
     if (line >= limit) return false;
     const StatementTable& table = doc.StmtTable;
-    for (int edge = table.BlockEdgeFrom(1); edge <= line;) {
-        const int behind = LineBehind(edge, doc);
-        if (line < behind && IsClosedPremise(At(edge, doc))) return false;
-        edge = table.BlockEdgeFrom(behind);
+    for (int edge = table.BlockEdgeFrom(1); edge <= line; edge = NextEdge(edge, table)) {
+        if (line < table.BlockEnd(edge)) return false;
     }
     return true;
 }
 
 int InnermostOpenPremise(int limit, const Document& doc) {
     int innermost = 0;
-    const StatementTable& table = doc.StmtTable;
-    for (int edge = table.BlockEdgeFrom(1); edge < limit;) {
+    for (int edge = doc.StmtTable.BlockEdgeFrom(1); edge < limit;
+         edge = NextEdge(edge, doc.StmtTable)) {
         if (IsOpenPremise(At(edge, doc))) innermost = edge;
-        edge = table.BlockEdgeFrom(LineBehind(edge, doc));
     }
     return innermost;
 }

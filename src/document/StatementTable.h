@@ -2,8 +2,11 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <concepts>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <memory>
 #include <optional>
@@ -70,33 +73,32 @@ class StatementTable {
 
     // The nearest Premise or Conclusion from `line` on; behind the last line if there is none.
     int BlockEdgeFrom(int line) const {
-        while (line <= count_) {
-            const std::size_t page = (static_cast<std::size_t>(line) - 1) / PageSize;
-            const int end = std::min(count_, static_cast<int>((page + 1) * PageSize));
-            if (!HasBlockEdge(*pages_[page])) {
-                line = end + 1;
-                continue;
-            }
-            for (; line <= end; ++line) {
-                if (IsBlockEdge((*this)[line])) return line;
-            }
+        const std::size_t index = static_cast<std::size_t>(line) - 1;
+        std::size_t skipped = index % PageSize;
+        for (std::size_t page = index / PageSize; page < pages_.size(); ++page, skipped = 0) {
+            const std::uint64_t edges = BlocksOf(*pages_[page]).edges >> skipped;
+            if (edges == 0) continue;
+            return LineAt(page, skipped + static_cast<std::size_t>(std::countr_zero(edges)));
         }
         return count_ + 1;
     }
     // The nearest one up to `line`; 0 if there is none.
     int BlockEdgeUpTo(int line) const {
-        while (line > 0) {
-            const std::size_t page = (static_cast<std::size_t>(line) - 1) / PageSize;
-            const int start = static_cast<int>(page * PageSize) + 1;
-            if (!HasBlockEdge(*pages_[page])) {
-                line = start - 1;
-                continue;
-            }
-            for (; line >= start; --line) {
-                if (IsBlockEdge((*this)[line])) return line;
-            }
+        if (line < 1) return 0;
+        const std::size_t index = static_cast<std::size_t>(line) - 1;
+        std::size_t last = index % PageSize;
+        for (std::size_t page = index / PageSize + 1; page-- > 0; last = PageSize - 1) {
+            const std::uint64_t edges = BlocksOf(*pages_[page]).edges << (PageSize - 1 - last);
+            if (edges == 0) continue;
+            return LineAt(page, last - static_cast<std::size_t>(std::countl_zero(edges)));
         }
         return 0;
+    }
+
+    // The Conclusion that closes the block of a Premise; 0 if none does, or `line` is no Premise.
+    int BlockEnd(int line) const {
+        const std::size_t index = static_cast<std::size_t>(line) - 1;
+        return BlocksOf(*pages_[index / PageSize]).ends[index % PageSize];
     }
 
     // How many lines at the head, or at the end if both have as many lines, stand in pages that the
@@ -143,20 +145,31 @@ class StatementTable {
 
   private:
     static constexpr std::size_t PageSize = 64;
+    // What a walk over blocks asks of a page, apart from the statements: a walk through a long
+    // proof would wait for each of them to come out of main memory.
+    struct Blocks {
+        std::uint64_t edges = 0;           // a bit for each Premise and Conclusion
+        std::array<int, PageSize> ends{};  // of the closed Premises
+    };
     struct Page {
         std::vector<Statement> statements;
-        std::optional<bool> hasBlockEdge;  // kept once it has been asked for
+        std::optional<Blocks> blocks;  // kept once it has been asked for
     };
 
-    static bool IsBlockEdge(const Statement& stmt) {
-        return stmt.Rule == Rule::Premise || stmt.Rule == Rule::Conclusion;
-    }
-    static bool HasBlockEdge(Page& page) {
-        if (!page.hasBlockEdge) {
-            page.hasBlockEdge =
-                std::any_of(page.statements.begin(), page.statements.end(), IsBlockEdge);
+    static const Blocks& BlocksOf(Page& page) {
+        if (page.blocks) return *page.blocks;
+        Blocks& blocks = page.blocks.emplace();
+        for (std::size_t i = 0; i < page.statements.size(); ++i) {
+            const Statement& stmt = page.statements[i];
+            if (IsClosedPremise(stmt)) blocks.ends[i] = stmt.Arg1;
+            if (stmt.Rule == Rule::Premise || IsConclusion(stmt)) {
+                blocks.edges |= std::uint64_t{1} << i;
+            }
         }
-        return *page.hasBlockEdge;
+        return blocks;
+    }
+    static int LineAt(std::size_t page, std::size_t place) {
+        return static_cast<int>(page * PageSize + place) + 1;
     }
 
     void AddPage() {
@@ -171,7 +184,7 @@ class StatementTable {
             own->statements = page->statements;
             page = std::move(own);
         }
-        page->hasBlockEdge.reset();
+        page->blocks.reset();
         return *page;
     }
     // Drops the lines from `line` on, and gives the table as it was.
