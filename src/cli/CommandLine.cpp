@@ -149,7 +149,7 @@ int DumpCommand(const Words& words, const Streams& streams) {
     if (words.size() != 1) return ReportWrongUse(streams);
     if (!OpenProof(words[0], streams.err)) return 1;
     Proof.RTB.SelStart = 0;
-    streams.out << StateAsJson(0, 0) << '\n';
+    WriteState(0, 0, streams.out);
     return 0;
 }
 

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
+#include "cli/JsonWriter.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
 #include "expr/Same.h"
@@ -14,44 +15,40 @@ namespace tessaryn {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+using Json = nlohmann::json;
 
-Json TokensAsJson(const TokenList& tokens) {
-    Json rows = Json::array();
-    for (std::size_t i = 1; i < tokens.size(); ++i) {
-        const TokenRec& token = tokens[i];
-        rows.push_back({token.Token, token.Position, token.TPtr, token.DPtr, token.Bound});
-    }
-    return rows;
-}
-
-Json NodesAsJson(const NodeList& nodes) {
-    Json rows = Json::array();
-    for (std::size_t i = 1; i < nodes.size(); ++i) {
-        const ParseRec& node = nodes[i];
-        rows.push_back({node.Rule, node.Name, node.Ptr1, node.Ptr2});
-    }
-    return rows;
-}
-
-std::string ParseAsJson(const std::string& text) {
+void WriteParse(const std::string& text, std::ostream& out) {
     const Expression expression = ParseExpression(text);
-    Json object = {{"error", ToUtf8(expression.error)}, {"errorPos", expression.errorPos}};
-    if (expression.error.empty()) {
-        object["tokens"] = TokensAsJson(expression.tokens);
-        object["nodes"] = NodesAsJson(expression.nodes);
-        object["canonical"] = PrintExpression(expression);
-        object["freeVars"] = FreeVarsOf(expression);
-    }
-    return object.dump();
+    JsonWriter json(out);
+    json.Object([&] {
+        json.Member("error", ToUtf8(expression.error));
+        json.Member("errorPos", expression.errorPos);
+        if (!expression.error.empty()) return;
+        json.Key("tokens");
+        json.List([&] {
+            for (std::size_t i = 1; i < expression.tokens.size(); ++i) {
+                const TokenRec& token = expression.tokens[i];
+                json.Row(token.Token, token.Position, token.TPtr, token.DPtr, token.Bound);
+            }
+        });
+        json.Key("nodes");
+        json.List([&] {
+            for (std::size_t i = 1; i < expression.nodes.size(); ++i) {
+                const ParseRec& node = expression.nodes[i];
+                json.Row(node.Rule, node.Name, node.Ptr1, node.Ptr2);
+            }
+        });
+        json.Member("canonical", PrintExpression(expression));
+        json.Member("freeVars", FreeVarsOf(expression));
+    });
 }
 
 bool IsPair(const Json& value) {
     return value.is_array() && value.size() == 2 && value[0].is_string() && value[1].is_string();
 }
 
-// answer: gives the output line for a line's value, false if that has the wrong shape.
-using Answerer = std::function<bool(const Json& value, std::string& line)>;
+// Writes the answer to a line's value. False, with nothing written, if that has the wrong shape.
+using Answerer = std::function<bool(const Json& value, std::ostream& out)>;
 
 constexpr std::size_t MaxLine = 1U << 22;  // far beyond any expression
 
@@ -74,12 +71,11 @@ int AnswerLines(std::istream& in, std::ostream& out, std::ostream& err, const ch
     int number = 0;
     for (std::string line; NextLine(in, line);) {
         ++number;
-        std::string reply;
-        if (!answer(Json::parse(line, nullptr, false), reply)) {
+        if (!answer(Json::parse(line, nullptr, false), out)) {
             err << "stdin:" << number << ": the line is no " << shape << '\n';
             return 1;
         }
-        out << reply << '\n';
+        out << '\n';
     }
     return 0;
 }
@@ -87,20 +83,20 @@ int AnswerLines(std::istream& in, std::ostream& out, std::ostream& err, const ch
 }  // namespace
 
 int PrintParses(std::istream& in, std::ostream& out, std::ostream& err) {
-    return AnswerLines(in, out, err, "JSON string", [](const Json& value, std::string& line) {
+    return AnswerLines(in, out, err, "JSON string", [](const Json& value, std::ostream& to) {
         if (!value.is_string()) return false;
-        line = ParseAsJson(value.get<std::string>());
+        WriteParse(value.get_ref<const std::string&>(), to);
         return true;
     });
 }
 
 int PrintComparisons(std::istream& in, std::ostream& out, std::ostream& err) {
     return AnswerLines(
-        in, out, err, "JSON array of two strings", [](const Json& value, std::string& line) {
+        in, out, err, "JSON array of two strings", [](const Json& value, std::ostream& to) {
             if (!IsPair(value)) return false;
             const bool same =
                 SameExpressions(value[0].get<std::string>(), value[1].get<std::string>());
-            line = same ? "true" : "false";
+            to << (same ? "true" : "false");
             return true;
         });
 }

@@ -173,7 +173,7 @@ void Show(ScriptRun& run, Arguments& arguments) {
 
 void Dump(ScriptRun& run, Arguments& arguments) {
     arguments.End();
-    run.out << StateAsJson(run.beepsDumped, run.messagesDumped) << '\n';
+    WriteState(run.beepsDumped, run.messagesDumped, run.out);
     run.beepsDumped = Headless.Beeps.size();
     run.messagesDumped = Headless.Messages.size();
 }

@@ -1,10 +1,10 @@
 #include "cli/StateDump.h"
 
 #include <cstdio>
-#include <nlohmann/json.hpp>
 
 #include "cli/FormState.h"
 #include "cli/HeadlessPlatform.h"
+#include "cli/JsonWriter.h"
 #include "cli/Keyboard.h"
 #include "document/Document.h"
 #include "mainwindow/ProgramState.h"
@@ -17,35 +17,27 @@ namespace tessaryn {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-Json StatementAsJson(const Statement& stmt) {
-    return {{"Rule", stmt.Rule},
-            {"Arg1", stmt.Arg1},
-            {"Arg2", stmt.Arg2},
-            {"SpecName", ToUtf8(stmt.SpecName)},
-            {"FreeVars", ToUtf8(stmt.FreeVars)},
-            {"FixedVars", ToUtf8(stmt.FixedVars)},
-            {"SpareVars", ToUtf8(stmt.SpareVars)},
-            {"Visible", stmt.Visible},
-            {"StartLine", stmt.StartLine},
-            {"EndUserComment", stmt.EndUserComment},
-            {"StartStmt", stmt.StartStmt},
-            {"EndStmt", stmt.EndStmt},
-            {"StartRule", stmt.StartRule},
-            {"EndRule", stmt.EndRule},
-            {"ViewerStartLine", stmt.ViewerStartLine},
-            {"Flagged", stmt.Flagged},
-            {"NewNumber", stmt.NewNumber},
-            {"Highlight", stmt.Highlight}};
-}
-
-Json StatementsAsJson() {
-    Json statements = Json::array();
-    for (int number = 1; number <= StmtCount; ++number) {
-        statements.push_back(StatementAsJson(StmtTable[number]));
-    }
-    return statements;
+void WriteStatement(const Statement& stmt, JsonWriter& json) {
+    json.Object([&] {
+        json.Member("Rule", stmt.Rule);
+        json.Member("Arg1", stmt.Arg1);
+        json.Member("Arg2", stmt.Arg2);
+        json.Member("SpecName", ToUtf8(stmt.SpecName));
+        json.Member("FreeVars", ToUtf8(stmt.FreeVars));
+        json.Member("FixedVars", ToUtf8(stmt.FixedVars));
+        json.Member("SpareVars", ToUtf8(stmt.SpareVars));
+        json.Member("Visible", stmt.Visible);
+        json.Member("StartLine", stmt.StartLine);
+        json.Member("EndUserComment", stmt.EndUserComment);
+        json.Member("StartStmt", stmt.StartStmt);
+        json.Member("EndStmt", stmt.EndStmt);
+        json.Member("StartRule", stmt.StartRule);
+        json.Member("EndRule", stmt.EndRule);
+        json.Member("ViewerStartLine", stmt.ViewerStartLine);
+        json.Member("Flagged", stmt.Flagged);
+        json.Member("NewNumber", stmt.NewNumber);
+        json.Member("Highlight", stmt.Highlight);
+    });
 }
 
 std::string ColourName(Colour colour) {
@@ -54,17 +46,20 @@ std::string ColourName(Colour colour) {
     return name;
 }
 
-Json ViewAsJson(RichTextBox& view) {
-    Json runs = Json::array();
-    for (const FormatRun& run : view.Runs()) {
-        const CharFormat& format = run.format;
-        runs.push_back({run.start, run.length, format.Font, format.Size, ColourName(format.Color),
-                        format.Bold});
-    }
-    return {{"text", ToUtf8(view.GetText())},
-            {"selStart", view.GetSelStart()},
-            {"selLength", view.GetSelLength()},
-            {"runs", runs}};
+void WriteView(RichTextBox& view, JsonWriter& json) {
+    json.Object([&] {
+        json.Member("text", ToUtf8(view.GetText()));
+        json.Member("selStart", view.GetSelStart());
+        json.Member("selLength", view.GetSelLength());
+        json.Key("runs");
+        json.List([&] {
+            for (const FormatRun& run : view.Runs()) {
+                const CharFormat& format = run.format;
+                json.Row(run.start, run.length, format.Font, format.Size, ColourName(format.Color),
+                         format.Bold);
+            }
+        });
+    });
 }
 
 bool IsLabel(Control& control) {
@@ -80,69 +75,77 @@ bool HoldsValue(Control& control) {
 }
 
 // Labels first, then what the user can fill in.
-Json ControlsAsJson(const Form& form) {
-    Json controls = Json::object();
+void WriteControls(const Form& form, JsonWriter& json) {
     for (auto* const belongs : {IsLabel, HoldsValue}) {
         for (Control* control : form.Controls) {
-            if (belongs(*control)) controls[control->Name] = ToUtf8(ControlText(*control));
+            if (belongs(*control)) json.Member(control->Name, ToUtf8(ControlText(*control)));
         }
     }
-    return controls;
 }
 
-Json FormAsJson(const Form& form) {
-    if (&form == &Proof) return nullptr;
+void WriteForm(const Form& form, JsonWriter& json) {
+    if (&form == &Proof) return json.Null();
     const Control* focus = FocusOf(form);
-    return {{"name", form.Name},
-            {"caption", ToUtf8(form.Caption)},
-            {"focus", focus == nullptr ? "" : focus->Name},
-            {"controls", ControlsAsJson(form)}};
+    json.Object([&] {
+        json.Member("name", form.Name);
+        json.Member("caption", ToUtf8(form.Caption));
+        json.Member("focus", focus == nullptr ? "" : focus->Name);
+        json.Key("controls");
+        json.Object([&] { WriteControls(form, json); });
+    });
 }
 
-Json ReasonsAsJson(std::size_t from) {
-    Json reasons = Json::array();
-    for (std::size_t i = from; i < Headless.Beeps.size(); ++i) {
-        reasons.push_back(ToUtf8(Headless.Beeps[i]));
-    }
-    return reasons;
-}
-
-Json MessagesAsJson(std::size_t from) {
-    Json messages = Json::array();
-    for (std::size_t i = from; i < Headless.Messages.size(); ++i) {
-        const MessageShown& message = Headless.Messages[i];
-        messages.push_back({{"title", ToUtf8(message.title)},
-                            {"text", ToUtf8(message.text)},
-                            {"answer", AnswerName(message.answer)}});
-    }
-    return messages;
+void WriteMessage(const MessageShown& message, JsonWriter& json) {
+    json.Object([&] {
+        json.Member("title", ToUtf8(message.title));
+        json.Member("text", ToUtf8(message.text));
+        json.Member("answer", AnswerName(message.answer));
+    });
 }
 
 }  // namespace
 
-std::string StateAsJson(std::size_t beepsFrom, std::size_t messagesFrom) {
-    const Json state = {{"title", ToUtf8(Proof.Caption)},
-                        {"status", ToUtf8(BoxText(Proof.StatusLine))},
-                        {"ruleMode", RuleMode},
-                        {"firstClick", FirstClick},
-                        {"insertMode", InsertMode},
-                        {"insertLine", InsertLine},
-                        {"insertLabel", Proof.InsertLineLabel.Caption},
-                        {"insertChecked", Proof.optInsert.Checked},
-                        {"proofChanged", ProofChanged},
-                        {"canUndo", Proof.optUndo.Enabled},
-                        {"canRedo", Proof.optRedo.Enabled},
-                        {"fileName", ToUtf8(ProofFileName)},
-                        {"caption", ToUtf8(ProofCaption)},
-                        {"introEnd", IntroEnd},
-                        {"proofText", ToUtf8(std::string(ProofText.View()))},
-                        {"statements", StatementsAsJson()},
-                        {"view", ViewAsJson(Proof.RTB)},
-                        {"form", FormAsJson(TopForm())},
-                        {"beeps", Headless.Beeps.size() - beepsFrom},
-                        {"reasons", ReasonsAsJson(beepsFrom)},
-                        {"messages", MessagesAsJson(messagesFrom)}};
-    return state.dump(-1, ' ', false, Json::error_handler_t::replace);
+void WriteState(std::size_t beepsFrom, std::size_t messagesFrom, std::ostream& out) {
+    JsonWriter json(out);
+    json.Object([&] {
+        json.Member("title", ToUtf8(Proof.Caption));
+        json.Member("status", ToUtf8(BoxText(Proof.StatusLine)));
+        json.Member("ruleMode", RuleMode);
+        json.Member("firstClick", FirstClick);
+        json.Member("insertMode", InsertMode);
+        json.Member("insertLine", InsertLine);
+        json.Member("insertLabel", Proof.InsertLineLabel.Caption);
+        json.Member("insertChecked", Proof.optInsert.Checked);
+        json.Member("proofChanged", ProofChanged);
+        json.Member("canUndo", Proof.optUndo.Enabled);
+        json.Member("canRedo", Proof.optRedo.Enabled);
+        json.Member("fileName", ToUtf8(ProofFileName));
+        json.Member("caption", ToUtf8(ProofCaption));
+        json.Member("introEnd", IntroEnd);
+        json.Member("proofText", ToUtf8(std::string(ProofText.View())));
+        json.Key("statements");
+        json.List([&] {
+            for (int line = 1; line <= StmtCount; ++line) WriteStatement(StmtTable[line], json);
+        });
+        json.Key("view");
+        WriteView(Proof.RTB, json);
+        json.Key("form");
+        WriteForm(TopForm(), json);
+        json.Member("beeps", Headless.Beeps.size() - beepsFrom);
+        json.Key("reasons");
+        json.List([&] {
+            for (std::size_t i = beepsFrom; i < Headless.Beeps.size(); ++i) {
+                json.Value(ToUtf8(Headless.Beeps[i]));
+            }
+        });
+        json.Key("messages");
+        json.List([&] {
+            for (std::size_t i = messagesFrom; i < Headless.Messages.size(); ++i) {
+                WriteMessage(Headless.Messages[i], json);
+            }
+        });
+    });
+    out << '\n';
 }
 
 }  // namespace tessaryn
