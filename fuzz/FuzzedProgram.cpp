@@ -1,14 +1,20 @@
 #include "FuzzedProgram.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <regex>
 
 #include "cli/HeadlessPlatform.h"
 #include "cli/ScriptRunner.h"
+#include "document/DamagedDocument.h"
+#include "document/Document.h"
+#include "document/ProofFile.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "platform/Events.h"
+
+extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 
 namespace tessaryn {
 
@@ -52,6 +58,18 @@ void RunAnyScript(const std::string& script, const std::string& settingsDir) {
     for (const MessageShown& message : Headless.Messages) {
         if (message.title == "INTERNAL ERROR") Require(message.text);
     }
+}
+
+std::size_t ChangedProof(std::uint8_t* data, std::size_t size, std::size_t maxSize, unsigned seed) {
+    const RandomNumber random = RandomNumbers(seed);
+    const std::string bytes(data, data + size);
+    std::optional<Document> proof = random(2) == 0 ? ReadProof(bytes) : std::nullopt;
+    if (!proof || proof->StmtCount == 0) return LLVMFuzzerMutate(data, size, maxSize);
+    Doc = *proof;
+    const std::size_t proofSize = WriteProof().size();
+    DamageDocument(random);
+    const std::string damaged = WriteProof() + bytes.substr(std::min(size, proofSize));
+    return damaged.copy(reinterpret_cast<char*>(data), maxSize);
 }
 
 }  // namespace tessaryn

@@ -1,12 +1,9 @@
 // Any bytes as a proof file: what opens is whole, whatever the user then does, and can be printed,
 // made a page, saved and opened again. Seeds lie in corpus/proof; bytes behind the proof steer the
 // user.
-#include <algorithm>
-
 #include "FuzzedProgram.h"
 #include "MemoryFiles.h"
 #include "cli/HeadlessPlatform.h"
-#include "document/DamagedDocument.h"
 #include "document/Document.h"
 #include "document/ProofFile.h"
 #include "mainwindow/ProgramState.h"
@@ -16,20 +13,9 @@
 
 using namespace tessaryn;
 
-extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
-
-// Half of the changes are such as leave a file that opens.
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
                                                std::size_t maxSize, unsigned seed) {
-    const RandomNumber random = RandomNumbers(seed);
-    const std::string bytes(data, data + size);
-    std::optional<Document> proof = random(2) == 0 ? ReadProof(bytes) : std::nullopt;
-    if (!proof || proof->StmtCount == 0) return LLVMFuzzerMutate(data, size, maxSize);
-    Doc = *proof;
-    const std::size_t proofSize = WriteProof().size();
-    DamageDocument(random);
-    const std::string damaged = WriteProof() + bytes.substr(std::min(size, proofSize));
-    return damaged.copy(reinterpret_cast<char*>(data), maxSize);
+    return ChangedProof(data, size, maxSize, seed);
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -112,6 +112,8 @@ void Tell(const std::string& note) {
     Headless.Notes.push_back(note);
 }
 
+void ProofOpened() {}  // run --check looks after each action
+
 void PresentMessage(const Message& message, std::function<void(Answer)> reply) {
     Answer answer = message.defaultAnswer;
     if (!Headless.Answers.empty()) {

@@ -15,6 +15,7 @@
 #include "output/Settings.h"
 #include "platform/Files.h"
 #include "platform/InputFile.h"
+#include "platform/Platform.h"
 #include "view/Display.h"
 #include "view/InsertMode.h"
 #include "view/Undo.h"
@@ -91,6 +92,7 @@ std::string OpenedOr(const std::string& fileName) {
     Proof.CommonDialog1.FileName.swap(dialogName);
     Proof.Caption.swap(title);
     ProofChanged = false;
+    ProofOpened();
     return "";
 }
 

@@ -30,6 +30,9 @@ void Beep(const std::string& reason);
 // Tells a person what they should know of a command that was done: one sentence, without a beep.
 void Tell(const std::string& note);
 
+// A proof file has been opened and is in the display: whoever wants may look at it in his own time.
+void ProofOpened();
+
 // --- clipboard
 
 void SetClipboard(const Clip& content);  // in place of what was there, in all formats
