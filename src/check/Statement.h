@@ -74,7 +74,7 @@ class StatementReader {
     int Fail(std::string_view error);
     Use& UseOf(int name);
 
-    void Print(int written, std::string& out, bool numbered, int level);
+    void Print(int index, std::string& out, bool numbered, int level);
     void PrintOperand(int written, bool bare, const char* brackets, std::string& out, bool numbered,
                       int level);
     std::string DifferenceFrom(std::string_view text, int tabs);

@@ -59,7 +59,7 @@ TEST(LineLayout, LaysOutWhatIsLookedAt) {
     EXPECT_NEAR(line.Width(), end, 1);
     EXPECT_NEAR(line.XAt(size - 1), end - laid.style.columnWidth, 1);
     EXPECT_EQ(line.ByteAt(end - 1, QTextLine::CursorOnCharacter), size - 1);
-    EXPECT_NEAR(line.ByteAt(end / 2), size / 2, 1);
+    EXPECT_NEAR(line.ByteAt(end / 2), size / 2.0, 1);
     // The characters on either side of a cut are both there, the right one selected.
     QImage picture(200, 40, QImage::Format_RGB32);
     const auto ink = [&picture](int x) {  // the darkest pixel of a character

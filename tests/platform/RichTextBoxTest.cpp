@@ -223,6 +223,7 @@ TEST_F(BlocksTest, LengthsThatDoNotFitAreMadeToFit) {
     for (const std::vector<int>& lengths : std::vector<std::vector<int>>{
              {}, {0}, {2}, {9}, {-1, 2, INT_MAX}, {2, 0, 1}, {2, 0}, {0, 3}}) {
         std::vector<RichTextBox::Block> blocks;
+        blocks.reserve(lengths.size());
         for (const int length : lengths) blocks.push_back({length, 1});
         box.SetBlocks("abc", blocks, none);
         EXPECT_EQ(Shown(box), "C12.0[abc]");

@@ -48,8 +48,8 @@ bool LastLineHolds(bool sameMeaning) {
 struct Clicks {
     void At(MenuItem& rule, bool sameMeaning) {
         const int count = StmtCount;
-        const Statement first = StmtTable[1];
-        for (int place = first.StartStmt - 1; place < first.EndStmt; ++place) {
+        const int end = StmtTable[1].EndStmt;
+        for (int place = StmtTable[1].StartStmt - 1; place < end; ++place) {
             SendChoose(rule);
             if (prepare) prepare();
             SendClick(Proof.RTB, place);
