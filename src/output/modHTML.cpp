@@ -26,16 +26,12 @@ constexpr const char* MarkupInCaption =
     "markup.";
 
 void AppendEscaped(std::string& page, std::string_view text) {
-    for (const char c : text) {
-        if (c == '<') {
-            page += "&lt;";
-        } else if (c == '>') {
-            page += "&gt;";
-        } else if (c == '@') {
-            page += "&#949;";
-        } else {
-            page += c;
-        }
+    while (!text.empty()) {
+        const std::size_t plain = std::min(text.find_first_of("<>@"), text.size());
+        page += text.substr(0, plain);
+        if (plain == text.size()) return;
+        page += text[plain] == '<' ? "&lt;" : text[plain] == '>' ? "&gt;" : "&#949;";
+        text.remove_prefix(plain + 1);
     }
 }
 
@@ -74,17 +70,17 @@ void AppendStatement(std::string& page, const Statement& stmt) {
 }
 
 // Characters outside ASCII as numeric references, so that a browser needs to know no encoding.
-std::string InAscii(const std::string& page) {
-    std::string ascii;
-    ascii.reserve(page.size());
-    for (std::size_t at = 0; at < page.size();) {
+std::string InAscii(std::string page) {
+    std::size_t at = AsciiEnd(page, 0);
+    if (at == page.size()) return page;
+    std::string ascii = page.substr(0, at);
+    while (at < page.size()) {
         const Utf8Char character = DecodeAt(page, at);
-        if (character.code < 0x80) {
-            ascii += page[at];
-        } else {
-            ascii += "&#" + std::to_string(character.code) + ";";
-        }
+        ascii += "&#" + std::to_string(character.code) + ";";
         at += static_cast<std::size_t>(std::max(1, character.length));
+        const std::size_t end = AsciiEnd(page, at);
+        ascii.append(page, at, end - at);
+        at = end;
     }
     return ascii;
 }

@@ -1,5 +1,8 @@
 #include "text/Utf8.h"
 
+#include <cstdint>
+#include <cstring>
+
 namespace tessaryn {
 
 namespace {
@@ -47,6 +50,16 @@ int SequenceLength(std::string_view text, int position) {
     return length == 0 ? 1 : length;
 }
 
+std::size_t AsciiEnd(std::string_view text, std::size_t from) {
+    std::uint64_t bytes = 0;
+    for (; from + sizeof bytes <= text.size(); from += sizeof bytes) {
+        std::memcpy(&bytes, text.data() + from, sizeof bytes);
+        if ((bytes & 0x8080808080808080U) != 0) break;
+    }
+    while (from < text.size() && ByteAt(text, from) < 0x80) ++from;
+    return from;
+}
+
 int CharacterCount(std::string_view text) {
     const int size = static_cast<int>(text.size());
     int count = 0;
@@ -55,7 +68,7 @@ int CharacterCount(std::string_view text) {
 }
 
 bool IsUtf8(std::string_view text) {
-    for (std::size_t at = 0; at < text.size();) {
+    for (std::size_t at = AsciiEnd(text, 0); at < text.size(); at = AsciiEnd(text, at)) {
         const int length = DecodeAt(text, at).length;
         if (length == 0) return false;
         at += static_cast<std::size_t>(length);

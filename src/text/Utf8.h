@@ -19,6 +19,9 @@ Utf8Char DecodeAt(std::string_view text, std::size_t at);
 // The bytes of the UTF-8 sequence that begins at a position; 1 where none does, 0 at the end.
 int SequenceLength(std::string_view text, int position);
 
+// Where the stretch of ASCII that begins at a 0-based byte ends; `from` itself if there is none.
+std::size_t AsciiEnd(std::string_view text, std::size_t from);
+
 // Characters of the text; each byte outside a valid sequence counts as one.
 int CharacterCount(std::string_view text);
 
