@@ -32,9 +32,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
     }
     HTMLPage();
-    if (StmtCount > 0) PrintStatements(1, StmtCount);
+    if (StmtCount > 0) PrintStatements(1, StmtCount, [](PrintResult) {});
     ProofFileName = "saved.proof";
-    if (!SaveProofFile()) Require("what is open can't be saved");
+    if (!SaveProof()) Require("what is open can't be saved");
     if (!OpenFile("saved.proof")) Require("what is saved can't be opened");
     Require(BrokenDocumentLaw());
     return 0;

@@ -158,7 +158,7 @@ class StatementTable {
 
     static const Blocks& BlocksOf(Page& page) {
         if (page.blocks) return *page.blocks;
-        Blocks& blocks = page.blocks.emplace();
+        Blocks& blocks = page.blocks.emplace(Blocks{});
         for (std::size_t i = 0; i < page.statements.size(); ++i) {
             const Statement& stmt = page.statements[i];
             if (IsClosedPremise(stmt)) blocks.ends[i] = stmt.Arg1;
