@@ -85,7 +85,7 @@ std::string Subset(const Step& step) {
         return "line " + std::to_string(step.Own().arg1) + " does not say that something is a set";
     }
     const int n = primes + 1;
-    const std::string otherwise = "the axiom reads otherwise";
+    const char* const otherwise = "the axiom reads otherwise";
     if (terms.KindOf(step.result) != Kind::Exist) return otherwise;
     const Node both = terms[terms[step.result].a];
     if (both.kind != Kind::And ||
@@ -110,7 +110,7 @@ std::string Subset(const Step& step) {
 // P(1) & ALL(k):[k @ n & P(k) => P(k+1)] => ALL(k):[k @ n => P(k)]
 std::string Induction(const Step& step) {
     Terms& terms = step.terms;
-    const std::string otherwise = "it is not induction for the property that it ends with";
+    const char* const otherwise = "it is not induction for the property that it ends with";
     const Node whole = terms[step.result];
     if (whole.kind != Kind::Implies || terms.KindOf(whole.b) != Kind::All ||
         terms.KindOf(whole.a) != Kind::And) {

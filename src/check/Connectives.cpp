@@ -100,7 +100,9 @@ std::string RemDNeg(const Step& step) {
 // P and Q give P & Q. With the first k universal quantifiers of both in common,
 // ALL..P and ALL..Q give ALL..[P & Q]; the record does not tell k, and any k will do.
 std::string Join(const Step& step) {
-    Term result = step.result, first = step.first, second = step.second;
+    Term result = step.result;
+    Term first = step.first;
+    Term second = step.second;
     while (true) {
         const Node node = step.terms[result];
         if (node.kind == Kind::And && node.a == first && node.b == second) return "";

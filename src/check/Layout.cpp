@@ -40,7 +40,7 @@ std::string LayoutFault(const ProofBytes& proof, int line, int depth) {
     const auto fault = [line](const std::string& what) {
         return "line " + std::to_string(line) + " " + what;
     };
-    const std::string misplaced = fault("does not stand where its record says");
+    std::string misplaced = fault("does not stand where its record says");
 
     long long at = Beginning(proof, line);
     if (at == 0 || at != record.startLine) return misplaced;

@@ -21,7 +21,7 @@ struct ProofBytes {
     std::string error;  // why it could not be read, "" if it was
 };
 
-// The views point into `bytes`.
-ProofBytes ReadProofBytes(std::string_view bytes);
+// The views point into `file`.
+ProofBytes ReadProofBytes(std::string_view file);
 
 }  // namespace tessaryn::check

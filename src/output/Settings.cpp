@@ -304,7 +304,7 @@ void UpdateRecentFiles() {
     Names names = StoredRecentFiles().value_or(Names{});
     PutAtHead(names, ProofFileName);
     std::string content = Header(static_cast<int>(names.size()));
-    for (const std::string& name : names) content = WithString(std::move(content), name);
+    for (const std::string& name : names) content = WithString(content, name);
     const std::string fault = WriteSetting(RecentFilesFile, std::move(content));
     if (fault.empty()) {
         FillRecentMenu(names);

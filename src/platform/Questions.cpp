@@ -45,7 +45,7 @@ void ShowModal(Form& form, EventHandler then) {
     PresentModal(form);
 }
 
-void MsgBox(Message message, std::function<void(Answer)> then) {
+void MsgBox(const Message& message, std::function<void(Answer)> then) {
     PresentMessage(message, ReplyTo<Answer>(std::move(then)));
 }
 

@@ -27,7 +27,7 @@ struct Message {
 };
 
 // A message box. Closing it counts as Cancel, or as No where there is no such button.
-void MsgBox(Message message, std::function<void(Answer)> then = nullptr);
+void MsgBox(const Message& message, std::function<void(Answer)> then = nullptr);
 
 struct CommonDialog {
     std::string FileName;  // in: the name offered; out: the full path chosen

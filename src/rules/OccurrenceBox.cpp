@@ -60,7 +60,7 @@ void ReplaceSpans(RichTextBox& box, const std::vector<Span>& spans, const std::s
         done = span.end;
     }
     keepUpTo(box.TextLength());
-    SetContent(box, std::move(content), std::move(runs));
+    SetContent(box, content, std::move(runs));
     box.SelStart = 0;
 }
 

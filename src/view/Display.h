@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/Form.h"
@@ -42,7 +43,7 @@ void ResetDisplay();
 void CheckStoredText();
 
 // Gives a surface text and formats at once. The runs cover the text.
-void SetContent(RichTextBox& surface, std::string text, std::vector<FormatRun> runs);
+void SetContent(RichTextBox& surface, std::string_view text, std::vector<FormatRun> runs);
 
 // Turns each "@" into the element sign, over 1-based positions start to start + length - 1.
 void ConvertAmpersand(RichTextBox& surface, int start, int length);

@@ -17,12 +17,12 @@ void PushRun(std::vector<FormatRun>& runs, int start, int end, const CharFormat&
 
 }  // namespace
 
-void SetContent(RichTextBox& surface, std::string text, std::vector<FormatRun> runs) {
+void SetContent(RichTextBox& surface, std::string_view text, std::vector<FormatRun> runs) {
     const int length = static_cast<int>(text.size());
     std::vector<RichTextBox::Block> blocks;
     if (length > 0) blocks.push_back({length, 0});
     surface.SetText("");
-    surface.SetBlocks(std::move(text), blocks, [runs = std::move(runs)](int) { return runs; });
+    surface.SetBlocks(text, blocks, [runs = std::move(runs)](int) { return runs; });
     surface.Runs();
 }
 
@@ -46,7 +46,7 @@ void ConvertAmpersand(RichTextBox& surface, int start, int length) {
         }
         PushRun(runs, done, end, run.format);
     }
-    SetContent(surface, std::move(text), std::move(runs));
+    SetContent(surface, text, std::move(runs));
 }
 
 std::string ConvertEpsilon(RichTextBox& surface) {
@@ -67,7 +67,7 @@ void ReformatWA(Colour colour) {
     const int length = static_cast<int>(text.size());
     std::vector<FormatRun> runs;
     PushRun(runs, 0, length, {StatementFont, StmtFontSize, colour, false});
-    SetContent(surface, std::move(text), std::move(runs));
+    SetContent(surface, text, std::move(runs));
     ConvertAmpersand(surface, 1, length);
 }
 
