@@ -5,7 +5,7 @@
 //
 // No click.
 #include <iterator>
-#include <stdexcept>
+#include <optional>
 #include <string>
 
 #include "axioms/Axioms.h"
@@ -55,16 +55,12 @@ void ContinueAxiomScheme() {
     const AxiomScheme& scheme = RowOf(RuleMode).scheme;
     const std::string wanted = "Enter a whole number from " + std::to_string(scheme.least) +
                                " to " + std::to_string(MaxAxiomOrder) + ".";
-    int order = 0;
-    try {
-        order = EnteredNumber(MyInputBox.Text1.Text);
-    } catch (const std::out_of_range&) {
-        return RefuseEntry("Unable to process request", wanted);
+    const std::optional<int> order = EnteredNumber(MyInputBox.Text1.Text);
+    if (!order) return RefuseEntry("Unable to process request", wanted);
+    if (*order < scheme.least || *order > MaxAxiomOrder) {
+        return RefuseEntry(*order < scheme.least ? scheme.refusal : "Invalid number", wanted);
     }
-    if (order < scheme.least || order > MaxAxiomOrder) {
-        return RefuseEntry(order < scheme.least ? scheme.refusal : "Invalid number", wanted);
-    }
-    NewStmtText = SchemeText(scheme, order);
+    NewStmtText = SchemeText(scheme, *order);
     Arg1Pending = Arg2Pending = 0;
     // Another number would not help where the statement can't be written: StatusLine tells why.
     FinishRule(WriteStatement());

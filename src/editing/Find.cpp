@@ -1,7 +1,6 @@
 #include "editing/Find.h"
 
 #include <algorithm>
-#include <exception>
 #include <numeric>
 #include <vector>
 
@@ -87,13 +86,8 @@ FindForm::FindForm() : Form("Find", " Find String or Heading") {
     };
     cmdCancel.Click = [this] { Hide(); };
     cmdFind.Click = [this] {
-        RunHandler([this] {
-            try {
-                FindFirst();
-            } catch (const std::exception&) {
-                Refuse("Unable to process search string");
-            }
-        });
+        RunHandler([this] { FindFirst(); },
+                   [this](const char*) { Refuse("Unable to process search string"); });
     };
     DefaultButton = &cmdFind;
 }

@@ -5,7 +5,6 @@
 #include <limits>
 #include <locale>
 #include <sstream>
-#include <stdexcept>
 #include <string>
 
 namespace tessaryn {
@@ -43,15 +42,13 @@ double ReadNumber(std::string_view text) {
 
 }  // namespace
 
-int EnteredNumber(std::string_view text) {
+std::optional<int> EnteredNumber(std::string_view text) {
     while (text.starts_with(' ')) text.remove_prefix(1);
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) text.remove_prefix(1);
     const double size = ReadNumber(NumberAtHead(text));
     const double value = std::nearbyint(negative ? -size : size);
-    if (value < Limits::min() || value > Limits::max()) {
-        throw std::out_of_range("the number does not fit 16 bits");
-    }
+    if (value < Limits::min() || value > Limits::max()) return std::nullopt;
     return static_cast<int>(value);
 }
 

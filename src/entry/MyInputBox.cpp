@@ -1,6 +1,5 @@
 #include "entry/MyInputBox.h"
 
-#include <exception>
 #include <utility>
 
 #include "entry/EntryChecks.h"
@@ -30,7 +29,10 @@ void AskInBox(BoxQuestion question, EventHandler then) {
 }
 
 MyInputBoxForm::MyInputBoxForm() : Form("MyInputBox") {
-    Continue.Click = [this] { ContinuePressed(); };
+    Continue.Click = [this] {
+        RunHandler([this] { ContinuePressed(); },
+                   [](const char*) { RefuseEntry("Unable to process request"); });
+    };
     Cancel.Click = [this] { Close(); };
     DefaultButton = &Continue;
 }
@@ -50,13 +52,9 @@ void MyInputBoxForm::Close() {
 }
 
 void MyInputBoxForm::ContinuePressed() {
-    try {
-        const std::string fault = ForbiddenCharacter(Text1.Text);
-        if (!fault.empty()) return RefuseEntry(fault);
-        if (Question.accept != nullptr) Question.accept();
-    } catch (const std::exception&) {
-        RefuseEntry("Unable to process request");
-    }
+    const std::string fault = ForbiddenCharacter(Text1.Text);
+    if (!fault.empty()) return RefuseEntry(fault);
+    if (Question.accept != nullptr) Question.accept();
 }
 
 }  // namespace tessaryn

@@ -1,6 +1,5 @@
 #include "entry/TestParser.h"
 
-#include <exception>
 #include <utility>
 
 #include "entry/EntryChecks.h"
@@ -41,11 +40,8 @@ void TestParserForm::Close() {
 }
 
 void TestParserForm::Continue() {
-    try {
-        CheckEntry();
-    } catch (const std::exception&) {
-        Refuse("Unable to process request");
-    }
+    RunHandler([this] { CheckEntry(); },
+               [this](const char*) { Refuse("Unable to process request"); });
     if (ParseError.empty()) {
         Hide();
         SetPrompt("");

@@ -56,16 +56,22 @@ bool ParseOrReport() {
     return false;
 }
 
-void RunHandler(const EventHandler& handler, const std::string& message) {
-    const std::string outer = std::exchange(FailureMessage, message);
+void RunHandler(const EventHandler& handler, const std::function<void(const char*)>& failed) {
     try {
         handler();
         CheckInDebugBuild();
     } catch (const std::exception& fault) {
-        Beep(std::string("Something went wrong inside the program: ") + fault.what());
+        failed(fault.what());
+    }
+}
+
+void RunHandler(const EventHandler& handler, const std::string& message) {
+    const std::string outer = std::exchange(FailureMessage, message);
+    RunHandler(handler, [&](const char* what) {
+        Beep(std::string("Something went wrong inside the program: ") + what);
         RuleMode = 0;
         SetPrompt(message);
-    }
+    });
     FailureMessage = outer;
 }
 

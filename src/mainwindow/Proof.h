@@ -105,12 +105,16 @@ void ReportParseError();
 // StatusLine.
 bool ParseOrReport();
 
+inline constexpr const char* UnexpectedFailure = "Unable to process request";
+
 // What StatusLine shows if the command under way fails.
-inline std::string FailureMessage = "Unable to process request";
+inline std::string FailureMessage = UnexpectedFailure;
 
 // The one wrapper round every event handler: anything unexpected beeps, ends the pending rule and
 // shows `message` in StatusLine. Debug builds check the document behind each command.
-void RunHandler(const EventHandler& handler,
-                const std::string& message = "Unable to process request");
+void RunHandler(const EventHandler& handler, const std::string& message = UnexpectedFailure);
+
+// The same where a box tells of it in its own way: `failed` is given what went wrong.
+void RunHandler(const EventHandler& handler, const std::function<void(const char*)>& failed);
 
 }  // namespace tessaryn

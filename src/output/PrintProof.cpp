@@ -1,7 +1,5 @@
 #include "output/PrintProof.h"
 
-#include <stdexcept>
-
 #include "document/Document.h"
 #include "entry/EnteredNumber.h"
 #include "mainwindow/Proof.h"
@@ -13,11 +11,7 @@ namespace {
 
 // A number that no line can have is as good as 0.
 int LineNumber(const std::string& entry) {
-    try {
-        return EnteredNumber(entry);
-    } catch (const std::out_of_range&) {
-        return 0;
-    }
+    return EnteredNumber(entry).value_or(0);
 }
 
 }  // namespace

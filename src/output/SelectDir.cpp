@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "mainwindow/Proof.h"
 #include "output/Settings.h"
 #include "platform/Platform.h"
 
@@ -12,7 +13,7 @@ SelectDirForm::SelectDirForm() : Form("SelectDir", "Select Default Directory") {
         CurrentDefault.Caption = DirectoryList.Path;
         StatusLine.Caption.clear();
     };
-    cmdContinue.Click = [this] { Continue(); };
+    cmdContinue.Click = [this] { RunHandler([this] { Continue(); }); };
     cmdCancel.Click = [this] { Hide(); };
     DefaultButton = &cmdContinue;
 }

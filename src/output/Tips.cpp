@@ -4,6 +4,7 @@
 #include <chrono>
 #include <random>
 
+#include "mainwindow/Proof.h"
 #include "output/Settings.h"
 #include "platform/Platform.h"
 
@@ -57,12 +58,14 @@ const std::string& TipFor(double random) {
 }
 
 TipsForm::TipsForm() : Form("Tips", "Proof Tip of the Day") {
-    Check1.Click = [this] {
-        const std::string fault = SaveTipWish(Check1.Value);
-        if (!fault.empty()) Beep("The choice can't be saved. " + fault);
-    };
+    Check1.Click = [this] { RunHandler([this] { KeepWish(); }); };
     cmdClose.Click = [this] { Hide(); };
     DefaultButton = &cmdClose;
+}
+
+void TipsForm::KeepWish() {
+    const std::string fault = SaveTipWish(Check1.Value);
+    if (!fault.empty()) Beep("The choice can't be saved. " + fault);
 }
 
 void TipsForm::Activated() {

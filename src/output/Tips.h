@@ -11,6 +11,7 @@ struct TipsForm : Form {
     TipsForm();
 
     void Activated() override;
+    void KeepWish();  // whether tips are wanted
 
     Label TipText{*this, "TipText"};
     CheckBox Check1{*this, "Check1", "Show tips on start-up"};

@@ -1,6 +1,5 @@
 // The copy that goes to the printer: text and formats of the pages.
 #include <algorithm>
-#include <exception>
 #include <filesystem>
 #include <string_view>
 #include <utility>
@@ -8,6 +7,7 @@
 
 #include "document/Document.h"
 #include "mainwindow/ProgramState.h"
+#include "mainwindow/Proof.h"
 #include "output/Printing.h"
 #include "text/Utf8.h"
 #include "view/Display.h"
@@ -127,13 +127,12 @@ std::string PrintTitle() {
 void PrintStatements(int first, int last, std::function<void(PrintResult)> then) {
     BuildPrintCopy(first, last);
     const auto print = [then = std::move(then)](PrintResult result, int, int) {
-        try {
+        const auto printAll = [&] {
             if (result == PrintResult::Done) {
                 result = PrintRTF(WorkArea.RTB, Inch, Inch, Inch, Inch);
             }
-        } catch (const std::exception&) {
-            result = PrintResult::Failed;
-        }
+        };
+        RunHandler(printAll, [&](const char*) { result = PrintResult::Failed; });
         then(result);
     };
     WYSIWYG_RTF(WorkArea.RTB, Inch, Inch, Inch, Inch, print);
