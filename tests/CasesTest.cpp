@@ -9,6 +9,7 @@
 #include <fstream>
 
 #include "Steps.h"
+#include "cli/ScriptRunner.h"
 
 namespace tessaryn {
 namespace {
@@ -55,6 +56,29 @@ TEST_P(Cases, Hold) {
     fs::current_path(testing::TempDir());  // for what a case saves
     for (const auto& [line, steps] : cases) {
         EXPECT_EQ(Do(steps), "") << GetParam() << ":" << line;
+    }
+}
+
+// What the program shows and does after a new start.
+std::string NewStart() {
+    constexpr const char* Looks =
+        "dump ; Find ; dump ; choose cmdCancel ; Caption ; dump ; choose Cancel ; "
+        "! ALL(a):[a @ s => x=y] ; + x=y & P(x) ; Split 2 ; RepeatFind ; Premise ; choose cmdPaste "
+        "; dump ; "
+        "choose cmdCancel ; Substitution 3:y ; dump ; click 4 ; dump ; choose cmdCancel ; EGen ; "
+        "dump ; key Esc ; key Ctrl+Z ; dump ; PowerSet ; dump ; choose Cancel ; Print ; dump";
+    const ScriptResult result = RunScript(ScriptOf(Looks));
+    EXPECT_EQ(result.error, "");
+    return result.output;
+}
+
+TEST_P(Cases, LeaveNothingBehindWhereverTheyStop) {
+    const std::string atFirst = NewStart();
+    for (const auto& [line, steps] : ReadCases(GetParam())) {
+        for (auto end = steps.find(" ; "); end != steps.npos; end = steps.find(" ; ", end + 1)) {
+            Do("LargeText ; " + steps.substr(0, end));
+            ASSERT_EQ(NewStart(), atFirst) << GetParam() << ":" << line << " to " << end;
+        }
     }
 }
 

@@ -160,19 +160,20 @@ bool IsNameList(const std::string& list) {
            list.find("  ") == std::string::npos;
 }
 
+// Texts that need not be parsed again, each with its FreeVars: the check runs after every command.
+std::unordered_set<std::string> GoodTexts;
+
 void CheckText(Complaint& complaint, int line, const Statement& stmt) {
     complaint.Unless(IsNameList(stmt.FixedVars), line, "FixedVars is no name list");
-    // Texts found good before are not parsed again: the check runs after every command.
-    static std::unordered_set<std::string> good;
     const std::string known = StmtText(line) + stmt.FreeVars;
-    if (good.contains(known)) return;
-    if (good.size() > 10000) good.clear();
+    if (GoodTexts.contains(known)) return;
+    if (GoodTexts.size() > 10000) GoodTexts.clear();
     const Expression parsed = ParseExpression(StmtText(line));
     complaint.Unless(parsed.error.empty(), line, "the text does not parse");
     if (complaint.Any()) return;
     complaint.Unless(PrintExpression(parsed) == parsed.text, line, "the text is not canonical");
     complaint.Unless(FreeVarsOf(parsed) == stmt.FreeVars, line, "FreeVars differs from the text");
-    if (!complaint.Any()) good.insert(known);
+    if (!complaint.Any()) GoodTexts.insert(known);
 }
 
 void CheckContent(Complaint& complaint) {
@@ -202,6 +203,10 @@ std::string CheckDocument() {
     if (Doc.Content == ContentState::Agrees) return complaint.Text();
     Doc.Content = complaint.Any() ? ContentState::Disagrees : ContentState::Agrees;
     return "";
+}
+
+void ResetDocumentChecks() {
+    GoodTexts.clear();
 }
 
 }  // namespace tessaryn

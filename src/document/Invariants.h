@@ -17,4 +17,7 @@ std::string StructureFault(const Document& document);
 // name lists. Looks at every statement; meant for tests and debug builds.
 std::string CheckDocument();
 
+// Forgets which texts were found good; that is kept for speed only.
+void ResetDocumentChecks();
+
 }  // namespace tessaryn

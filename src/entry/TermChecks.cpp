@@ -50,13 +50,14 @@ struct TextHash {
     }
 };
 
-// Texts that have parsed are kept, so that only the first search through a long proof parses it.
+// Texts that have parsed, so that only the first search through a long proof parses it.
+std::unordered_set<std::string, TextHash, std::equal_to<>> Parsing;
+
 bool DoesParse(std::string_view text) {
-    static std::unordered_set<std::string, TextHash, std::equal_to<>> known;
-    if (known.contains(text)) return true;
+    if (Parsing.contains(text)) return true;
     if (!ParseExpression(std::string(text)).error.empty()) return false;
-    if (known.size() >= 2 * MaxStatements) known.clear();
-    known.emplace(text);
+    if (Parsing.size() >= 2 * MaxStatements) Parsing.clear();
+    Parsing.emplace(text);
     return true;
 }
 
@@ -88,6 +89,10 @@ std::string CheckTerm(const TokenList& clicked, EnteredTerm& term) {
     term.text = term.isName ? root.Name : NewStmtText;
     const std::vector<int> lines = ActiveLines(InsertionLimit());
     return term.isName ? FindName(term, lines) : FindMembership(term, lines);
+}
+
+void ResetTermChecks() {
+    Parsing.clear();
 }
 
 }  // namespace tessaryn

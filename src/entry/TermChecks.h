@@ -21,4 +21,7 @@ struct EnteredTerm {
 // the globals as they are.
 std::string CheckTerm(const TokenList& clicked, EnteredTerm& term);
 
+// Forgets which texts have parsed; that is kept for speed only.
+void ResetTermChecks();
+
 }  // namespace tessaryn

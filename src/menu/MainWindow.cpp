@@ -59,6 +59,7 @@ void Activate() {
 }
 
 void ListenToDisplay() {
+    Extension = {};
     Proof.RTB.Click = [] { RunHandler(ClickInDisplay); };
     Proof.RTB.DblClick = [] { RunHandler(ToggleDetailBlock); };
     Proof.RTB.MouseMove = [] { Extension.MouseMoved(Proof.RTB, Proof.Timer1); };

@@ -3,11 +3,13 @@
 #include "axioms/InductionForm.h"
 #include "axioms/SubsetFrm.h"
 #include "document/Document.h"
+#include "document/Invariants.h"
 #include "editing/Comment.h"
 #include "editing/EditCaption.h"
 #include "editing/Find.h"
 #include "editing/ToggleConclusion.h"
 #include "entry/MyInputBox.h"
+#include "entry/TermChecks.h"
 #include "entry/TestParser.h"
 #include "entry/Warning.h"
 #include "expr/Expression.h"
@@ -16,6 +18,7 @@
 #include "menu/MainWindow.h"
 #include "output/AboutTessaryn.h"
 #include "output/PrintProof.h"
+#include "output/Printing.h"
 #include "output/SaveChanges.h"
 #include "output/SavingOver.h"
 #include "output/SelectDir.h"
@@ -34,6 +37,8 @@ namespace tessaryn {
 
 void StartProgram() {
     ForgetQuestions();
+    FormsShown = 0;
+    FailureMessage = UnexpectedFailure;
     InHand = Second = {};
     RuleMode = Arg1Pending = Arg2Pending = 0;
     SpecName.clear();
@@ -59,6 +64,9 @@ void StartProgram() {
     ResetDisplay();
     ResetUndo();
     ResetConclusion();
+    ResetTermChecks();
+    ResetDocumentChecks();
+    ResetPrinting();
     GenExpression.clear();
     GenParseTable.assign(1, {});
     SubsetOf = {};

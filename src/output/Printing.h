@@ -33,6 +33,9 @@ void WYSIWYG_RTF(RichTextBox& surface, int leftMargin, int rightMargin, int topM
 PrintResult PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int rightMargin,
                      int bottomMargin);
 
+// Forgets the printer's page.
+void ResetPrinting();
+
 // The copy of statements first to last, printed at margins of an inch.
 void PrintStatements(int first, int last, std::function<void(PrintResult)> then);
 

@@ -56,4 +56,8 @@ PrintResult PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int ri
     return good ? PrintResult::Done : PrintResult::Failed;
 }
 
+void ResetPrinting() {
+    Page = {};
+}
+
 }  // namespace tessaryn
