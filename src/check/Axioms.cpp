@@ -22,13 +22,8 @@ std::string NewNameBut(const Step& step, std::string_view introduced) {
     return "";
 }
 
-bool IsName(const Terms& terms, Term term, std::string_view name) {
-    return terms.KindOf(term) == Kind::Name && terms.NameText(terms[term].a) == name;
-}
-
 // The primes of Set, Set' and so on; -1 if it is another predicate.
 int PrimesOfSet(const Terms& terms, Term predicate) {
-    if (terms.KindOf(predicate) != Kind::Name) return -1;
     const std::string_view name = terms.NameText(terms[predicate].a);
     if (!name.starts_with("Set")) return -1;
     return name.find_first_not_of('\'', 3) == std::string_view::npos
@@ -127,11 +122,10 @@ std::string Induction(const Step& step) {
         stepCase.a != terms.Make(Kind::And, number, property)) {
         return otherwise;
     }
-    const auto isOne = [&](Term term, int) { return IsName(terms, term, "1"); };
+    const Term one = terms.Small("1");
+    const auto isOne = [&](Term term, int) { return term == one; };
     const auto isNext = [&](Term term, int depth) {
-        const Node node = terms[term];
-        return node.kind == Kind::Plus && node.a == terms.Make(Kind::Bound, depth) &&
-               IsName(terms, node.b, "1");
+        return term == terms.Make(Kind::Plus, terms.Make(Kind::Bound, depth), one);
     };
     if (!IsInstance(terms, property, cases.a, isOne)) return "its first case is not that of 1";
     if (!IsInstance(terms, property, stepCase.b, isNext)) return "its step does not add 1";

@@ -1,6 +1,7 @@
 #include "check/Check.h"
 
 #include <algorithm>
+#include <set>
 
 #include "check/Grounds.h"
 #include "check/Judge.h"
@@ -76,11 +77,9 @@ std::string CheckedProof::Annotation(int line) const {
 
 std::vector<Ground> CheckedProof::RestsOn(int line) const {
     std::vector<Ground> grounds;
-    const auto add = [&grounds](Ground ground) {
-        for (const Ground& known : grounds) {
-            if (known.kind == ground.kind && known.text == ground.text) return;
-        }
-        grounds.push_back(std::move(ground));
+    std::set<std::pair<Ground::Kind, std::string>> told;
+    const auto add = [&](Ground ground) {
+        if (told.emplace(ground.kind, ground.text).second) grounds.push_back(std::move(ground));
     };
     auto next = content_->grounds.begin();
     for (const int from : Ancestry(content_->proof.records, line)) {

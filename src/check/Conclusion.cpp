@@ -65,7 +65,6 @@ Term Concluded(const Step& step, int premise, Term start, Term end) {
     const std::span<const int> own = scope.Names(premise);
     const std::span<const char> ownReds = scope.Reds(premise);
     for (std::size_t i = 0; i < own.size(); ++i) {
-        if (scope.FirstUse(own[i]) != premise) continue;
         if (ownReds[i] != 0 && scope.FirstEver(own[i]) < premise) continue;
         levels[own[i]] = alls++;
     }

@@ -83,7 +83,7 @@ std::string Judge::Sentence() {
     while (fault.empty() && line_ < count) {
         ++line_;
         fault = LineFault();
-        if (fault.empty() && verdict_ == Verdict::Accepted) NoteGround();
+        if (fault.empty()) NoteGround();
     }
     if (!fault.empty() && verdict_ == Verdict::Accepted) verdict_ = Verdict::Refused;
     return fault;
@@ -112,7 +112,7 @@ std::string Judge::BlockFault() {
             ends.push_back(other);
         }
         if (isA(line_, Rule::Conclusion)) {
-            if (!isA(other, Rule::Premise) ||
+            if (other >= line_ || !isA(other, Rule::Premise) ||
                 records[static_cast<std::size_t>(other)].arg1 != line_) {
                 return Named(line_) + " closes " + Named(other) +
                        ", which is no premise that it closes";

@@ -46,9 +46,7 @@ std::string ESpec(const Step& step) {
     const std::string_view name = step.Own().specName;
     if (witness == 0) return IsSmallName(name) ? "" : "its record holds no name for the variable";
     const Node node = step.terms[witness];
-    if (node.kind != Kind::Name || step.terms.HasCapital(node.a)) {
-        return "what stands for the variable is no name";
-    }
+    if (node.kind != Kind::Name) return "what stands for the variable is no name";
     if (step.terms.NameText(node.a) != name) return "its record holds another name";
     const int use = step.scope.FirstUse(node.a);
     if (use == 0) return "";
@@ -66,7 +64,7 @@ std::string USpec(const Step& step) {
     if (!IsInstanceOfOne(step.terms, step.terms[step.first].a, step.result, given)) {
         return "it is not " + Line(step.Own().arg1) + " with one term for its variable";
     }
-    if (given != 0 && !step.terms.IsTerm(given)) return "what stands for the variable is no term";
+    if (!step.terms.IsTerm(given)) return "what stands for the variable is no term";
     if (given == 0 || step.terms.KindOf(given) == Kind::Name) {
         return arg2 == 0 ? NewName(step) : "it needs no second reference";
     }
@@ -86,7 +84,7 @@ std::string EGen(const Step& step) {
     if (!IsInstanceOfOne(step.terms, step.terms[step.result].a, step.first, given)) {
         return "it is not " + Line(step.Own().arg1) + " with its variable for one term";
     }
-    if (given != 0 && !step.terms.IsTerm(given)) return "its variable stands for no term";
+    if (!step.terms.IsTerm(given)) return "its variable stands for no term";
     return "";
 }
 

@@ -70,7 +70,7 @@ class Terms {
 
     bool HasCapital(int name) const;
     bool IsFormula(Term term) const;
-    bool IsTerm(Term term) const;  // stands for a thing; no tuple
+    bool IsTerm(Term term) const;  // stands for a thing; no tuple. So may one that is not known, 0
     Term Small(std::string_view name) { return Make(Kind::Name, NameNumber(name)); }
 
   private:

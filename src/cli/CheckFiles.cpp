@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
+#include "cli/Library.h"
 #include "document/ProofFile.h"
 #include "platform/InputFile.h"
 
@@ -16,40 +17,75 @@ using nlohmann::json;
 constexpr int Refused = 1;
 constexpr int Declined = 2;
 
-json GroundsAsJson(const check::CheckedProof& proof, int line) {
-    static const char* const kinds[] = {"premise", "axiom", "menu", "witness"};
-    json grounds = json::array();
-    for (const check::Ground& ground : proof.RestsOn(line)) {
-        grounds.push_back({{"kind", kinds[static_cast<int>(ground.kind)]},
-                           {"line", ground.line},
-                           {"text", ground.text}});
-    }
-    return grounds;
+// A file that is reported on.
+struct Report {
+    const std::string& file;
+    const check::CheckedProof& proof;
+    const Library& library;
+};
+
+// "proved" or "rests on ..."
+std::string Worded(const std::vector<Basis>& bases) {
+    std::string worded;
+    for (const Basis& basis : bases) worded += (worded.empty() ? "rests on " : ", ") + basis.worded;
+    return worded.empty() ? "proved" : worded;
 }
 
-std::string AsJson(const std::string& file, const check::CheckedProof& proof, bool allLines) {
+std::string Worded(const Report& report, int line) {
+    std::string circle;
+    return Worded(report.library.BasesOf(report.proof, line, circle));
+}
+
+// Why an accepted proof is refused all the same; "" if it isn't.
+std::string Circle(const Report& report) {
+    const check::CheckedProof& proof = report.proof;
+    std::string circle;
+    if (proof.Count() > 0) report.library.BasesOf(proof, proof.Count(), circle);
+    return circle.empty() ? "" : "theorems rest on themselves: " + circle;
+}
+
+json BasesAsJson(const Report& report, int line) {
+    std::string circle;
+    json bases = json::array();
+    for (const Basis& basis : report.library.BasesOf(report.proof, line, circle)) {
+        bases.push_back({{"kind", basis.kind}, {"line", basis.line}, {"text", basis.text}});
+    }
+    return bases;
+}
+
+std::string AsJson(const Report& report, const std::string& circle, bool allLines) {
     static const char* const verdicts[] = {"accepted", "refused", "declined"};
-    json report = {{"file", file},
-                   {"verdict", verdicts[static_cast<int>(proof.verdict)]},
+    const check::CheckedProof& proof = report.proof;
+    const bool accepted = proof.verdict == check::Verdict::Accepted && circle.empty();
+    const int verdict = circle.empty() ? static_cast<int>(proof.verdict) : Refused;
+    json object = {{"file", report.file},
+                   {"verdict", verdicts[verdict]},
                    {"line", proof.faultyLine},
-                   {"reason", proof.sentence},
+                   {"reason", circle.empty() ? proof.sentence : circle},
                    {"statements", json::array()}};
-    const bool accepted = proof.verdict == check::Verdict::Accepted;
     for (int line = 1; accepted && line <= proof.Count(); ++line) {
         if (!allLines && !proof.InForce(line)) continue;
-        report["statements"].push_back({{"line", line},
+        object["statements"].push_back({{"line", line},
                                         {"text", proof.Text(line)},
                                         {"rule", proof.Annotation(line)},
                                         {"inForce", proof.InForce(line)},
-                                        {"restsOn", GroundsAsJson(proof, line)}});
+                                        {"restsOn", BasesAsJson(report, line)}});
     }
-    return report.dump(-1, ' ', false, json::error_handler_t::replace);
+    return object.dump(-1, ' ', false, json::error_handler_t::replace);
 }
 
-void PrintLines(const std::string& file, const check::CheckedProof& proof, std::ostream& out) {
-    for (int line = 1; line <= proof.Count(); ++line) {
-        out << file << ':' << line << ": " << proof.Text(line) << ": "
-            << check::WordedGrounds(proof, line) << '\n';
+// What is to be said of the file as a whole.
+std::string InShort(const Report& report, const std::string& circle) {
+    if (!circle.empty()) return "wrong: " + circle;
+    const bool accepted = report.proof.verdict == check::Verdict::Accepted;
+    const int count = accepted ? report.proof.Count() : 0;
+    return count > 0 ? Worded(report, count) : Summary(report.proof);
+}
+
+void PrintLines(const Report& report, std::ostream& out) {
+    for (int line = 1; line <= report.proof.Count(); ++line) {
+        out << report.file << ':' << line << ": " << report.proof.Text(line) << ": "
+            << Worded(report, line) << '\n';
     }
 }
 
@@ -82,6 +118,9 @@ std::optional<check::CheckedProof> CheckFile(const std::string& path) {
 }
 
 int CheckFiles(const CheckRequest& request, std::ostream& out, std::ostream& err) {
+    const Library library =
+        request.library.empty() ? Library() : Library(request.library, request.jobs);
+    for (const std::string& fault : library.Faults()) err << fault << '\n';
     bool refused = false;
     int status = 0;
     for (const std::string& file : request.files) {
@@ -91,17 +130,33 @@ int CheckFiles(const CheckRequest& request, std::ostream& out, std::ostream& err
             status = Declined;
             continue;
         }
+        const Report report = {file, *proof, library};
+        const bool accepted = proof->verdict == check::Verdict::Accepted;
+        const std::string circle = accepted ? Circle(report) : "";
+        refused = refused || proof->verdict == check::Verdict::Refused || !circle.empty();
         status = std::max(status, Status(proof->verdict));
-        refused = refused || proof->verdict == check::Verdict::Refused;
         if (request.asJson) {
-            out << AsJson(file, *proof, request.allLines) << '\n';
+            out << AsJson(report, circle, request.allLines) << '\n';
             continue;
         }
-        out << file << ": " << check::Summary(*proof) << '\n';
-        const bool accepted = proof->verdict == check::Verdict::Accepted;
-        if (request.allLines && accepted) PrintLines(file, *proof, out);
+        out << file << ": " << InShort(report, circle) << '\n';
+        if (request.allLines && accepted && circle.empty()) PrintLines(report, out);
     }
     return refused ? Refused : status;
+}
+
+int ListTheorems(const CheckRequest& request, std::ostream& out, std::ostream& err) {
+    const Library library(request.library, request.jobs);
+    for (const std::string& fault : library.Faults()) err << fault << '\n';
+    int status = library.Faults().empty() ? 0 : Refused;
+    for (const Library::Theorem& theorem : library.Theorems()) {
+        const Report report = {theorem.file, theorem.proof, library};
+        const std::string circle = Circle(report);
+        if (!circle.empty()) status = Refused;
+        out << theorem.file << ": " << theorem.proof.Text(theorem.proof.Count()) << ": "
+            << InShort(report, circle) << '\n';
+    }
+    return status;
 }
 
 }  // namespace tessaryn

@@ -1,10 +1,13 @@
 #include "cli/CommandLine.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <optional>
+#include <thread>
 
 #include "cli/CheckFiles.h"
 #include "cli/ExpressionTables.h"
@@ -38,7 +41,8 @@ constexpr const char* Usage =
     "       tessaryn-cli html IN.proof OUT.html\n"
     "       tessaryn-cli print IN.proof OUT.txt\n"
     "       tessaryn-cli fits FILE.proof [LINE]\n"
-    "       tessaryn-cli check [--json] [--all] FILE.proof...\n"
+    "       tessaryn-cli check [--json] [--all] [--library DIR] [--jobs N] FILE.proof...\n"
+    "       tessaryn-cli check --rests-on DIR [--jobs N]\n"
     "       tessaryn-cli --version | --help\n";
 
 constexpr const char* Help =
@@ -57,6 +61,9 @@ constexpr const char* Help =
     "check  says whether each line of a proof follows, and what the last one rests on\n"
     "         --json  as JSON, with all statements that are in force at the end\n"
     "         --all   with all statements\n"
+    "         --library DIR   axioms that are proved in DIR count as theorems\n"
+    "         --rests-on DIR  tells of each theorem in DIR what it rests on\n"
+    "         --jobs N        reads DIR on N threads\n"
     "\n"
     "Exit status: 0 done; 1 refused, or an expectation failed; 2 wrong use, or a file that\n"
     "check can't read or judge.\n";
@@ -181,14 +188,17 @@ int PrintCommand(const Words& words, const Streams& streams) {
     return ReportWriting(words[1], ReplaceFile(words[1], pages + "\n"), streams);
 }
 
+// The number that the word is, 0 if it is none above 0.
+int PositiveNumber(const std::string& word) {
+    int number = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+    return error == std::errc() && *end == '\0' ? std::max(number, 0) : 0;
+}
+
 int FitsCommand(const Words& words, const Streams& streams) {
     if (words.empty() || words.size() > 2) return ReportWrongUse(streams);
-    int line = 0;
-    if (words.size() == 2) {
-        const auto [end, error] =
-            std::from_chars(words[1].data(), words[1].data() + words[1].size(), line);
-        if (error != std::errc() || *end != '\0' || line < 1) return ReportWrongUse(streams);
-    }
+    const int line = words.size() == 2 ? PositiveNumber(words[1]) : 0;
+    if (words.size() == 2 && line == 0) return ReportWrongUse(streams);
     if (!OpenProof(words[0], streams.err)) return 1;
     if (line > 0 && !IsActive(line, InsertionLimit())) {
         streams.err << words[0] << ": line " << line << " is no active line\n";
@@ -198,21 +208,42 @@ int FitsCommand(const Words& words, const Streams& streams) {
     return 0;
 }
 
-int CheckCommand(const Words& words, const Streams& streams) {
+// Nothing if the words are no right use.
+std::optional<CheckRequest> ReadCheckRequest(const Words& words) {
     CheckRequest request;
-    for (const std::string& word : words) {
+    request.jobs = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::string& word = words[i];
+        const bool hasValue = i + 1 < words.size() && !words[i + 1].empty();
         if (word == "--json") {
             request.asJson = true;
         } else if (word == "--all") {
             request.allLines = true;
+        } else if ((word == "--library" || word == "--rests-on") && hasValue) {
+            request.theorems = word == "--rests-on";
+            request.library = words[++i];
+        } else if (word == "--jobs" && hasValue) {
+            request.jobs = PositiveNumber(words[++i]);
         } else if (word.empty() || word.starts_with('-')) {
-            return ReportWrongUse(streams);
+            return std::nullopt;
         } else {
             request.files.push_back(word);
         }
     }
-    if (request.files.empty()) return ReportWrongUse(streams);
-    return CheckFiles(request, streams.out, streams.err);
+    if (request.jobs < 1 || request.files.empty() != request.theorems) return std::nullopt;
+    return request;
+}
+
+int CheckCommand(const Words& words, const Streams& streams) {
+    const auto request = ReadCheckRequest(words);
+    if (!request) return ReportWrongUse(streams);
+    std::error_code error;
+    if (!request->library.empty() && !std::filesystem::is_directory(request->library, error)) {
+        streams.err << request->library << ": there is no such directory\n";
+        return WrongUse;
+    }
+    return request->theorems ? ListTheorems(*request, streams.out, streams.err)
+                             : CheckFiles(*request, streams.out, streams.err);
 }
 
 int VersionCommand(const Words& words, const Streams& streams) {

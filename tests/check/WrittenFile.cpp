@@ -32,6 +32,14 @@ std::string Replaced(std::string text, std::string_view part, std::string_view b
     return text;
 }
 
+}  // namespace
+
+std::string Unescaped(const std::string& text) {
+    return Replaced(Replaced(text, "\\n", "\r\n"), "\\t", "\t");
+}
+
+namespace {
+
 // "" for text that does not parse.
 std::string FreeNames(const std::string& text) {
     const Expression parsed = ParseExpression(text);
@@ -115,6 +123,7 @@ class Writer {
         records_.Bool(true);
 
         const std::string tabs(static_cast<std::size_t>(Depth()), '\t');
+        text_ += Field("Ahead", "");
         Index("StartLine");
         if (!line.comment.empty()) text_ += tabs + line.comment;
         if (line.comment.empty()) records_.Int32(std::stoi(Field("EndUserComment", "0")));
@@ -124,12 +133,12 @@ class Writer {
         Index("StartStmt");
         text_ += Replaced(line.text, "\r\n", "\r\n\t" + tabs);
         Index("EndStmt", -1);
-        text_ += "\r\n\t" + tabs;
+        text_ += Field("Between", "\r\n\t" + tabs);
         Index("StartRule");
         const bool isKnown = IsRuleNumber(line.rule);
         text_ += Field("Annotation", isKnown ? RuleAnnotation(line.rule, arg1, line.arg2) : "?");
         Index("EndRule", -1);
-        text_ += "\r\n\r\n";
+        text_ += "\r\n\r\n" + Field("Behind", "");
         records_.Int32(0);
         records_.Bool(false);
         records_.Int16(0);
@@ -154,7 +163,7 @@ class Writer {
 WrittenLine ReadLine(std::string_view notation) {
     WrittenLine line;
     const std::size_t colon = notation.find(": ");
-    line.text = Replaced(std::string(notation.substr(colon + 2)), "\\n", "\r\n");
+    line.text = Unescaped(std::string(notation.substr(colon + 2)));
     std::istringstream head{std::string(notation.substr(0, colon))};
     std::string rule;
     std::vector<std::string> rest;

@@ -14,8 +14,9 @@ struct WrittenLine {
     int rule = 0, arg1 = 0, arg2 = 0;
     std::string text;  // of the statement; a line break is "\r\n"
     std::string comment;
-    // Fields by their names in Statement.h, "Number", "Annotation" and "Indent" for what stands in
-    // the text. Of an index, how far it is off.
+    // Fields by their names in Statement.h, and "Number", "Annotation", "Indent" for what stands in
+    // the text, "Ahead" and "Behind" around the block, "Between" ahead of the annotation. Of an
+    // index, how far it is off.
     std::map<std::string, std::string> fields;
 };
 using WrittenLines = std::vector<WrittenLine>;  // line 1 is [0]
@@ -23,6 +24,9 @@ using WrittenLines = std::vector<WrittenLine>;  // line 1 is [0]
 // "Detach 1 2: Q", the rule as annotations have it or by its number, references, then the witness
 // of an E Spec. "\n" is a line break.
 WrittenLine ReadLine(std::string_view notation);
+
+// With line breaks and TABs for "\n" and "\t".
+std::string Unescaped(const std::string& text);
 
 // The bytes of the file. A premise is closed by the Conclusion that names it.
 std::string FileOf(const WrittenLines& lines);

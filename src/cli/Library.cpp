@@ -1,0 +1,146 @@
+#include "cli/Library.h"
+
+#include <algorithm>
+#include <atomic>
+#include <filesystem>
+#include <optional>
+#include <set>
+#include <system_error>
+#include <thread>
+
+#include "cli/CheckFiles.h"
+
+namespace tessaryn {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<fs::path> ProofsIn(const std::string& directory) {
+    std::vector<fs::path> files;
+    std::error_code error;
+    const auto options = fs::directory_options::skip_permission_denied;
+    for (fs::recursive_directory_iterator at(directory, options, error), end; !error && at != end;
+         at.increment(error)) {
+        if (at->path().extension() == ".proof") files.push_back(at->path());
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+// Each file once, on so many threads.
+std::vector<std::optional<check::CheckedProof>> CheckAll(const std::vector<fs::path>& files,
+                                                         int jobs) {
+    std::vector<std::optional<check::CheckedProof>> proofs(files.size());
+    std::atomic<std::size_t> next = 0;
+    const auto work = [&] {
+        for (std::size_t i; (i = next++) < files.size();) proofs[i] = CheckFile(files[i].string());
+    };
+    std::vector<std::thread> threads;
+    try {
+        for (int job = 1; job < jobs; ++job) threads.emplace_back(work);
+    } catch (const std::system_error&) {  // no more of them to be had
+    }
+    work();
+    for (std::thread& thread : threads) thread.join();
+    return proofs;
+}
+
+// Its last statement, if that stands without a premise, says nothing of a witness, and is not
+// itself among its axioms.
+bool ProvesSomething(const check::CheckedProof& proof) {
+    if (proof.verdict != check::Verdict::Accepted || proof.Count() == 0) return false;
+    const std::string statement = proof.Key(proof.Count());
+    const std::vector<check::Ground> grounds = proof.RestsOn(proof.Count());
+    return std::none_of(grounds.begin(), grounds.end(), [&](const check::Ground& ground) {
+        return ground.kind == check::Ground::Kind::Premise ||
+               ground.kind == check::Ground::Kind::Witness ||
+               (ground.kind == check::Ground::Kind::Created && proof.Key(ground.line) == statement);
+    });
+}
+
+const char* KindOf(const check::Ground& ground) {
+    switch (ground.kind) {
+        case check::Ground::Kind::Premise:
+            return "premise";
+        case check::Ground::Kind::Created:
+            return "axiom";
+        case check::Ground::Kind::Menu:
+            return "menu";
+        case check::Ground::Kind::Witness:
+            return "witness";
+    }
+    return "";
+}
+
+}  // namespace
+
+Library::Library(const std::string& directory, int jobs) {
+    const std::vector<fs::path> files = ProofsIn(directory);
+    const auto proofs = CheckAll(files, jobs);
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        const std::string name = files[i].lexically_relative(directory).string();
+        if (!proofs[i] || proofs[i]->verdict != check::Verdict::Accepted) {
+            faults_.push_back(files[i].string() + ": " +
+                              (proofs[i] ? Summary(*proofs[i]) : "the file can't be read"));
+        } else if (ProvesSomething(*proofs[i])) {
+            byStatement_.emplace(proofs[i]->Key(proofs[i]->Count()), theorems_.size());
+            theorems_.push_back({name, *proofs[i]});
+        }
+    }
+}
+
+// From a line through the theorems that it uses to all that these rest on.
+struct Library::Walk {
+    std::vector<Basis> bases;
+    std::set<std::pair<std::string, std::string>> told;
+    std::vector<std::size_t> path;  // theorems that are being followed, each used by the one ahead
+    std::set<std::size_t> followed;
+    std::string circle;
+};
+
+void Library::Follow(const check::CheckedProof& proof, int line, Walk& walk) const {
+    const auto tell = [&walk](Basis basis) {
+        if (walk.told.emplace(basis.kind, basis.text).second) {
+            walk.bases.push_back(std::move(basis));
+        }
+    };
+    const bool isOwn = walk.path.empty();
+    const std::string ofFile = isOwn ? "" : " of " + theorems_[walk.path.back()].file;
+    for (const check::Ground& ground : proof.RestsOn(line)) {
+        const bool isCreated = ground.kind == check::Ground::Kind::Created;
+        const auto known =
+            isCreated ? byStatement_.find(proof.Key(ground.line)) : byStatement_.end();
+        if (known == byStatement_.end()) {
+            const bool namesLine = ground.text.find(" of line ") != std::string::npos;
+            const bool isMenu = ground.kind == check::Ground::Kind::Menu;
+            const std::string text = ground.text + (isMenu && namesLine ? ofFile : "");
+            const std::string worded = isMenu ? text : isOwn ? Worded(ground) : "axiom " + text;
+            tell({KindOf(ground), isOwn ? ground.line : 0, text, worded});
+            continue;
+        }
+        const std::size_t number = known->second;
+        const Theorem& theorem = theorems_[number];
+        tell({"theorem", isOwn ? ground.line : 0, theorem.file, "theorem " + theorem.file});
+        const auto loop = std::find(walk.path.begin(), walk.path.end(), number);
+        for (auto at = loop; at != walk.path.end(); ++at) {
+            walk.circle += (at == loop ? "" : ", ") + theorems_[*at].file;
+        }
+        if (!walk.circle.empty()) return;
+        if (!walk.followed.insert(number).second) continue;
+        walk.path.push_back(number);
+        Follow(theorem.proof, theorem.proof.Count(), walk);
+        walk.path.pop_back();
+        if (!walk.circle.empty()) return;
+    }
+}
+
+std::vector<Basis> Library::BasesOf(const check::CheckedProof& proof, int line,
+                                    std::string& circle) const {
+    Walk walk;
+    Follow(proof, line, walk);
+    circle = walk.circle;
+    return walk.bases;
+}
+
+}  // namespace tessaryn

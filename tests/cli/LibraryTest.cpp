@@ -1,0 +1,103 @@
+// Theorems of a directory of proofs, used again as axioms.
+#include "cli/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "OwnDirectory.h"
+#include "check/WrittenFile.h"
+
+namespace tessaryn {
+namespace {
+
+class Library : public OwnDirectory {
+  protected:
+    Library() { std::filesystem::create_directory(directory / "sub"); }
+
+    void Write(const std::string& name, const std::vector<std::string>& notations) {
+        WrittenLines lines;
+        for (const std::string& notation : notations) lines.push_back(ReadLine(notation));
+        WriteFile(name, FileOf(lines));
+    }
+
+    // The exit status, and what is printed, the messages last. Paths without the directory.
+    std::string Check(std::vector<std::string> words) {
+        words.insert(words.begin(), "check");
+        std::istringstream in;
+        std::ostringstream out;
+        std::ostringstream err;
+        std::string said = std::to_string(RunCommandLine(words, {in, out, err})) + '\n';
+        said += out.str() + err.str();
+        const std::string prefix = directory.string() + "/";
+        for (std::size_t at; (at = said.find(prefix)) != said.npos;) said.erase(at, prefix.size());
+        return said;
+    }
+};
+
+TEST_F(Library, TheoremsCountByWhatTheySay) {
+    Write(
+        "sub/one.proof",
+        {"Pw Union: ALL(a):ALL(b):[Set(a) & Set(b) => EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ a "
+         "| d @ b]]]",
+         "Axiom: Q(k)",
+         "Arb Ante 1: Q(k) => ALL(a):ALL(b):[Set(a) & Set(b) => EXIST(c):[Set(c) & "
+         "ALL(d):[d @ c <=> d @ a | d @ b]]]",
+         "Detach 3 2: ALL(x):ALL(y):[Set(x) & Set(y) => "
+         "EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ x | d @ y]]]",
+         "Join 4 2: ALL(x):ALL(y):[Set(x) "
+         "& Set(y) => EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ x | d @ y]]] & Q(k)",
+         "Split 5: ALL(x):ALL(y):[Set(x) & Set(y) => EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ x | "
+         "d @ y]]]"});
+    Write(
+        "two.proof",
+        {"Axiom: ALL(p):ALL(q):[Set(p) & Set(q) => EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ p | d "
+         "@ q]]]",
+         "Axiom: S", "Arb Or 2: S | T"});
+    Write("three.proof", {"Axiom: S | T", "Join 1 1: [S | T] & [S | T]"});
+    Write("four.proof", {"Axiom: [S | T] & [S | T]", "Arb Or 1: [S | T] & [S | T] | S"});
+    Write("premise.proof", {"Premise: R", "Copy 1: R"});
+    Write("witness.proof", {"Axiom: EXIST(a):W(a)", "E Spec 1 w: W(w)", "Copy 2: W(w)"});
+    Write("assumes.proof", {"Axiom: R", "Copy 1: R"});
+    Write("user.proof", {"Axiom: R", "Axiom: W(w)", "Axiom: S | T", "Join 1 2: R & W(w)",
+                         "Join 4 3: R & W(w) & [S | T]"});
+    EXPECT_EQ(Check({"--rests-on", directory.string()}),
+              "0\n"
+              "four.proof: [S | T] & [S | T] | S: rests on theorem three.proof, theorem two.proof, "
+              "axiom S\n"
+              "sub/one.proof: ALL(x):ALL(y):[Set(x) & Set(y) => EXIST(c):[Set(c) & ALL(d):[d @ c "
+              "<=> d @ x | d @ y]]]: rests on Pw Union, axiom Q(k) in line 2\n"
+              "three.proof: [S | T] & [S | T]: rests on theorem two.proof, axiom S\n"
+              "two.proof: S | T: rests on axiom S in line 2\n"
+              "user.proof: R & W(w) & [S | T]: rests on axiom R in line 1, axiom W(w) in line 2, "
+              "theorem two.proof, axiom S\n");
+    EXPECT_EQ(Check({"--library", directory.string(), "--jobs", "3", Path("user.proof")}),
+              "0\nuser.proof: rests on axiom R in line 1, axiom W(w) in line 2, theorem two.proof, "
+              "axiom S\n");
+    EXPECT_EQ(
+        Check({Path("user.proof")}),
+        "0\nuser.proof: rests on axiom R in line 1, axiom W(w) in line 2, axiom S | T in line "
+        "3\n");
+}
+
+TEST_F(Library, CirclesAndForgeriesAreNoTheorems) {
+    Write("x.proof", {"Axiom: A & B", "Split 1: A"});
+    Write("y.proof", {"Axiom: A", "Or Not: B | ~B", "Join 1 1: A & A"});
+    Write("z.proof", {"Axiom: A & A", "Split 1: A", "Arb Ante 2: C => A", "Axiom: C",
+                      "Detach 3 4: A", "Join 5 5: A & A", "Or Not: C | ~C"});
+    Write("forged.proof", {"Axiom: A", "Split 1: A & B"});
+    EXPECT_EQ(Check({"--library", directory.string(), Path("x.proof")}),
+              "0\nx.proof: rests on axiom A & B in line 1\n"
+              "forged.proof: wrong: line 2 does not follow from line 1 by Split (line 1 is no "
+              "conjunction)\n");
+    Write("forged.proof", {"Axiom: A & A", "Arb Or 1: A & A | B", "Axiom: ~B",
+                           "Join 1 3: A & A & ~B", "Axiom: A & A => A & B", "Detach 5 1: A & B"});
+    EXPECT_EQ(Check({"--library", directory.string(), Path("z.proof"), Path("y.proof")}),
+              "1\nz.proof: proved\ny.proof: wrong: theorems rest on themselves: x.proof, "
+              "forged.proof, y.proof\n");
+    EXPECT_EQ(Check({"--library", Path("nowhere"), Path("z.proof")}),
+              "2\nnowhere: there is no such directory\n");
+}
+
+}  // namespace
+}  // namespace tessaryn
