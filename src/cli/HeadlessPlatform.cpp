@@ -7,6 +7,7 @@
 #include "menu/MainWindow.h"
 #include "menu/StartProgram.h"
 #include "platform/Events.h"
+#include "platform/Files.h"
 #include "text/TextSteps.h"
 
 namespace tessaryn {
@@ -133,6 +134,11 @@ void PresentOpen(const CommonDialog& dialog, std::function<void(const ChosenFile
 
 void PresentSave(const CommonDialog& dialog, std::function<void(const ChosenFile&)> reply) {
     ReplyToFileDialog(dialog, reply);
+}
+
+void WriteBehind(const std::string& path, std::function<std::string()> bytes,
+                 std::function<void(const std::string&)> then) {
+    then(ReplaceFile(path, bytes()));
 }
 
 void SetClipboard(const Clip& content) {

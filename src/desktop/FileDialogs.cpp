@@ -8,6 +8,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/HelpViewer.h"
 #include "desktop/PaintedText.h"
+#include "output/Recovery.h"
 #include "output/SavingOver.h"
 
 namespace tessaryn {
@@ -43,6 +44,8 @@ class OpenDialogue : public QFileDialog {
           lastMode_(dialog.FileMustExist ? ExistingFile : AnyFile) {
         setAcceptMode(AcceptOpen);
         setFileMode(AnyFile);
+        if (RecoveryDir.empty()) return;
+        setSidebarUrls(sidebarUrls() << QUrl::fromLocalFile(ToQt(RecoveryDir)));
     }
 
     void accept() override {

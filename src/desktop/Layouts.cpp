@@ -30,6 +30,7 @@
 #include "mainwindow/Proof.h"
 #include "output/AboutTessaryn.h"
 #include "output/PrintProof.h"
+#include "output/Recovery.h"
 #include "output/SaveChanges.h"
 #include "output/StartUp.h"
 #include "output/Tips.h"
@@ -172,6 +173,14 @@ void LayOutSaveChanges(SaveChangesForm& form, FormWindow& window, QWidget& insid
     rows->addStretch();
     rows->addLayout(Answers(window, {&form.cmdYes, &form.cmdNo, &form.cmdCancel}));
     inside.resize(Columns(inside, 70), inside.fontMetrics().lineSpacing() * 7);
+}
+
+void LayOutRecovery(RecoveryForm& form, FormWindow& window, QWidget& inside) {
+    auto* rows = new QVBoxLayout(&inside);
+    Add(*rows, window, {&form.Message, &form.FileName});
+    rows->addStretch();
+    rows->addLayout(Answers(window, {&form.cmdRestore, &form.cmdDiscard, &form.cmdLater}));
+    inside.resize(Columns(inside, 70), inside.fontMetrics().lineSpacing() * 8);
 }
 
 // A statement with occurrences to pick, below what the rows hold already.
@@ -362,11 +371,12 @@ bool LaidOutBy(void (*layOut)(SomeForm&, FormWindow&, QWidget&), FormWindow& win
 
 void LayOut(FormWindow& window, QWidget& inside) {
     const auto by = [&](auto layOut) { return LaidOutBy(layOut, window, inside); };
-    const bool known =
-        by(LayOutProof) || by(LayOutTestParser) || by(LayOutSubsetFrm) || by(LayOutInductionForm) ||
-        by(LayOutMyInputBox) || by(LayOutSaveChanges) || by(LayOutStartUp) || by(LayOutAbout) ||
-        by(LayOutTips) || by(LayOutPrintProof) || by(LayOutComment) || by(LayOutEditCaption) ||
-        by(LayOutFind) || by(LayOutWarning) || by(LayOutGeneralize) || by(LayOutSubstitution);
+    const bool known = by(LayOutProof) || by(LayOutTestParser) || by(LayOutSubsetFrm) ||
+                       by(LayOutInductionForm) || by(LayOutMyInputBox) || by(LayOutSaveChanges) ||
+                       by(LayOutRecovery) || by(LayOutStartUp) || by(LayOutAbout) ||
+                       by(LayOutTips) || by(LayOutPrintProof) || by(LayOutComment) ||
+                       by(LayOutEditCaption) || by(LayOutFind) || by(LayOutWarning) ||
+                       by(LayOutGeneralize) || by(LayOutSubstitution);
     if (!known) LayOutAnyForm(window, inside);
     // With a large font on a small screen there is more to scroll.
     if (inside.isWindow()) inside.resize(inside.size().boundedTo(RoomOnScreen(inside)));

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QSessionManager>
+#include <QThreadPool>
 #include <QTimer>
 #include <csignal>
 #include <cstdio>
@@ -21,6 +22,7 @@
 #include "mainwindow/Proof.h"
 #include "menu/MainWindow.h"
 #include "menu/StartProgram.h"
+#include "output/Recovery.h"
 #include "output/Settings.h"
 
 namespace {
@@ -117,6 +119,7 @@ int main(int argc, char* argv[]) {
     }
     StartProgram();
     AppPath = FindAppPath(QApplication::applicationDirPath().toStdString());
+    RecoveryDir = FindRecoveryDir();
     const auto show = [&firstPaint] {
         ShowMainWindow(Proof);
         if (std::getenv("TESSARYN_MEASURE_START") == nullptr) return;
@@ -129,6 +132,8 @@ int main(int argc, char* argv[]) {
     const auto showSoon = [&] { QTimer::singleShot(0, &application, show); };
     Dispatch([&] { LoadMainWindow(commandLine, showSoon); });
     if (!Ending()) QApplication::exec();
+    QThreadPool::globalInstance()->waitForDone();
+    EndKeepingCopies();
     ForgetNote();
     ForgetWindows();
     return 0;

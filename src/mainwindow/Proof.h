@@ -29,6 +29,7 @@ struct ProofForm : Form {
     RichTextBox StatusLine{*this, "StatusLine"};
     Label InsertLineLabel{*this, "InsertLineLabel"};
     Timer Timer1{*this, "Timer1"};
+    Timer RecoveryTimer{*this, "RecoveryTimer"};
     CommonDialog CommonDialog1;
 
     Button cmdNew{*this, ""}, cmdOpen{*this, ""}, cmdSave{*this, ""}, cmdPremise{*this, ""},

@@ -12,10 +12,12 @@
 #include "menu/ClickTable.h"
 #include "menu/MenuTable.h"
 #include "output/ProofCommands.h"
+#include "output/Recovery.h"
 #include "output/Settings.h"
 #include "output/StartUp.h"
 #include "output/Tips.h"
 #include "view/InsertMode.h"
+#include "view/Undo.h"
 
 namespace tessaryn {
 namespace {
@@ -39,7 +41,7 @@ void EscInMainWindow(const KeyEvent& key) {
 }
 
 void OpenNamedProof() {
-    if (Proof.CommandLineFile.empty()) return;
+    if (Proof.CommandLineFile.empty() || ProofChanged) return;  // a restored proof stays
     ReadProofFile(std::exchange(Proof.CommandLineFile, ""));
     Proof.RTB.SelStart = 0;
 }
@@ -50,12 +52,18 @@ void AfterGreeting() {
     AskIn(Tips, OpenNamedProof);
 }
 
+void OfferUnsavedProof() {
+    SetPrompt("");
+    StartKeepingCopies();
+    OfferRecovery(AfterGreeting);
+}
+
 void Activate() {
     Proof.StatusLine.SelAlignment = Alignment::Center;
     if (!std::exchange(Proof.FirstActivation, false)) return OpenNamedProof();
     Proof.RTB.SetFocus();
-    if (AppPath.empty()) return AfterGreeting();
-    AskIn(StartUp, AfterGreeting);
+    if (AppPath.empty()) return OfferUnsavedProof();
+    AskIn(StartUp, OfferUnsavedProof);
 }
 
 void ListenToDisplay() {

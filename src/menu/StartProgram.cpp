@@ -19,6 +19,7 @@
 #include "output/AboutTessaryn.h"
 #include "output/PrintProof.h"
 #include "output/Printing.h"
+#include "output/Recovery.h"
 #include "output/SaveChanges.h"
 #include "output/SavingOver.h"
 #include "output/SelectDir.h"
@@ -48,6 +49,7 @@ void StartProgram() {
     ProofFileName.clear();
     SeenProofFile = {};
     AppPath.clear();
+    ForgetCopies();
     BoxUndoText.clear();
     ClipLength = 0;
     OpenFollows = RecentPicked = false;
@@ -83,6 +85,7 @@ void StartProgram() {
     Restart(SubsetFrm);
     Restart(InductionForm);
     Restart(SaveChanges);
+    Restart(Recovery);
     Restart(PrintProof);
     Restart(SelectDir);
     Restart(StartUp);

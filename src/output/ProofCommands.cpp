@@ -10,6 +10,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/Questions.h"
+#include "output/Recovery.h"
 #include "output/SaveChanges.h"
 #include "output/SavingOver.h"
 #include "output/Settings.h"
@@ -31,24 +32,6 @@ void FoldClosedBlocks() {
             EditAt(line).ViewerStartLine = 0;
         }
         SetVisible(line, true);
-    }
-}
-
-// Makes the stored document the open one, in the display as well. If that fails, what was open is
-// open again.
-void TakeOver(Document& proof) {
-    std::swap(Doc, proof);
-    try {
-        FoldClosedBlocks();
-        RelayoutViewer();
-        CheckStoredText();
-        ResetFonts();
-    } catch (...) {
-        std::swap(Doc, proof);
-        proof = {};
-        CheckStoredText();
-        ResetFonts();
-        throw;
     }
 }
 
@@ -92,11 +75,28 @@ std::string OpenedOr(const std::string& fileName) {
     Proof.CommonDialog1.FileName.swap(dialogName);
     Proof.Caption.swap(title);
     ProofChanged = false;
+    DropCopy();
     ProofOpened();
     return "";
 }
 
 }  // namespace
+
+void TakeOver(Document& proof) {
+    std::swap(Doc, proof);
+    try {
+        FoldClosedBlocks();
+        RelayoutViewer();
+        CheckStoredText();
+        ResetFonts();
+    } catch (...) {
+        std::swap(Doc, proof);
+        proof = {};
+        CheckStoredText();
+        ResetFonts();
+        throw;
+    }
+}
 
 std::string WithExtension(const std::string& name, const std::string& extension) {
     const std::size_t dot = name.rfind('.');
@@ -135,6 +135,7 @@ void SaveProofFile(std::string name, std::function<void(bool)> then) {
         Proof.CommonDialog1.FileName = ProofFileName;
         UpdateRecentFiles();
         ProofChanged = false;
+        DropCopy();
         Proof.Caption = ProofTitle();
         end(true);
     };
@@ -181,6 +182,7 @@ void EmptyProof() {
     SetPrompt("");
     SetUndoRedo(false, false);
     ProofChanged = false;
+    DropCopy();
     CheckStoredText();
     ResetFonts();
     Proof.RTB.SelStart = 0;

@@ -4,6 +4,8 @@
 #include <functional>
 #include <string>
 
+#include "document/Document.h"
+
 namespace tessaryn {
 
 // Writes the document to ProofFileName, with the hourglass up. On failure the old file is whole,
@@ -14,6 +16,10 @@ bool SaveProof();
 // it. Then the document counts as saved: ProofFileName, recent files, title, ProofChanged; if it
 // was not saved, all that is as it was. `then` is told which.
 void SaveProofFile(std::string name, std::function<void(bool saved)> then);
+
+// Makes a stored document the open one, in the display as well. If that fails, what was open is
+// open again.
+void TakeOver(Document& proof);
 
 // Replaces the document by the content of a file, which becomes ProofFileName, and rebuilds the
 // display. A name without ending finds the file that ends in ".proof". On failure, memory that is

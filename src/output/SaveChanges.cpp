@@ -6,6 +6,7 @@
 #include "mainwindow/Proof.h"
 #include "mainwindow/Questions.h"
 #include "output/ProofCommands.h"
+#include "output/Recovery.h"
 #include "output/SavingOver.h"
 #include "output/Settings.h"
 
@@ -30,6 +31,7 @@ void SaveChangesForm::Close() {
 }
 
 void SaveChangesForm::No() {
+    KeepDiscarded();
     GoOn();
 }
 

@@ -33,6 +33,14 @@ void Tell(const std::string& note);
 // A proof file has been opened and is in the display: whoever wants may look at it in his own time.
 void ProofOpened();
 
+// --- files
+
+// Replaces a file (ReplaceFile) beside the user's work: `bytes` is called and the file written
+// somewhere else, perhaps on another thread; then `then` is run here, as an event, with "" or the
+// reason of a failure. Both are destroyed here.
+void WriteBehind(const std::string& path, std::function<std::string()> bytes,
+                 std::function<void(const std::string& fault)> then);
+
 // --- clipboard
 
 void SetClipboard(const Clip& content);  // in place of what was there, in all formats

@@ -26,6 +26,7 @@
 #include "menu/StartProgram.h"
 #include "output/AboutTessaryn.h"
 #include "output/PrintProof.h"
+#include "output/Recovery.h"
 #include "output/SaveChanges.h"
 #include "output/SelectDir.h"
 #include "output/Tips.h"
@@ -117,9 +118,10 @@ bool Ends(const char* actions) {
 }  // namespace
 
 TEST(Dialogues, EachShowingStartsAnewAndEnterPressesWhatIsDrawnAsDefault) {
-    Form* forms[] = {&AboutTessaryn, &Comment,      &EditCaption, &tessaryn::Find, &Generalize,
-                     &InductionForm, &MyInputBox,   &PrintProof,  &SelectDir,      &SaveChanges,
-                     &SubsetFrm,     &Substitution, &TestParser,  &Tips,           &Warning};
+    Form* forms[] = {&AboutTessaryn, &Comment,       &EditCaption, &tessaryn::Find,
+                     &Generalize,    &InductionForm, &MyInputBox,  &PrintProof,
+                     &SelectDir,     &SaveChanges,   &Recovery,    &SubsetFrm,
+                     &Substitution,  &TestParser,    &Tips,        &Warning};
     for (Form* form : forms) {
         StartProgram();
         WriteWhatTheFormsShow();

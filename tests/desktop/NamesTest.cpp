@@ -20,6 +20,7 @@
 #include "menu/StartProgram.h"
 #include "output/AboutTessaryn.h"
 #include "output/PrintProof.h"
+#include "output/Recovery.h"
 #include "output/SaveChanges.h"
 #include "output/SelectDir.h"
 #include "output/StartUp.h"
@@ -49,10 +50,10 @@ std::string NamelessIn(const QWidget& window) {
 TEST(Names, EveryControlThatTakesTheFocusHasOne) {
     StartProgram();
     ShowMainWindow(Proof);
-    Form* const forms[] = {&Proof,     &TestParser,    &MyInputBox,    &Generalize, &Substitution,
-                           &SubsetFrm, &InductionForm, &SaveChanges,   &PrintProof, &SelectDir,
-                           &StartUp,   &Tips,          &AboutTessaryn, &Comment,    &EditCaption,
-                           &Find,      &Warning};
+    Form* const forms[] = {
+        &Proof,         &TestParser,    &MyInputBox, &Generalize,  &Substitution, &SubsetFrm,
+        &InductionForm, &SaveChanges,   &Recovery,   &PrintProof,  &SelectDir,    &StartUp,
+        &Tips,          &AboutTessaryn, &Comment,    &EditCaption, &Find,         &Warning};
     for (Form* form : forms) {
         form->Caption = "A form";
         for (Control* control : form->Controls) {
