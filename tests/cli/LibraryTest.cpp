@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 
 #include "OwnDirectory.h"
 #include "check/WrittenFile.h"
+#include "cli/ScriptRunner.h"
+#include "platform/Files.h"
 
 namespace tessaryn {
 namespace {
@@ -97,6 +100,29 @@ TEST_F(Library, CirclesAndForgeriesAreNoTheorems) {
               "forged.proof, y.proof\n");
     EXPECT_EQ(Check({"--library", Path("nowhere"), Path("z.proof")}),
               "2\nnowhere: there is no such directory\n");
+}
+
+TEST_F(Library, ExamplesAreSoundAndFourOfThemBuildOnEachOther) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(directory);
+    std::size_t scripts = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(
+             std::filesystem::path(TESSARYN_SOURCE_DIR) / "examples")) {
+        if (entry.path().extension() != ".script") continue;
+        EXPECT_EQ(RunScript(*ReadWholeFile(entry.path().string())).error, "") << entry.path();
+        ++scripts;
+    }
+    std::filesystem::current_path(before);
+    const std::string theorems = Check({"--rests-on", directory.string()});
+    EXPECT_TRUE(theorems.starts_with("0\n")) << theorems;
+    EXPECT_EQ(std::count(theorems.begin(), theorems.end(), '\n'),
+              static_cast<std::ptrdiff_t>(scripts) + 1);
+    EXPECT_EQ(Check({"--library", directory.string(), Path("summands-change-places.proof")}),
+              "0\nsummands-change-places.proof: rests on theorem addition-is-associative.proof, "
+              "number axiom 3, number axiom 6, Induction for n of line 1 of "
+              "addition-is-associative.proof, theorem addition-commutes.proof, number axiom 2, "
+              "theorem one-commutes.proof, Induction for n of line 1 of one-commutes.proof, "
+              "Induction for n of line 1 of addition-commutes.proof\n");
 }
 
 }  // namespace

@@ -5,10 +5,12 @@
 
 #include "Steps.h"
 #include "Workbench.h"
+#include "check/Check.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
 #include "document/Document.h"
 #include "document/Invariants.h"
+#include "document/ProofFile.h"
 #include "expr/Lex.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -173,6 +175,7 @@ struct Watch {
             return false;
         }
         EXPECT_EQ(CheckDocument(), "") << where;
+        EXPECT_EQ(check::CheckProof(WriteProof()).sentence, "") << where;
         EXPECT_EQ(RuleMode, 0) << where;
         EXPECT_TRUE(SendChoose(Proof.optUndo)) << where;
         EXPECT_EQ(ProofText.View(), text) << where << ": Undo does not take it back";
