@@ -5,28 +5,11 @@
 #include <QApplication>
 #include <string>
 
-#include "axioms/InductionForm.h"
-#include "axioms/SubsetFrm.h"
+#include "AllForms.h"
 #include "desktop/Desktop.h"
 #include "desktop/FormWindow.h"
 #include "desktop/PaintedText.h"
-#include "editing/Comment.h"
-#include "editing/EditCaption.h"
-#include "editing/Find.h"
-#include "entry/MyInputBox.h"
-#include "entry/TestParser.h"
-#include "entry/Warning.h"
-#include "mainwindow/Proof.h"
 #include "menu/StartProgram.h"
-#include "output/AboutTessaryn.h"
-#include "output/PrintProof.h"
-#include "output/Recovery.h"
-#include "output/SaveChanges.h"
-#include "output/SelectDir.h"
-#include "output/StartUp.h"
-#include "output/Tips.h"
-#include "rules/Generalize.h"
-#include "rules/Substitution.h"
 
 using namespace tessaryn;
 
@@ -50,11 +33,7 @@ std::string NamelessIn(const QWidget& window) {
 TEST(Names, EveryControlThatTakesTheFocusHasOne) {
     StartProgram();
     ShowMainWindow(Proof);
-    Form* const forms[] = {
-        &Proof,         &TestParser,    &MyInputBox, &Generalize,  &Substitution, &SubsetFrm,
-        &InductionForm, &SaveChanges,   &Recovery,   &PrintProof,  &SelectDir,    &StartUp,
-        &Tips,          &AboutTessaryn, &Comment,    &EditCaption, &Find,         &Warning};
-    for (Form* form : forms) {
+    for (Form* form : AllForms) {
         form->Caption = "A form";
         for (Control* control : form->Controls) {
             auto* label = dynamic_cast<Label*>(control);
@@ -82,7 +61,7 @@ TEST(Names, EveryControlThatTakesTheFocusHasOne) {
     };
     MyInputBox.Label1.Caption = "How many?";
     Comment.Caption = "Edit User Comment, Line 3";
-    for (Form* form : forms) WindowOf(*form).Sync();
+    for (Form* form : AllForms) WindowOf(*form).Sync();
     for (const auto& row : rows) {
         auto* interface = QAccessible::queryAccessibleInterface(WidgetOf(row.control));
         EXPECT_EQ(interface->text(QAccessible::Name), ToQt(row.name));
