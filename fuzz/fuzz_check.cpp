@@ -15,7 +15,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 namespace {
 
 std::string WithoutBreaks(std::string text) {
-    for (std::size_t at; (at = text.find("\r\n")) != text.npos;) text.replace(at, 2, " ");
+    for (std::size_t at = 0; (at = text.find("\r\n", at)) != text.npos;) text.replace(at, 2, " ");
     return text;
 }
 

@@ -148,8 +148,8 @@ const std::vector<AxiomGroup>& AxiomGroups() {
          {"Set(n)", "1 @ n", "ALL(a):ALL(b):[a @ n & b @ n => a+b @ n]", "ALL(a):[a @ n => ~a+1=1]",
           "ALL(a):ALL(b):[a @ n & b @ n & a+1=b+1 => a=b]",
           "ALL(a):ALL(b):[a @ n & b @ n => a+(b+1)=a+b+1]",
-          "ALL(a):[Set(a) & 1 @ a & ALL(b):[b @ n & b @ a => b+1 @ a] => "
-          "ALL(b):[b @ n => b @ a]]"}},
+          ("ALL(a):[Set(a) & 1 @ a & ALL(b):[b @ n & b @ a => b+1 @ a] => "
+           "ALL(b):[b @ n => b @ a]]")}},
         {"group axiom",
          {"Set(g)", "0 @ g", "ALL(a):ALL(b):[a @ g & b @ g => a+b @ g]",
           "ALL(a):ALL(b):ALL(c):[a @ g & b @ g & c @ g => a+b+c=a+(b+c)]",

@@ -34,7 +34,9 @@ std::vector<std::optional<check::CheckedProof>> CheckAll(const std::vector<fs::p
     std::vector<std::optional<check::CheckedProof>> proofs(files.size());
     std::atomic<std::size_t> next = 0;
     const auto work = [&] {
-        for (std::size_t i; (i = next++) < files.size();) proofs[i] = CheckFile(files[i].string());
+        for (std::size_t i = next++; i < files.size(); i = next++) {
+            proofs[i] = CheckFile(files[i].string());
+        }
     };
     std::vector<std::thread> threads;
     try {
@@ -71,6 +73,15 @@ const char* KindOf(const check::Ground& ground) {
             return "witness";
     }
     return "";
+}
+
+// What is no theorem of the library rests on itself.
+Basis BasisOfItsOwn(const check::Ground& ground, bool isOwn, const std::string& ofFile) {
+    const bool namesLine = ground.text.find(" of line ") != std::string::npos;
+    const bool isMenu = ground.kind == check::Ground::Kind::Menu;
+    const std::string text = ground.text + (isMenu && namesLine ? ofFile : "");
+    const std::string worded = isMenu ? text : isOwn ? Worded(ground) : "axiom " + text;
+    return {KindOf(ground), isOwn ? ground.line : 0, text, worded};
 }
 
 }  // namespace
@@ -112,11 +123,7 @@ void Library::Follow(const check::CheckedProof& proof, int line, Walk& walk) con
         const auto known =
             isCreated ? byStatement_.find(proof.Key(ground.line)) : byStatement_.end();
         if (known == byStatement_.end()) {
-            const bool namesLine = ground.text.find(" of line ") != std::string::npos;
-            const bool isMenu = ground.kind == check::Ground::Kind::Menu;
-            const std::string text = ground.text + (isMenu && namesLine ? ofFile : "");
-            const std::string worded = isMenu ? text : isOwn ? Worded(ground) : "axiom " + text;
-            tell({KindOf(ground), isOwn ? ground.line : 0, text, worded});
+            tell(BasisOfItsOwn(ground, isOwn, ofFile));
             continue;
         }
         const std::size_t number = known->second;

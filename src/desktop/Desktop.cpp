@@ -158,7 +158,8 @@ void EndProgram() {
 bool PointerBeyondRightEdge(const Control& box) {
     const QWidget* widget = WidgetOf(box);
     if (widget == nullptr) return false;
-    if (auto* area = qobject_cast<const QAbstractScrollArea*>(widget)) widget = area->viewport();
+    if (const auto* area = qobject_cast<const QAbstractScrollArea*>(widget))
+        widget = area->viewport();
     // The last column of pixels counts: at the screen's edge there is nothing beyond it.
     return QCursor::pos().x() >= widget->mapToGlobal(QPoint(widget->width() - 1, 0)).x();
 }

@@ -280,7 +280,7 @@ class HelpWindow : public QWidget {
     // The row of a hit; of a page that is no hit, any of its rows.
     void SelectInList(const ManualPlace& place) {
         const QTreeWidgetItem* current = list_.currentItem();
-        if (place.length == 0 && current && PlaceOf(*current).page == place.page) return;
+        if (place.length == 0 && current != nullptr && PlaceOf(*current).page == place.page) return;
         QTreeWidgetItem* found = nullptr;
         for (QTreeWidgetItemIterator row(&list_); *row != nullptr; ++row) {
             const ManualPlace listed = PlaceOf(**row);

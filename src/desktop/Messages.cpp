@@ -226,7 +226,7 @@ QString NoteShown() {
 }
 
 bool NoteStands() {
-    return Shown && Shown->Stands();
+    return Shown != nullptr && Shown->Stands();
 }
 
 void ForgetNote() {

@@ -41,7 +41,7 @@ std::string Said(const std::string& file) {
 }
 
 WrittenLines Forged(WrittenLines lines, std::string change) {
-    for (std::size_t end; !change.empty(); change.erase(0, end)) {
+    for (std::size_t end = 0; !change.empty(); change.erase(0, end)) {
         end = std::min(change.find(" ; "), change.size());
         const std::string one = change.substr(0, end);
         end = std::min(end + 3, change.size());

@@ -77,8 +77,10 @@ class Structure {
                 return left() == right() ? 1 : 0;
             case Node::ALL:
             case Node::EXIST:
-                return Try({NodeAt(*statement_, node.Ptr1).Name}, node.Rule == Node::ALL ? 1 : 0,
-                           [&] { return right() != 0; });
+                return Try({NodeAt(*statement_, node.Ptr1).Name}, node.Rule == Node::ALL,
+                           [&] { return right() != 0; })
+                           ? 1
+                           : 0;
             default:
                 return Draw(std::to_string(node.Rule) + " " + Values(node.Ptr1) + " " +
                                 (node.Ptr2 == 0 ? "" : Values(node.Ptr2)),
