@@ -101,7 +101,7 @@ std::string Judge::BlockFault() {
     for (line_ = 1; static_cast<std::size_t>(line_) < records.size(); ++line_) {
         const int other = Own().arg1;
         if (isA(line_, Rule::Premise) && other != 0) {
-            if (other <= line_ || !isA(other, Rule::Conclusion) ||
+            if (!isA(other, Rule::Conclusion) ||
                 records[static_cast<std::size_t>(other)].arg1 != line_) {
                 return Named(line_) + " is a premise that is said to be closed by " + Named(other) +
                        ", which does not close it";

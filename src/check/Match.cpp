@@ -89,6 +89,7 @@ bool Replacement::OperandsLead(Term from, Term to) {
 bool Replacement::BecomesReplaced(Term from) {
     if (from == replaced_) return true;
     if (terms_.KindOf(from) != terms_.KindOf(replaced_)) return false;
+    patience_ -= static_cast<long long>(underWay_.size()) / 8;
     if (std::find(underWay_.begin(), underWay_.end(), from) != underWay_.end()) return false;
     underWay_.push_back(from);
     const bool becomes = OperandsLead(from, replaced_);

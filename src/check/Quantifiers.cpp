@@ -120,7 +120,7 @@ class Reordered {
                 there = b.a - depth;
                 here = a.a - depth;
             }
-            return there == b.a - depth && here == a.a - depth;
+            return there == b.a - depth;
         }
         const int inner = depth + (IsQuantifier(a.kind) ? 1 : 0);
         return Pairs(a.a, b.a, inner) && (!IsBinary(a.kind) || Pairs(a.b, b.b, inner));
