@@ -45,6 +45,11 @@ const Subject Proofs[] = {
      "! ALL(a):[a @ s => a+2=f(a)] ; + m+k @ s & m @ s ; Split 2 ; + m+k=f(m)"
      " ; + (m,k) @ t & ~m+k=k ; + Set(s) & Set'(t) ; Split 7"
      " ; + m*k^2<=_k-1/m & f(m+k)=m"},
+    // Lines that rules with two lines or two parts must not take together.
+    {"NearMisses",
+     "+ P | R ; + [Q => T] & [R => T] ; + [P => T] & [R => S] ; + [P => T] & [Q => P] & [P <=> Q]"
+     " ; Split 4 ; + P ; + ALL(a):[P => R] & P ; + EXIST(a):R(a) | ~~P ; + k=m & R(m) ; Split 11 ; "
+     "+ ~k=m"},
     // The insertion point in the middle: what stands behind it can't be used.
     {"Inserting", Quantifiers + " ; Insert 6.number"},
 };
