@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <utility>
 
 #include "check/Check.h"
 #include "check/WrittenFile.h"
@@ -25,8 +26,8 @@ int ChangeCount() {
 
 class Changer {
   public:
-    Changer(const WrittenLines& lines, const RandomNumber& random)
-        : lines_(lines), random_(random) {}
+    Changer(WrittenLines lines, const RandomNumber& random)
+        : lines_(std::move(lines)), random_(random) {}
 
     WrittenLines Changed() {
         const std::size_t line = Any();
