@@ -25,8 +25,8 @@ void AskIn(Form& form, EventHandler then) {
     });
 }
 
-void Ask(Message message, std::function<void(Answer)> then) {
-    MsgBox(std::move(message), Guarded<Answer>(std::move(then)));
+void Ask(const Message& message, std::function<void(Answer)> then) {
+    MsgBox(message, Guarded<Answer>(std::move(then)));
 }
 
 void AskWhatToOpen(const CommonDialog& dialog, std::function<void(const ChosenFile&)> then) {

@@ -10,7 +10,7 @@ namespace tessaryn {
 void AskIn(Form& form, EventHandler then = nullptr);
 
 // In a message box.
-void Ask(Message message, std::function<void(Answer)> then);
+void Ask(const Message& message, std::function<void(Answer)> then);
 
 // For a file.
 void AskWhatToOpen(const CommonDialog& dialog, std::function<void(const ChosenFile&)> then);
