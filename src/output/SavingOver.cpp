@@ -45,13 +45,12 @@ Message MaySaveOver(const std::string& whatIsThere) {
     return {whatIsThere + " Save over it?", "WARNING", Buttons::YesNo, Answer::No};
 }
 
-void AskToSaveOver(Message question, EventHandler save, EventHandler otherwise) {
-    Ask(std::move(question),
-        [save = std::move(save), otherwise = std::move(otherwise)](Answer answer) {
-            if (answer == Answer::Yes) return save();
-            OperationCancelled = true;
-            otherwise();
-        });
+void AskToSaveOver(const Message& question, EventHandler save, EventHandler otherwise) {
+    Ask(question, [save = std::move(save), otherwise = std::move(otherwise)](Answer answer) {
+        if (answer == Answer::Yes) return save();
+        OperationCancelled = true;
+        otherwise();
+    });
 }
 
 }  // namespace

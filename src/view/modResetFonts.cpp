@@ -284,7 +284,7 @@ void RedrawBetween(const Unchanged& same) {
 void RedrawAll() {
     Content content = ContentOf(1, StmtCount);
     ShownBlocks = std::move(content.numbers);
-    Proof.RTB.SetBlocks(std::move(content.text), content.blocks, BlockRuns);
+    Proof.RTB.SetBlocks(content.text, content.blocks, BlockRuns);
 }
 
 // Where two rows of runs that cover the same text differ first, in words.
@@ -323,13 +323,13 @@ int ShownStmtAt(int place) {
 }
 
 std::string CheckDisplay() {
-    Content content = ContentOf(1, StmtCount);
+    const Content content = ContentOf(1, StmtCount);
     if (content.text != Proof.RTB.GetText()) {
         return "the display's text differs from that of a rebuild";
     }
     const int length = Proof.RTB.TextLength();
     TextBlocks rebuilt;
-    rebuilt.SetBlocks(std::move(content.text), content.blocks, BlockRuns);
+    rebuilt.SetBlocks(content.text, content.blocks, BlockRuns);
     return Difference(Proof.RTB.PeekAtRuns(), rebuilt.RunsIn(0, length));
 }
 
