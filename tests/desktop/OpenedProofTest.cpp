@@ -24,7 +24,7 @@ std::string OneLine(const QTemporaryDir& directory, const char* name, bool forge
                               std::string(1, forged ? '\x0C' : '\x0D') + std::string(13, '\0') +
                               std::string(forged ? "\x10\0" : "\x11\0", 2) + "1\tP\r\n\t" +
                               (forged ? "Detach" : "Premise") + "\r\n\r\n";
-    const std::string path = directory.filePath(QString::fromUtf8(name)).toStdString();
+    std::string path = directory.filePath(QString::fromUtf8(name)).toStdString();
     EXPECT_EQ(ReplaceFile(path, bytes), "");
     return path;
 }
