@@ -1,6 +1,8 @@
 #include "entry/ClickPatterns.h"
 
 #include "entry/ActiveStmts.h"
+#include "entry/EntryChecks.h"
+#include "entry/TestParser.h"
 #include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -31,6 +33,23 @@ void TakeSecond(int line, const LinesClick& rule) {
     if (!outcome.Applies()) return BeepRefusal(line, outcome);
     Arg2Pending = line;
     WriteOutcome(outcome, rule.after);
+}
+
+// A logical expression without new free variables: "" or the message.
+std::string CheckOperand() {
+    if (!RootIsLogical()) return "Expecting a logical expression";
+    const std::string name = FirstUnknownName({});
+    return name.empty() ? "" : "Variable '" + name + "' not found in any active statement";
+}
+
+// Writes what the rule makes of the clicked statement and the entry, or gives the message.
+std::string WriteWithOperand(Outcome (*infer)(const Expression&, const Expression&)) {
+    if (std::string fault = CheckOperand(); !fault.empty()) return fault;
+    NewStmtText = infer(Second, InHand).texts[0];
+    Parse();
+    if (!ParseError.empty()) return "Incompatible antecedent and consequent";
+    if (WriteStatement()) EndRule();
+    return "";
 }
 
 }  // namespace
@@ -108,6 +127,21 @@ void ClickLines(const LinesClick& rule) {
     } else {
         TakeSecond(line, rule);
     }
+}
+
+void AskForOperand(const std::string& caption,
+                   Outcome (*infer)(const Expression&, const Expression&)) {
+    SetPrompt("");
+    AskForExpression({caption, [infer] { return WriteWithOperand(infer); }}, EndRule);
+}
+
+void ClickLineAndBox(const LineAndBoxClick& rule) {
+    int line = 0;
+    if (!TakeClickedLine(line, rule.after)) return;
+    Arg1Pending = line;
+    Arg2Pending = 0;
+    Second = InHand;
+    AskForOperand(WithFirstLine(rule.caption), rule.infer);
 }
 
 }  // namespace tessaryn

@@ -36,6 +36,14 @@ struct LinesClick {
 };
 void ClickLines(const LinesClick& rule);
 
+// One click, on a line, and an entry in TestParser: a formula whose free names are all in use.
+struct LineAndBoxClick {
+    Outcome (*infer)(const Expression& clicked, const Expression& entered);
+    const char* caption;  // of the box; %1 stands for the line
+    AfterParseError after = AfterParseError::EndRule;
+};
+void ClickLineAndBox(const LineAndBoxClick& rule);
+
 // --- the steps, for rules with a conversation of their own
 
 // Finds the statement of a click and parses it: InHand is the statement. False after a beep.
@@ -43,6 +51,10 @@ bool TakeClickedLine(int& line, AfterParseError after, bool saysWhy = true);
 
 // The same with the token of the click; Arg1Pending is the line, Arg2Pending 0.
 bool TakeClickedToken(int& line, int& token, const char* needs);
+
+// Asks for the formula of a LineAndBoxClick and writes what the rule makes of Second and it.
+void AskForOperand(const std::string& caption,
+                   Outcome (*infer)(const Expression& clicked, const Expression& entered));
 
 // The beep for a clicked line that a rule can't use.
 void BeepRefusal(int line, const Outcome& outcome);

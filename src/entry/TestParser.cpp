@@ -78,7 +78,7 @@ void TestParserForm::CheckEntry() {
 }
 
 void TestParserForm::Accept() {
-    if (Question.accept == nullptr) return;
+    if (!Question.accept) return;
     if (const std::string fault = Question.accept(); !fault.empty()) Refuse(fault);
     StatusLine.Caption = ParseError;  // a failed writing has beeped by itself
 }

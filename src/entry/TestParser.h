@@ -5,6 +5,7 @@
 // with its parse in the tables, unless `accept` has written the statement already.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "entry/ExpressionEditor.h"
@@ -16,7 +17,7 @@ struct ExpressionQuestion {
     std::string caption;
     // What follows a successful parse: tests, and with some rules the writing of the statement.
     // Gives the message of the refusal, or "" with ParseError from the writing.
-    std::string (*accept)();
+    std::function<std::string()> accept;
     std::string hint = "";  // in the place of refusals, until the first
 };
 

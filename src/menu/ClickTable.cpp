@@ -16,7 +16,6 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "rules/ArbitraryOperand.h"
 #include "rules/Rules.h"
 #include "view/InsertMode.h"
 
@@ -24,6 +23,14 @@ namespace tessaryn {
 namespace {
 
 constexpr auto StayPending = AfterParseError::StayPending;
+
+bool OnLeft() {
+    return ArbOrLeft;
+}
+
+bool OnRight() {
+    return !ArbOrLeft;
+}
 
 const ClickRow ClickRows[] = {
     {DeleteAllRefMode, "Delete All References: Click statement", Conversation(DeleteAllRef)},
@@ -48,9 +55,20 @@ const ClickRow ClickRows[] = {
     {Rule::Contra, "Contra:  Click on => in any active statement", SignClick{Contra, ContraNeeds}},
     {Rule::DeMorgan, "DeMorgan:  Click on '&' or '|' in any active statement",
      SignClick{DeMorgan, DeMorganNeeds}},
-    {Rule::ArbOr, "", Conversation(ArbOr)},
-    {Rule::ArbAnte, "Arb Ante:  Click any active statement", Conversation(ArbAnte)},
-    {Rule::ArbCons, "Arb Cons:  Click any active statement", Conversation(ArbCons)},
+    {Rule::ArbOr, "Arb OR (Left):  Click any active statement",
+     LineAndBoxClick{OrWithLeft,
+                     "Arbitrary OR (Insert Left) Rule, Line %1:  Enter a logical expression"},
+     OnLeft},
+    {Rule::ArbOr, "Arb OR (Right):  Click any active statement",
+     LineAndBoxClick{OrWithRight,
+                     "Arbitrary OR (Insert Right) Rule, Line %1:  Enter a logical expression"},
+     OnRight},
+    {Rule::ArbAnte, "Arb Ante:  Click any active statement",
+     LineAndBoxClick{ArbAnte, "Arbitrary Antecedent Rule, Line %1:  Enter a logical expression",
+                     StayPending}},
+    {Rule::ArbCons, "Arb Cons:  Click any active statement",
+     LineAndBoxClick{ArbCons, "Arbitrary Consequent Rule, Line %1:  Enter a logical expression",
+                     StayPending}},
     {Rule::Substitute,
      "Subst:  Select SOURCE expression. Click LHS or RHS of in any active EQUALS-statement...",
      TwoClicks(Subsitute)},
@@ -74,8 +92,9 @@ const ClickRow ClickRows[] = {
 
 const ClickRow* FindRow(int ruleMode) {
     const ClickRow* row =
-        std::find_if(std::begin(ClickRows), std::end(ClickRows),
-                     [&](const ClickRow& each) { return each.ruleMode == ruleMode; });
+        std::find_if(std::begin(ClickRows), std::end(ClickRows), [&](const ClickRow& each) {
+            return each.ruleMode == ruleMode && (each.applies == nullptr || each.applies());
+        });
     return row == std::end(ClickRows) ? nullptr : row;
 }
 
@@ -88,6 +107,7 @@ struct TakeClick {
     void operator()(const LineClick& rule) const { ClickLine(rule); }
     void operator()(const SignClick& rule) const { ClickSign(rule); }
     void operator()(const LinesClick& rule) const { ClickLines(rule); }
+    void operator()(const LineAndBoxClick& rule) const { ClickLineAndBox(rule); }
     void operator()(Conversation talk) const { talk(); }
     void operator()(TwoClicks talk) const { talk(FirstClick); }
 };
@@ -115,6 +135,11 @@ void ClickInDisplay() {
     }
     const ClickRow* row = FindRow(RuleMode);
     std::visit(TakeClick(), row == nullptr ? ClickTarget() : row->click);
+}
+
+void StartArbOr(bool left) {
+    ArbOrLeft = left;
+    StartClickRule(Rule::ArbOr);
 }
 
 }  // namespace tessaryn

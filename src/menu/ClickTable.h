@@ -12,18 +12,22 @@ namespace tessaryn {
 // clicks is told the state of.
 using Conversation = void (*)();
 using TwoClicks = void (*)(bool& firstClick);
-using ClickTarget =
-    std::variant<std::monostate, LineClick, SignClick, LinesClick, Conversation, TwoClicks>;
+using ClickTarget = std::variant<std::monostate, LineClick, SignClick, LinesClick, LineAndBoxClick,
+                                 Conversation, TwoClicks>;
 
 struct ClickRow {
     int ruleMode;
     const char* prompt;
     ClickTarget click = std::monostate();
+    bool (*applies)() = nullptr;  // of several rows for one rule, which one; nullptr: the only one
 };
 std::span<const ClickRow> ClickTable();
 
 // What the menu item of a click rule does: the rule becomes pending and its prompt is shown.
 void StartClickRule(int ruleMode);
+
+// The same for Arb Or, whose entry goes on one side.
+void StartArbOr(bool left);
 
 // A click in the proof display, taken as the operand of the pending rule.
 void ClickInDisplay();

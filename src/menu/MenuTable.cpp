@@ -20,7 +20,6 @@
 #include "output/ProofCommands.h"
 #include "output/SelectDir.h"
 #include "output/Settings.h"
-#include "rules/ArbitraryOperand.h"
 #include "rules/Rules.h"
 #include "view/InsertMode.h"
 #include "view/ShowHide.h"
@@ -141,9 +140,12 @@ const MenuRow MenuRows[] = {
     {1, &P::optArbConsequent, "optArbConsequent", "P ---> ~P => Q                 (Arb Cons)", "",
      Click<Rule::ArbCons>},
     {1, &P::optArbOr, "optArbOr", "P ---> P | Q  or Q | P          (Arb Or)"},
-    {2, &P::optArbOrRight, "optArbOrRight", "Insert Right  --->   P | Q", "", ArbOrRightCommand},
-    {2, &P::optArbOrLeft, "optArbOrLeft", "Insert Left    --->   Q | P", "", ArbOrLeftCommand},
-    {1, &P::optOrNot, "optOrNot", "P | ~P                                 (Or Not)    ", "", OrNot},
+    {2, &P::optArbOrRight, "optArbOrRight", "Insert Right  --->   P | Q", "",
+     [] { StartArbOr(false); }},
+    {2, &P::optArbOrLeft, "optArbOrLeft", "Insert Left    --->   Q | P", "",
+     [] { StartArbOr(true); }},
+    {1, &P::optOrNot, "optOrNot", "P | ~P                                 (Or Not)    ", "",
+     OrNotCommand},
     {1, &P::barLogic5, "barLogic5", "-"},
     {1, &P::optQuantifierSwitch, "optQuantifierSwitch", "&Quantifier Switch                (Quant)",
      "", Click<Rule::Quant>},

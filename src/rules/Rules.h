@@ -11,6 +11,7 @@ void Premise();
 void Axiom();
 void Conclusion();
 void Reflexivity();
+void OrNotCommand();
 
 // Click rules. firstClick: the first of two clicks is awaited; the rule changes it.
 void Join(bool& firstClick);
