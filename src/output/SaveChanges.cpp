@@ -39,7 +39,7 @@ void SaveChangesForm::Yes() {
     if (ProofFileName.empty()) {
         // Without a name it is not saved, and what was asked for goes on.
         AskWhereToSave({"", ProofFilter, DefaultDir, true, false},
-                       [this](const ChosenFile& path) { path ? SaveAs(*path) : GoOn(); });
+                       [this](const ChosenFile& path) { path ? SaveAs(*path) : No(); });
         return;
     }
     const std::string name = WithProofExtension(ProofFileName);
