@@ -49,4 +49,8 @@ std::string ReplaceFile(const std::string& path, const std::string& bytes) {
 
 void RemoveLeftoversBeside(const std::string&) {}
 
+std::string UserDirectory(const char*, const std::string&) {
+    return "";
+}
+
 }  // namespace tessaryn

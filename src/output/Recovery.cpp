@@ -200,16 +200,8 @@ void Restore(const std::string& copy) {
 }  // namespace
 
 std::string FindRecoveryDir() {
-    const auto variable = [](const char* name) {
-        const char* value = std::getenv(name);
-        return std::string(value == nullptr ? "" : value);
-    };
-    std::string state = variable("XDG_STATE_HOME");
-    if (!state.starts_with('/')) {
-        const std::string home = variable("HOME");
-        if (home.empty()) return "";
-        state = home + "/.local/state";
-    }
+    const std::string state = UserDirectory("XDG_STATE_HOME", "/.local/state");
+    if (state.empty()) return "";
     const fs::path directory = fs::path(state) / "tessaryn" / "recovery";
     std::error_code error;
     fs::create_directories(directory, error);

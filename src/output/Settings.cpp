@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -108,19 +107,6 @@ bool HoldsAll(const std::string& directory) {
         if (!InputFile(directory + "/" + file).Good()) return false;
     }
     return true;
-}
-
-std::string Environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value == nullptr ? "" : value;
-}
-
-// "" if the user has no directory of that kind.
-std::string UserConfigDir() {
-    std::string given = Environment("XDG_CONFIG_HOME");
-    if (given.starts_with('/')) return given;
-    const std::string home = Environment("HOME");
-    return home.empty() ? "" : home + "/.config";
 }
 
 // Medium, no recent files, no default directory, tips wanted.
@@ -240,7 +226,7 @@ void LoadDirectoryAndTipWish() {
 
 std::string FindAppPath(const std::string& programDir) {
     if (!programDir.empty() && HoldsAll(programDir)) return programDir;
-    const std::string config = UserConfigDir();
+    const std::string config = UserDirectory("XDG_CONFIG_HOME", "/.config");
     if (config.empty()) return "";
     std::error_code error;
     std::string own = config + "/tessaryn";

@@ -15,6 +15,10 @@ std::optional<std::string> ReadWholeFile(const std::string& path);
 // "", or one sentence that tells a person why it failed, with nothing left behind.
 std::string ReplaceFile(const std::string& path, const std::string& bytes);
 
+// The user's directory of a kind, an XDG base directory: what the variable names, if that is a full
+// path, else what lies below the home directory; "" without one.
+std::string UserDirectory(const char* variable, const std::string& belowHome);
+
 // Removes the temporary files that crashed writers left in the directory of a file.
 void RemoveLeftoversBeside(const std::string& path);
 
