@@ -12,35 +12,36 @@ namespace tessaryn {
 
 namespace {
 
-struct Writing {
-    std::string path;
-    std::function<std::string()> bytes;
+struct Work {
+    std::function<std::string()> work;
     std::function<void(const std::string&)> then;
-    std::string fault;
+    std::string result;
 };
-
-void Write(Writing& writing) {
-    try {
-        writing.fault = ReplaceFile(writing.path, writing.bytes());
-    } catch (const std::exception&) {
-        writing.fault = "That needs more memory than there is.";
-    }
-}
 
 }  // namespace
 
-void WriteBehind(const std::string& path, std::function<std::string()> bytes,
-                 std::function<void(const std::string&)> then) {
-    auto writing = std::make_shared<Writing>();
-    *writing = {path, std::move(bytes), std::move(then), ""};
-    QThreadPool::globalInstance()->start([writing = std::move(writing)]() mutable {
-        Write(*writing);
+void RunBeside(std::function<std::string()> work, std::function<void(const std::string&)> then) {
+    auto job = std::make_shared<Work>();
+    *job = {std::move(work), std::move(then), ""};
+    QThreadPool::globalInstance()->start([job = std::move(job)]() mutable {
+        job->result = job->work();
         // What it holds shares with the document, and goes on the thread that writes to that.
         QMetaObject::invokeMethod(
-            qApp,
-            [writing = std::move(writing)] { Dispatch([&] { writing->then(writing->fault); }); },
+            qApp, [job = std::move(job)] { Dispatch([&] { job->then(job->result); }); },
             Qt::QueuedConnection);
     });
+}
+
+void WriteBehind(const std::string& path, std::function<std::string()> bytes,
+                 std::function<void(const std::string&)> then) {
+    const auto write = [path, bytes = std::move(bytes)]() -> std::string {
+        try {
+            return ReplaceFile(path, bytes());
+        } catch (const std::exception&) {
+            return "That needs more memory than there is.";
+        }
+    };
+    RunBeside(write, std::move(then));
 }
 
 }  // namespace tessaryn

@@ -38,6 +38,10 @@ void ShowMainWindow(Form& form);
 // Brings the windows to an end, so that forms can be built anew.
 void ForgetWindows();
 
+// Runs `work` on another thread, which throws nothing, and then, as an event, `then` with what it
+// gave. Both are destroyed here.
+void RunBeside(std::function<std::string()> work, std::function<void(const std::string&)> then);
+
 // EndProgram has been called.
 bool Ending();
 

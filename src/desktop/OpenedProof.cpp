@@ -1,8 +1,6 @@
 // Looks over each proof that is opened, on a thread beside the window's.
-#include <QObject>
-#include <QThreadPool>
+#include <exception>
 #include <string>
-#include <utility>
 
 #include "check/Check.h"
 #include "desktop/Desktop.h"
@@ -16,23 +14,24 @@ namespace {
 
 int Opened = 0;  // proofs so far
 
-void TellFault(int proof, const std::string& fileName, const std::string& sentence) {
-    if (proof != Opened || fileName != ProofFileName || Ending()) return;
-    Tell("This proof is not sound: " + sentence + ".");
+// Why a proof is refused; "" if it is not.
+std::string FaultIn(const Document& document) {
+    try {
+        const check::CheckedProof proof = check::CheckProof(WriteProof(document));
+        return proof.verdict == check::Verdict::Refused ? proof.sentence : "";
+    } catch (const std::exception&) {
+        return "";  // memory is short: nothing is said of it
+    }
 }
 
 }  // namespace
 
 void ProofOpened() {
-    static QObject window;  // for its thread
-    const int number = ++Opened;
-    auto look = [number, fileName = ProofFileName, bytes = WriteProof()]() mutable {
-        const check::CheckedProof proof = check::CheckProof(std::move(bytes));
-        if (proof.verdict != check::Verdict::Refused) return;
-        QMetaObject::invokeMethod(
-            &window, [=] { TellFault(number, fileName, proof.sentence); }, Qt::QueuedConnection);
-    };
-    QThreadPool::globalInstance()->start(std::move(look));
+    RunBeside([copy = CopyForAnotherThread()] { return FaultIn(copy); },
+              [number = ++Opened, fileName = ProofFileName](const std::string& fault) {
+                  if (fault.empty() || number != Opened || fileName != ProofFileName) return;
+                  Tell("This proof is not sound: " + fault + ".");
+              });
 }
 
 }  // namespace tessaryn

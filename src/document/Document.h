@@ -50,6 +50,9 @@ void SetVisible(int line, bool visible);
 // Empties the proof.
 void ClearDocument();
 
+// A copy that another thread may read while this one goes on to write. It is to be destroyed here.
+Document CopyForAnotherThread();
+
 // Where the first visible block begins in the display, 1-based.
 int FirstViewerStartLine(const Document& document = Doc);
 

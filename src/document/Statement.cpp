@@ -6,6 +6,12 @@
 
 namespace tessaryn {
 
+Document CopyForAnotherThread() {
+    Document copy = Doc;
+    copy.ProofText = std::string(Doc.ProofText.View());  // shared bytes may move as they grow
+    return copy;
+}
+
 void ClearDocument() {
     Doc = {};
 }

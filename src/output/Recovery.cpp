@@ -234,12 +234,12 @@ void KeepCopy() {
         return TellOnce("The folder " + RecoveryDir + " can't be written.");
     }
     Kept.latest = Doc;
-    Document copy = Doc;
-    copy.ProofText = std::string(Doc.ProofText.View());  // shared bytes may move as they grow
     Kept.writing = true;
     WriteBehind(
         Kept.path,
-        [copy = std::move(copy), about = AboutOwnFile()] { return WriteProof(copy) + about; },
+        [copy = CopyForAnotherThread(), about = AboutOwnFile()] {
+            return WriteProof(copy) + about;
+        },
         CopyWritten);
 }
 
