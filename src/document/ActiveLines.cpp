@@ -32,12 +32,7 @@ int NextEdge(int edge, const StatementTable& table) {
 }  // namespace
 
 bool IsActive(int line, int limit, const Document& doc) {
-    if (line >= limit) return false;
-    const StatementTable& table = doc.StmtTable;
-    for (int edge = table.BlockEdgeFrom(1); edge <= line; edge = NextEdge(edge, table)) {
-        if (line < table.BlockEnd(edge)) return false;
-    }
-    return true;
+    return line < limit && doc.StmtTable.WalkComesBy(line) && !IsClosedPremise(At(line, doc));
 }
 
 int InnermostOpenPremise(int limit, const Document& doc) {

@@ -76,7 +76,7 @@ class StatementTable {
         const std::size_t index = static_cast<std::size_t>(line) - 1;
         std::size_t skipped = index % PageSize;
         for (std::size_t page = index / PageSize; page < pages_.size(); ++page, skipped = 0) {
-            const std::uint64_t edges = BlocksOf(*pages_[page]).edges >> skipped;
+            const std::uint64_t edges = BlocksOf(*pages_[page], page).edges >> skipped;
             if (edges == 0) continue;
             return LineAt(page, skipped + static_cast<std::size_t>(std::countr_zero(edges)));
         }
@@ -88,7 +88,8 @@ class StatementTable {
         const std::size_t index = static_cast<std::size_t>(line) - 1;
         std::size_t last = index % PageSize;
         for (std::size_t page = index / PageSize + 1; page-- > 0; last = PageSize - 1) {
-            const std::uint64_t edges = BlocksOf(*pages_[page]).edges << (PageSize - 1 - last);
+            const std::uint64_t edges = BlocksOf(*pages_[page], page).edges
+                                        << (PageSize - 1 - last);
             if (edges == 0) continue;
             return LineAt(page, last - static_cast<std::size_t>(std::countl_zero(edges)));
         }
@@ -98,7 +99,25 @@ class StatementTable {
     // The Conclusion that closes the block of a Premise; 0 if none does, or `line` is no Premise.
     int BlockEnd(int line) const {
         const std::size_t index = static_cast<std::size_t>(line) - 1;
-        return BlocksOf(*pages_[index / PageSize]).ends[index % PageSize];
+        return BlocksOf(*pages_[index / PageSize], index / PageSize).ends[index % PageSize];
+    }
+
+    // Does the walk past closed blocks, from line 1 on, come by this line?
+    bool WalkComesBy(int line) const {
+        const std::size_t page = (static_cast<std::size_t>(line) - 1) / PageSize;
+        int at = 1;
+        while (at <= line) {
+            const std::size_t index = static_cast<std::size_t>(at) - 1;
+            const Blocks& blocks = BlocksOf(*pages_[index / PageSize], index / PageSize);
+            if (index / PageSize < page) {
+                at = blocks.exits[index % PageSize];
+            } else if (at == line) {
+                return true;
+            } else {
+                at = std::max(at + 1, blocks.ends[index % PageSize]);
+            }
+        }
+        return false;
     }
 
     // How many lines at the head, or at the end if both have as many lines, stand in pages that the
@@ -148,23 +167,29 @@ class StatementTable {
     // What a walk over blocks asks of a page, apart from the statements: a walk through a long
     // proof would wait for each of them to come out of main memory.
     struct Blocks {
-        std::uint64_t edges = 0;           // a bit for each Premise and Conclusion
-        std::array<int, PageSize> ends{};  // of the closed Premises
+        std::uint64_t edges = 0;            // a bit for each Premise and Conclusion
+        std::array<int, PageSize> ends{};   // of the closed Premises
+        std::array<int, PageSize> exits{};  // by line: where the walk past closed blocks that
+                                            // stands there first comes to another page
     };
     struct Page {
         std::vector<Statement> statements;
         std::optional<Blocks> blocks;  // kept once it has been asked for
     };
 
-    static const Blocks& BlocksOf(Page& page) {
+    static const Blocks& BlocksOf(Page& page, std::size_t number) {
         if (page.blocks) return *page.blocks;
         Blocks& blocks = page.blocks.emplace(Blocks{});
-        for (std::size_t i = 0; i < page.statements.size(); ++i) {
+        const int behind = LineAt(number + 1, 0);
+        for (std::size_t i = page.statements.size(); i-- > 0;) {
             const Statement& stmt = page.statements[i];
             if (IsClosedPremise(stmt)) blocks.ends[i] = stmt.Arg1;
             if (stmt.Rule == Rule::Premise || IsConclusion(stmt)) {
                 blocks.edges |= std::uint64_t{1} << i;
             }
+            const int next = std::max(LineAt(number, i) + 1, blocks.ends[i]);
+            blocks.exits[i] =
+                next < behind ? blocks.exits[static_cast<std::size_t>(next - 1) % PageSize] : next;
         }
         return blocks;
     }

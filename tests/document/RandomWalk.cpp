@@ -6,6 +6,7 @@
 #include "Workbench.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
+#include "document/ActiveLines.h"
 #include "document/Invariants.h"
 #include "document/ProofFile.h"
 #include "editing/Comment.h"
@@ -177,6 +178,11 @@ std::string BrokenDocumentLaw() {
     std::string fault = CheckDocument();
     if (fault.empty()) fault = CheckDisplay();
     if (!fault.empty()) return fault;
+    const std::vector<int> active = ActiveLines(StmtCount + 1);
+    for (int line = 1; line <= StmtCount; ++line) {
+        const bool listed = std::binary_search(active.begin(), active.end(), line);
+        if (listed != IsActive(line, StmtCount + 1)) return "a line is active one way only";
+    }
     const std::optional<Document> again = ReadProof(WriteProof());
     if (!again) return "what is saved can't be opened";
     if (!SameContent(*again, Doc)) return "what is saved opens as something else";
