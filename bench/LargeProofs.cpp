@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
 #include "expr/Parse.h"
 #include "expr/Same.h"
@@ -63,8 +62,7 @@ void Append(int number, const Line& line) {
 
 }  // namespace
 
-void MakeLargeProof(int count) {
-    StartHeadless();
+void FillWithLargeProof(int count) {
     for (int number = 1; number <= count; ++number) {
         Append(number, Round[static_cast<std::size_t>(number - 1) % std::size(Round)]);
     }

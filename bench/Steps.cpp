@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "LargeProofs.h"
 #include "expr/Expression.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
@@ -12,6 +13,11 @@
 #include "view/PutStmt.h"
 
 namespace tessaryn {
+
+void MakeLargeProof(int count) {
+    StartHeadless();
+    FillWithLargeProof(count);
+}
 
 void Write(const std::string& text) {
     RuleMode = Rule::Axiom;

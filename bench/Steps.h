@@ -8,6 +8,9 @@
 
 namespace tessaryn {
 
+// Starts the program anew with a large proof in memory.
+void MakeLargeProof(int count);
+
 // Writes a statement as an axiom.
 void Write(const std::string& text);
 

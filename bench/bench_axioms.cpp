@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "LargeProofs.h"
 #include "Steps.h"
 #include "axioms/Axioms.h"
 #include "axioms/InductionForm.h"

@@ -1,7 +1,7 @@
 // The second checker on proofs of 100 to 32,000 lines. Lines a second are what counts.
 #include <benchmark/benchmark.h>
 
-#include "LargeProofs.h"
+#include "Steps.h"
 #include "check/Check.h"
 #include "document/ProofFile.h"
 

@@ -4,7 +4,6 @@
 
 #include <filesystem>
 
-#include "LargeProofs.h"
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"

@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "LargeProofs.h"
+#include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
 #include "output/HTML.h"

@@ -2,7 +2,6 @@
 // action to the display model.
 #include <benchmark/benchmark.h>
 
-#include "LargeProofs.h"
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "LongProof.h"
+#include "UserHands.h"
 #include "desktop/Desktop.h"
 #include "document/Document.h"
 #include "expr/Parse.h"
@@ -155,12 +156,10 @@ TEST(ProofWindow, ANumberIsToggledAtOnceAndADoubleClickFolds) {
     EditAt(2).Highlight = false;
     ShowMainWindow(Proof);
     QApplication::processEvents();
-    auto* display = static_cast<ProofDisplay*>(WidgetOf(Proof.RTB));
-    const QRect number = display->CaretRect(At(3).ViewerStartLine - 1);
-    const QPoint place = number.center() + QPoint(4, 0);
-    QTest::mouseClick(display->viewport(), Qt::LeftButton, {}, place);
+    const int number = PositionOf(3, NumberStart(At(3)));
+    ClickInProof(number);
     EXPECT_FALSE(At(3).Highlight);
-    QTest::mouseDClick(display->viewport(), Qt::LeftButton, {}, place);  // only the second press
+    DoubleClickInProof(number);  // only the second press
     EXPECT_TRUE(At(3).Highlight);
     EXPECT_FALSE(At(2).Visible);
 }
