@@ -76,7 +76,7 @@ void BM_Same(benchmark::State& state) {
     size_t bytes = 0;
     for (auto _ : state) {
         for (size_t i = 1; i < statements.size(); i++) {
-            benchmark::DoNotOptimize(SameExpressions(statements[i - 1], statements[i]));
+            benchmark::DoNotOptimize(Same(statements[i - 1], statements[i]));
             bytes += statements[i - 1].size() + statements[i].size();
         }
     }

@@ -109,8 +109,8 @@ struct Reference {
                 token.TPtr += 1;
             }
         }
-        T.insert(T.begin() + R + 1, {")", 0, L});
-        T.insert(T.begin() + L, {"(", 0, R + 2});
+        T.emplace(T.begin() + R + 1, ")", 0)->TPtr = L;
+        T.emplace(T.begin() + L, "(", 0)->TPtr = R + 2;
     }
 
     void WrapAtoms() {

@@ -94,8 +94,7 @@ int PrintComparisons(std::istream& in, std::ostream& out, std::ostream& err) {
     return AnswerLines(
         in, out, err, "JSON array of two strings", [](const Json& value, std::ostream& to) {
             if (!IsPair(value)) return false;
-            const bool same =
-                SameExpressions(value[0].get<std::string>(), value[1].get<std::string>());
+            const bool same = Same(value[0].get<std::string>(), value[1].get<std::string>());
             to << (same ? "true" : "false");
             return true;
         });

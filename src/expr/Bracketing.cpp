@@ -266,24 +266,25 @@ bool RunPass(Chain& chain, int pass) {
     return true;
 }
 
-// Lays the chain out as the token table. It is filled from its end, in place: a lexed token never
-// comes to stand ahead of where it stood.
+// Lays the chain out as the token table, partners linked by their places there.
 void FillTable(Chain& chain) {
-    int index = 0;
-    for (int i = Next(chain, 0); i != 0; i = Next(chain, i)) chain.links[i].index = ++index;
-    chain.tokens.resize(chain.links.size());
-    for (int i = Prev(chain, 0); i != 0; i = Prev(chain, i)) {
-        const Link& link = chain.links[i];
-        TokenRec& token = chain.tokens[link.index];
+    TokenList table;
+    table.reserve(chain.links.size());
+    table.emplace_back();
+    for (int i = Next(chain, 0); i != 0; i = Next(chain, i)) {
+        Link& link = chain.links[i];
+        link.index = static_cast<int>(table.size());
         if (i > chain.lexed) {
-            token.Token = link.kind == Kind::RoundOpen ? '(' : ')';
-            token.Position = 0;
-        } else if (i != link.index) {
-            token = std::move(chain.tokens[i]);
+            table.emplace_back(link.kind == Kind::RoundOpen ? "(" : ")", 0).DPtr = link.node;
+        } else {
+            table.push_back(std::move(chain.tokens[i]));
         }
-        token.TPtr = chain.links[link.partner].index;
-        token.DPtr = link.node;
+        if (!IsClosing(link.kind)) continue;
+        const int open = chain.links[link.partner].index;
+        table.back().TPtr = open;
+        table[open].TPtr = link.index;
     }
+    chain.tokens = std::move(table);
 }
 
 }  // namespace

@@ -6,11 +6,15 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tessaryn {
 
 struct TokenRec {
+    TokenRec() = default;
+    TokenRec(std::string_view token, int position) : Token(token), Position(position) {}
+
     std::string Token;   // text in normal form; the quantifiers are "ALL" and "EXIST"
     int Position = 0;    // first character in the source, 1-based bytes; 0: bracket put in by Parse
     int TPtr = 0;        // of a bracket: its partner in the token table; else 0

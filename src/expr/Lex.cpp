@@ -65,38 +65,41 @@ size_t ReadTokens(std::string_view source, TokenList& tokens) {
             length = CompoundLength(source.substr(i));
         }
         if (start != White) {
-            AddToken(NormalForm(source.substr(i, length)), static_cast<int>(i) + 1, tokens);
+            tokens.emplace_back(NormalForm(source.substr(i, length)), static_cast<int>(i) + 1);
         }
         i += length;
     }
     return source.npos;
 }
 
-// Links the brackets of one kind. While a bracket is open its TPtr holds the open one around it.
-void LinkBrackets(char opening, char closing, TokenList& tokens) {
-    int open = 0;
+// Links each bracket with its partner of the same kind; false if one has none. While a bracket is
+// open its TPtr holds the open one of its kind around it.
+bool LinkBrackets(TokenList& tokens) {
+    int openRound = 0;
+    int openSquare = 0;
+    bool matched = true;
     for (int k = 1; k < std::ssize(tokens); k++) {
-        const char sign = tokens[k].Token[0];
-        if (sign == opening) {
+        const TokenRec& token = tokens[k];
+        if (!IsBracket(token)) continue;
+        const bool round = token.Token[0] == '(' || token.Token[0] == ')';
+        int& open = round ? openRound : openSquare;
+        if (IsOpening(token)) {
+            tokens[k].TPtr = std::exchange(open, k);
+        } else if (open != 0) {
             tokens[k].TPtr = open;
-            open = k;
-        } else if (sign == closing && open != 0) {
-            TokenRec& partner = tokens[open];
-            tokens[k].TPtr = open;
-            open = partner.TPtr;
-            partner.TPtr = k;
+            open = std::exchange(tokens[open].TPtr, k);
+        } else {
+            matched = false;
         }
     }
-    while (open != 0) open = std::exchange(tokens[open].TPtr, 0);
+    for (int open : {openRound, openSquare}) {
+        matched = matched && open == 0;
+        while (open != 0) open = std::exchange(tokens[open].TPtr, 0);
+    }
+    return matched;
 }
 
 }  // namespace
-
-void AddToken(std::string_view text, int position, TokenList& tokens) {
-    TokenRec& token = tokens.emplace_back();
-    token.Token = text;
-    token.Position = position;
-}
 
 void Lex(Expression& expression) {
     auto& [source, tokens, nodes, error, errorPos] = expression;
@@ -119,14 +122,12 @@ void Lex(Expression& expression) {
         error = "19. Expecting expression";
         return;
     }
-    LinkBrackets('(', ')', tokens);
-    LinkBrackets('[', ']', tokens);
-    for (const TokenRec& token : tokens) {
-        if (!IsBracket(token) || token.TPtr != 0) continue;
-        error = "20. Unmatched bracket(s)";
-        errorPos = token.Position;
-        return;
-    }
+    if (LinkBrackets(tokens)) return;
+    const auto lonely = std::find_if(tokens.begin() + 1, tokens.end(), [](const TokenRec& token) {
+        return IsBracket(token) && token.TPtr == 0;
+    });
+    error = "20. Unmatched bracket(s)";
+    errorPos = lonely->Position;
 }
 
 Expression LexExpression(std::string text) {

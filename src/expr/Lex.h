@@ -16,7 +16,4 @@ void Lex(Expression& expression);
 // The same as a value.
 Expression LexExpression(std::string text);
 
-// Appends a token that is not linked and has no node.
-void AddToken(std::string_view text, int position, TokenList& tokens);
-
 }  // namespace tessaryn

@@ -132,15 +132,18 @@ std::string PrintExpression(const Expression& expression) {
     printer.stack.reserve(64);
     printer.stack.push_back({static_cast<int>(nodes.size()) - 1, {}});
     while (!printer.stack.empty()) {
-        const Piece piece = printer.stack.back();
-        printer.stack.pop_back();
-        if (piece.node != 0) {
-            PushNode(printer, nodes[piece.node]);
-        } else if (piece.connective) {
+        const Piece& piece = printer.stack.back();
+        if (const int node = piece.node; node != 0) {
+            printer.stack.pop_back();
+            PushNode(printer, nodes[node]);
+            continue;
+        }
+        if (piece.connective) {
             PrintConnective(printer, piece.text);
         } else {
             printer.text += piece.text;
         }
+        printer.stack.pop_back();
     }
     return std::move(printer.text);
 }

@@ -59,10 +59,9 @@ bool BindsName(const TokenRec& token) {
     return IsQuantifier(token) || token.Token == "SUM" || token.Token == "PROD";
 }
 
-// Gives the bound variables the names v#1, v#2 ... False if there is nothing that could bind one.
-bool RenameBound(Expression& expression) {
+// Gives the bound variables the names v#1, v#2 ...
+void RenameBound(Expression& expression) {
     TokenList& tokens = expression.tokens;
-    if (std::none_of(tokens.begin(), tokens.end(), BindsName)) return false;
     const bool byText = expression.text.find('#') != std::string::npos;
     const std::vector<int> behind = LinkSameNames(tokens, expression.nodes.size());
     int counter = 0;
@@ -77,7 +76,6 @@ bool RenameBound(Expression& expression) {
             RenameQuantified(tokens, behind, i, newName);
         }
     }
-    return true;
 }
 
 std::string WrittenText(const TokenList& tokens) {
@@ -87,38 +85,75 @@ std::string WrittenText(const TokenList& tokens) {
     return text;
 }
 
-// Parses the text, replaces it by the form with generated names and parses that. With nodesOnly the
-// second parse is left out where it would build the same nodes.
-bool ParseRenamed(Expression& expression, std::string text, bool nodesOnly) {
-    expression.text = std::move(text);
-    Parse(expression);
-    if (!expression.error.empty()) return false;
-    if (!RenameBound(expression) && nodesOnly) return true;
+// Replaces a parsed expression by its form with generated names. False if that does not parse.
+bool Rename(Expression& expression) {
+    RenameBound(expression);
     expression.text = WrittenText(expression.tokens);
     Parse(expression);
     return expression.error.empty();
 }
 
+// Renaming can do no more than tell bound variables apart: no name of the text looks like a
+// generated one, no SUM or PROD binds a name, and the form grows beyond no limit.
+bool KeepsItsForm(const Expression& expression) {
+    return expression.text.size() < MaxSourceLength / 8 &&
+           expression.text.find('#') == std::string::npos &&
+           std::none_of(expression.nodes.begin(), expression.nodes.end(), [](const ParseRec& node) {
+               return node.Rule == Node::Prop && (node.Name == "SUM" || node.Name == "PROD");
+           });
+}
+
+// Do two trees differ in the names of bound variables at most? They are walked side by side; a
+// bound leaf is known by the number of the quantifier around it, which no other of its variable
+// stands in. What is still to be compared lies on a stack, so that no depth is too large.
+bool SameTrees(const NodeList& a, const NodeList& b) {
+    struct Pair {
+        int a;
+        int b;
+        bool scopeEnds;  // of the variables a and b
+    };
+    std::vector<Pair> todo{{static_cast<int>(a.size()) - 1, static_cast<int>(b.size()) - 1, false}};
+    std::vector<int> binderA(a.size());  // by leaf; 0: free
+    std::vector<int> binderB(b.size());
+    int quantifiers = 0;
+    while (!todo.empty()) {
+        const Pair pair = todo.back();
+        todo.pop_back();
+        const ParseRec& nodeA = a[pair.a];
+        const ParseRec& nodeB = b[pair.b];
+        if (pair.scopeEnds) {
+            binderA[pair.a] = binderB[pair.b] = 0;
+            continue;
+        }
+        if (nodeA.Rule != nodeB.Rule || binderA[pair.a] != binderB[pair.b]) return false;
+        if (IsName(nodeA.Rule)) {
+            if (binderA[pair.a] == 0 && nodeA.Name != nodeB.Name) return false;
+            continue;
+        }
+        if (nodeA.Rule == Node::ALL || nodeA.Rule == Node::EXIST) {
+            binderA[nodeA.Ptr1] = binderB[nodeB.Ptr1] = ++quantifiers;
+            todo.push_back({nodeA.Ptr1, nodeB.Ptr1, true});
+        } else {
+            todo.push_back({nodeA.Ptr1, nodeB.Ptr1, false});
+        }
+        if (nodeA.Ptr2 != 0) todo.push_back({nodeA.Ptr2, nodeB.Ptr2, false});
+    }
+    return true;
+}
+
 }  // namespace
 
 bool Same(const std::string& a, const std::string& b) {
-    if (a == b) return ParseRenamed(InHand, b, false);
-    std::string second = b;  // b may be NewStmtText itself
-    if (!ParseRenamed(InHand, a, true)) return false;
-    const NodeList first = std::move(InHand.nodes);
-    return ParseRenamed(InHand, std::move(second), false) && first == InHand.nodes;
-}
-
-bool SameExpressions(const std::string& a, const std::string& b) {
-    Expression first;
-    Expression second;
-    return ParseRenamed(first, a, true) &&
-           (a == b || (ParseRenamed(second, b, true) && first.nodes == second.nodes));
+    Expression first = ParseExpression(a);
+    Expression second = a == b ? first : ParseExpression(b);
+    if (!first.error.empty() || !second.error.empty()) return false;
+    if (KeepsItsForm(first) && KeepsItsForm(second)) return SameTrees(first.nodes, second.nodes);
+    return Rename(first) && Rename(second) && first.nodes == second.nodes;
 }
 
 std::string NamelessForm(const std::string& text) {
-    Expression renamed;
-    return ParseRenamed(renamed, text, false) ? PrintExpression(renamed) : "";
+    Expression renamed = ParseExpression(text);
+    return renamed.error.empty() && Rename(renamed) ? PrintExpression(renamed) : "";
 }
 
 std::string CollectFreeVars() {

@@ -8,14 +8,8 @@
 namespace tessaryn {
 
 // Whether the two texts are the same expression but for blanks, line breaks, redundant brackets,
-// the kind of bracket and the names of bound variables. False if one of them does not parse, then
-// with ParseError set. Leaves in NewStmtText the rewritten text of b, its bound variables named
-// v#1, v#2 ..., or the text that did not parse, and in the tables what Parse made of it; the second
-// tables are not touched.
+// the kind of bracket and the names of bound variables. False if one of them does not parse.
 bool Same(const std::string& a, const std::string& b);
-
-// The same answer with no global touched.
-bool SameExpressions(const std::string& a, const std::string& b);
 
 // What two texts have in common exactly if they are the same: the canonical text with generated
 // names for the bound variables. "" if the text does not parse.

@@ -11,14 +11,13 @@ bool OperandsContradict(const Expression& statement) {
     const std::string left = JoinWritten(statement, 3, TokenAt(statement, 2).TPtr - 1);
     const std::string right =
         JoinWritten(statement, TokenAt(statement, last - 1).TPtr + 1, last - 2);
-    return SameExpressions("~(" + left + ")", right) || SameExpressions(left, "~(" + right + ")");
+    return Same("~(" + left + ")", right) || Same(left, "~(" + right + ")");
 }
 
 bool DeniesIdentity(const Expression& statement) {
     const int last = static_cast<int>(statement.tokens.size()) - 1;
     const int leftEnd = TokenAt(statement, 4).TPtr;
-    return SameExpressions(JoinWritten(statement, 4, leftEnd),
-                           JoinWritten(statement, leftEnd + 2, last - 2));
+    return Same(JoinWritten(statement, 4, leftEnd), JoinWritten(statement, leftEnd + 2, last - 2));
 }
 
 // Puts a quantifier for each name in front of the text, the first outermost.

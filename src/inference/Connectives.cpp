@@ -73,7 +73,7 @@ Outcome DetachFrom(const Expression& implication) {
 
 Outcome Detach(const Expression& implication, const Expression& antecedent) {
     const std::string wanted = TextOfNode(implication, Root(implication).Ptr1);
-    if (!SameExpressions(wanted, antecedent.text)) {
+    if (!Same(wanted, antecedent.text)) {
         return Refused("is not the left side of line %1, which reads " + wanted + ".");
     }
     return Writes(TextOfNode(implication, Root(implication).Ptr2));
@@ -114,7 +114,7 @@ Outcome Cases(const Expression& disjunction, const Expression& implications) {
         return Refused("is no conjunction of implications: Cases needs [P=>Q] & [R=>Q] ...");
     }
     for (const Case& c : cases) {
-        if (SameExpressions(c.consequent, cases.back().consequent)) continue;
+        if (Same(c.consequent, cases.back().consequent)) continue;
         return Refused(
             "has implications to different statements: Cases needs the same right side in all.");
     }
@@ -126,7 +126,7 @@ Outcome Cases(const Expression& disjunction, const Expression& implications) {
     const NodeTexts texts(disjunction);
     for (std::size_t i = cases.size(); i-- > 0;) {
         const std::string disjunct = texts[disjuncts[i]];
-        if (SameExpressions(disjunct, cases[i].antecedent)) continue;
+        if (Same(disjunct, cases[i].antecedent)) continue;
         return Refused("does not have the cases of line %1 in the same order: " +
                        cases[i].antecedent + " stands for " + disjunct + ".");
     }
@@ -220,7 +220,7 @@ Outcome MergeImplications(const Expression& statement, int sign) {
                        ".");
     }
     const auto& [p, q] = left[0];
-    if (!SameExpressions(p, right[0].consequent) || !SameExpressions(q, right[0].antecedent)) {
+    if (!Same(p, right[0].consequent) || !Same(q, right[0].antecedent)) {
         return Refused("has implications beside this & that are no converses: " +
                        std::string(IffAndNeeds) + ".");
     }

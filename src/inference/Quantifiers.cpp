@@ -84,7 +84,7 @@ Outcome RenameFrom(const Expression& statement) {
 Outcome Rename(const Expression& statement, const std::vector<std::string>& oldNames,
                const std::vector<std::string>& newNames, const char* alreadyUsed) {
     std::string renamed = ReplaceNames(statement, oldNames, newNames);
-    if (!SameExpressions(statement.text, renamed)) return Refused(alreadyUsed);
+    if (!Same(statement.text, renamed)) return Refused(alreadyUsed);
     return Writes(std::move(renamed));
 }
 

@@ -35,7 +35,7 @@ Candidate CandidateOf(const Expression& in, int open, int close) {
 }
 
 bool IsOccurrence(const Expression& term, const Expression& in, Span span) {
-    return SameExpressions(Cut(in.text, span), term.text);
+    return Same(Cut(in.text, span), term.text);
 }
 
 std::vector<Span> SlowAllOccurrences(const Expression& term, const Expression& in, Search search) {
