@@ -8,6 +8,8 @@
 #include "check/Layout.h"
 #include "check/ProofBytes.h"
 #include "check/RuleNames.h"
+#include "check/SchemeTexts.h"
+#include "check/Schemes.h"
 #include "check/Statement.h"
 
 namespace tessaryn::check {
@@ -63,9 +65,7 @@ std::string CheckedProof::Text(int line) const {
 }
 
 std::string CheckedProof::Key(int line) const {
-    Terms terms;
-    StatementReader reader(terms);
-    return reader.ReadLoosely(Text(line)).error.empty() ? reader.Printed(true) : "";
+    return StatementKey(Text(line));
 }
 
 std::string CheckedProof::Annotation(int line) const {
@@ -100,6 +100,33 @@ std::vector<Ground> CheckedProof::RestsOn(int line) const {
         add({Ground::Kind::Witness, witness->second, std::string(record.specName)});
     }
     return grounds;
+}
+
+std::string StatementKey(std::string_view text) {
+    Terms terms;
+    StatementReader reader(terms);
+    return reader.ReadLoosely(text).error.empty() ? reader.Printed(true) : "";
+}
+
+std::vector<std::string> MenuAxioms() {
+    std::vector<std::string> names = {"Subset", "Induction"};
+    for (const Rule rule : SetAxiomRules) names.emplace_back(RuleName(rule));
+    for (const AxiomGroup& group : AxiomGroups()) {
+        for (std::size_t i = 1; i <= group.texts.size(); ++i) {
+            names.push_back(std::string(group.name) + " " + std::to_string(i));
+        }
+    }
+    for (const DefinitionText& definition : DefinitionTexts()) {
+        names.push_back("definition of " + std::string(definition.sign));
+    }
+    return names;
+}
+
+std::string MenuAxiomThatReads(std::string_view text) {
+    Terms terms;
+    Schemes schemes(terms);
+    const Term term = StatementReader(terms).ReadLoosely(text).term;
+    return term == 0 ? "" : schemes.GroupAxiom(term);
 }
 
 std::string Worded(const Ground& ground) {

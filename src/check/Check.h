@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tessaryn::check {
@@ -16,6 +17,15 @@ enum class Verdict {
     Refused,   // a line does not follow, or the file is none that the editor writes
     Declined,  // no line was found wrong, but one could not be judged
 };
+
+// A statement in words that are the same for statements that differ in bound names only; "" for
+// what is no statement. The text may have any layout.
+std::string StatementKey(std::string_view text);
+
+// The names that a ground has if its kind is Menu, without " for n of line 1".
+std::vector<std::string> MenuAxioms();
+// Which of them a created axiom of that text would have; "" none.
+std::string MenuAxiomThatReads(std::string_view text);
 
 // What a line rests on that was not derived.
 struct Ground {
@@ -28,6 +38,7 @@ struct Ground {
     Kind kind;
     int line;          // where it stands
     std::string text;  // of a premise or created axiom its statement; else the axiom, the name
+    int about = 0;     // of Induction: the line of the axiom whose n it speaks of; 0 if of every n
 };
 
 // How reports word it: "premise P & Q in line 3".
@@ -43,8 +54,7 @@ class CheckedProof {
     int Count() const;
     bool InForce(int line) const;      // at the end
     std::string Text(int line) const;  // the statement on one line
-    // The statement in words that are the same for statements that differ in bound names only.
-    std::string Key(int line) const;
+    std::string Key(int line) const;   // as StatementKey gives it
     std::string Annotation(int line) const;
     // Of an accepted proof, in the order of the lines. Equal ones are told once.
     std::vector<Ground> RestsOn(int line) const;

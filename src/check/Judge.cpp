@@ -308,11 +308,12 @@ void Judge::NoteGround() {
             return;
         }
         case Rule::Induction: {
-            const std::string line = std::to_string(AxiomThatNames("n"));
             const bool every = !Scheme("", "every").empty();
-            grounds_.push_back(
-                {Ground::Kind::Menu, line_,
-                 every ? "Induction for every n" : "Induction for n of line " + line});
+            const int about = every ? 0 : AxiomThatNames("n");
+            grounds_.push_back({Ground::Kind::Menu, line_,
+                                every ? "Induction for every n"
+                                      : "Induction for n of line " + std::to_string(about),
+                                about});
             return;
         }
         case Rule::Definition:

@@ -10,6 +10,9 @@
 namespace tessaryn::check {
 
 constexpr int GreatestOrder = 99;
+constexpr Rule SetAxiomRules[] = {Rule::CartProd,    Rule::PowerSet, Rule::Function,
+                                  Rule::SetEquality, Rule::PwUnion,  Rule::ArbUnion,
+                                  Rule::Choice,      Rule::FnSpace,  Rule::FnEquality};
 
 // The set axiom of a rule for sets or functions of order n; "" if the rule has none of that order.
 // An axiom without an order has order 1.

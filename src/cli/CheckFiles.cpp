@@ -48,7 +48,8 @@ json BasesAsJson(const Report& report, int line) {
     std::string circle;
     json bases = json::array();
     for (const Basis& basis : report.library.BasesOf(report.proof, line, circle)) {
-        bases.push_back({{"kind", basis.kind}, {"line", basis.line}, {"text", basis.text}});
+        bases.push_back(
+            {{"kind", KindName(basis.kind)}, {"line", basis.line}, {"text", basis.text}});
     }
     return bases;
 }
@@ -103,10 +104,10 @@ int Status(check::Verdict verdict) {
 
 }  // namespace
 
-std::optional<check::CheckedProof> CheckFile(const std::string& path) {
+std::optional<std::string> ReadBeginning(const std::string& path, std::uint64_t most) {
     InputFile file(path);
     if (!file.Good()) return std::nullopt;
-    std::string bytes(static_cast<std::size_t>(std::min(file.Size(), MaxProofFile)), '\0');
+    std::string bytes(static_cast<std::size_t>(std::min(file.Size(), most)), '\0');
     std::size_t length = 0;
     while (length < bytes.size()) {
         const std::size_t count = file.Read(bytes.data() + length, bytes.size() - length);
@@ -114,7 +115,13 @@ std::optional<check::CheckedProof> CheckFile(const std::string& path) {
         length += count;
     }
     bytes.resize(length);
-    return check::CheckProof(std::move(bytes));
+    return bytes;
+}
+
+std::optional<check::CheckedProof> CheckFile(const std::string& path) {
+    auto bytes = ReadBeginning(path, MaxProofFile);
+    if (!bytes) return std::nullopt;
+    return check::CheckProof(std::move(*bytes));
 }
 
 int CheckFiles(const CheckRequest& request, std::ostream& out, std::ostream& err) {

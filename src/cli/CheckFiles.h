@@ -1,6 +1,7 @@
 // Proof files held against the second checker.
 #pragma once
 
+#include <cstdint>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -24,6 +25,9 @@ struct CheckRequest {
 int CheckFiles(const CheckRequest& request, std::ostream& out, std::ostream& err);
 // Prints a line for each theorem of the library, with what it rests on.
 int ListTheorems(const CheckRequest& request, std::ostream& out, std::ostream& err);
+
+// The bytes of a file, so many at most; nothing if it can't be read.
+std::optional<std::string> ReadBeginning(const std::string& path, std::uint64_t most);
 
 // Nothing if it can't be read. As much of it as the editor would read.
 std::optional<check::CheckedProof> CheckFile(const std::string& path);

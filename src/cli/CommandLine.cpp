@@ -13,6 +13,7 @@
 #include "cli/ExpressionTables.h"
 #include "cli/Fits.h"
 #include "cli/FormState.h"
+#include "cli/Grade.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/ScriptRunner.h"
 #include "cli/StateDump.h"
@@ -32,9 +33,11 @@ namespace {
 using Words = std::vector<std::string>;
 
 constexpr int WrongUse = 2;
+constexpr int MostJobs = 256;  // at a time, of grade
+constexpr int MostSeconds = 86400;
 
 constexpr const char* Usage =
-    "usage: tessaryn-cli run [--settings DIR] [--hidden] [--check] FILE|-\n"
+    "usage: tessaryn-cli run [--settings DIR] [--hidden] [--check] [--no-files] FILE|-\n"
     "       tessaryn-cli parse\n"
     "       tessaryn-cli same\n"
     "       tessaryn-cli dump FILE.proof\n"
@@ -43,6 +46,8 @@ constexpr const char* Usage =
     "       tessaryn-cli fits FILE.proof [LINE]\n"
     "       tessaryn-cli check [--json] [--all] [--library DIR] [--jobs N] FILE.proof...\n"
     "       tessaryn-cli check --rests-on DIR [--jobs N]\n"
+    "       tessaryn-cli grade [--csv | --json] [--jobs N] [--seconds N] SHEET SUBMISSION...\n"
+    "       tessaryn-cli grade --lint SHEET\n"
     "       tessaryn-cli --version | --help\n";
 
 constexpr const char* Help =
@@ -51,6 +56,7 @@ constexpr const char* Help =
     "         --settings DIR  reads and writes the settings in DIR\n"
     "         --hidden        hidden menu items can be chosen\n"
     "         --check         checks the whole document after each action, each line of it too\n"
+    "         --no-files      an action that would open, save or print ends the run\n"
     "parse  reads expressions as JSON strings, prints their tables, one a line\n"
     "same   reads pairs of expressions as JSON arrays, prints true or false\n"
     "dump   opens a proof and prints its state as JSON\n"
@@ -64,9 +70,15 @@ constexpr const char* Help =
     "         --library DIR   axioms that are proved in DIR count as theorems\n"
     "         --rests-on DIR  tells of each theorem in DIR what it rests on\n"
     "         --jobs N        reads DIR on N threads\n"
+    "grade  gives points for proofs and scripts (files, or all in a folder) by a sheet of\n"
+    "         exercises, and says why points are missing\n"
+    "         --csv, --json   for a spreadsheet, for a program\n"
+    "         --jobs N        judges N at a time\n"
+    "         --seconds N     gives each N seconds instead of 10\n"
+    "         --lint          says what is wrong with the sheet\n"
     "\n"
-    "Exit status: 0 done; 1 refused, or an expectation failed; 2 wrong use, or a file that\n"
-    "check can't read or judge.\n";
+    "Exit status: 0 done; 1 refused, or an expectation failed, or grade could not judge all; 2\n"
+    "wrong use, a file that check can't read or judge, or a sheet that grade can't use.\n";
 
 int ReportWrongUse(const Streams& streams) {
     streams.err << Usage;
@@ -88,6 +100,8 @@ std::optional<RunRequest> ReadRunRequest(const Words& words) {
         } else if (word == "--check") {
             request.options.checkDocument = true;
             request.options.checkLines = true;
+        } else if (word == "--no-files") {
+            request.options.noFiles = true;
         } else if (word == "--settings" && i + 1 < words.size() && !words[i + 1].empty()) {
             request.options.settingsDir = words[++i];
         } else if (request.file.empty() && (word == "-" || !word.starts_with('-'))) {
@@ -96,7 +110,8 @@ std::optional<RunRequest> ReadRunRequest(const Words& words) {
             return std::nullopt;
         }
     }
-    if (request.file.empty()) return std::nullopt;
+    const bool contradicts = request.options.noFiles && !request.options.settingsDir.empty();
+    if (request.file.empty() || contradicts) return std::nullopt;
     return request;
 }
 
@@ -208,10 +223,14 @@ int FitsCommand(const Words& words, const Streams& streams) {
     return 0;
 }
 
+int CountCores() {
+    return static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+}
+
 // Nothing if the words are no right use.
 std::optional<CheckRequest> ReadCheckRequest(const Words& words) {
     CheckRequest request;
-    request.jobs = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    request.jobs = CountCores();
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::string& word = words[i];
         const bool hasValue = i + 1 < words.size() && !words[i + 1].empty();
@@ -246,6 +265,43 @@ int CheckCommand(const Words& words, const Streams& streams) {
                              : CheckFiles(*request, streams.out, streams.err);
 }
 
+// Nothing if the words are no right use.
+std::optional<GradeRequest> ReadGradeRequest(const Words& words) {
+    GradeRequest request;
+    request.jobs = CountCores();
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::string& word = words[i];
+        if (word == "--csv") {
+            request.form = GradeRequest::Form::Csv;
+        } else if (word == "--json") {
+            request.form = GradeRequest::Form::Json;
+        } else if (word == "--lint") {
+            request.lint = true;
+        } else if ((word == "--jobs" || word == "--seconds") && i + 1 < words.size()) {
+            (word == "--jobs" ? request.jobs : request.seconds) = PositiveNumber(words[++i]);
+        } else if (word.empty() || word.starts_with("--")) {
+            return std::nullopt;
+        } else if (request.sheet.empty()) {
+            request.sheet = word;
+        } else {
+            request.submissions.push_back(word);
+        }
+    }
+    const bool limited = request.jobs >= 1 && request.jobs <= MostJobs && request.seconds >= 1 &&
+                         request.seconds <= MostSeconds;
+    if (!limited || request.sheet.empty() || request.lint != request.submissions.empty()) {
+        return std::nullopt;
+    }
+    return request;
+}
+
+int GradeCommand(const Words& words, const Streams& streams) {
+    const auto request = ReadGradeRequest(words);
+    if (!request) return ReportWrongUse(streams);
+    return request->lint ? LintSheet(*request, streams.out, streams.err)
+                         : Grade(*request, streams.out, streams.err);
+}
+
 int VersionCommand(const Words& words, const Streams& streams) {
     if (!words.empty()) return ReportWrongUse(streams);
     streams.out << "tessaryn-cli " TESSARYN_VERSION "\n";
@@ -272,6 +328,7 @@ constexpr std::array Commands = std::to_array<CommandRow>({
     {"print", PrintCommand},
     {"fits", FitsCommand},
     {"check", CheckCommand},
+    {"grade", GradeCommand},
     {"--version", VersionCommand},
     {"--help", HelpCommand},
 });

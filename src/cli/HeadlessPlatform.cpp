@@ -21,6 +21,7 @@ bool HasButton(Buttons buttons, Answer answer) {
 
 void ReplyToFileDialog(const CommonDialog& dialog,
                        const std::function<void(const ChosenFile&)>& reply) {
+    if (EndedForWantOfFiles()) return;
     Headless.FileDialogs.push_back(dialog);
     ChosenFile file;
     if (!Headless.Files.empty()) {
@@ -48,8 +49,9 @@ void ShowHiddenItems() {
 
 }  // namespace
 
-void StartHeadless(const std::string& settingsDir, bool showHidden) {
+void StartHeadless(const std::string& settingsDir, bool showHidden, bool noFiles) {
     Headless = {};
+    Headless.NoFiles = noFiles;
     Headless.StartingUp = true;
     ReleasePrinter();
     StartProgram();
@@ -61,6 +63,13 @@ void StartHeadless(const std::string& settingsDir, bool showHidden) {
         Proof.Activated();
     });
     SettleQuestions();
+}
+
+bool EndedForWantOfFiles() {
+    if (!Headless.NoFiles) return false;
+    Headless.Fault = NoFilesHere;
+    EndProgram();
+    return true;
 }
 
 Form& TopForm() {

@@ -42,18 +42,25 @@ struct HeadlessState {
 
     bool StartingUp = false;  // until the forms of the start are gone
     bool Ended = false;       // EndProgram has been called
-    std::string Fault;        // a reply that did not fit its question; the program was ended for it
+    std::string Fault;        // a question that has no such reply; the program was ended for it
 
     bool PointerBeyondEdge = false;
     bool HasHelpViewer = false;
     bool HasPrinter = true;
+    bool NoFiles = false;  // a command that asks for a file, or prints, ends the program: Fault
 };
+
+inline constexpr const char* NoFilesHere = "nothing can be opened, saved or printed here";
 
 inline HeadlessState Headless;
 
 // Starts the program anew on an empty platform, up to the main window's first activation. With
 // showHidden the menu items that are made hidden become reachable.
-void StartHeadless(const std::string& settingsDir = "", bool showHidden = false);
+void StartHeadless(const std::string& settingsDir = "", bool showHidden = false,
+                   bool noFiles = false);
+
+// Whether NoFiles holds. Then the program is ended, for a command that asked.
+bool EndedForWantOfFiles();
 
 // The form that the user's actions go to; the main window if nothing else is open.
 Form& TopForm();

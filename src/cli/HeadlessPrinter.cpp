@@ -102,6 +102,7 @@ void FillTexts(std::vector<Line>& lines, RichTextBox& surface) {
 
 void ReadyPrinter(std::function<void(PrinterState, const PrinterPage&)> then) {
     Job = {};
+    if (EndedForWantOfFiles()) return;
     then(Headless.HasPrinter ? PrinterState::Ready : PrinterState::Failed,
          {PageWidth, PageHeight, 0, 0});
 }

@@ -61,30 +61,34 @@ bool ProvesSomething(const check::CheckedProof& proof) {
     });
 }
 
-const char* KindOf(const check::Ground& ground) {
+Basis::Kind KindOf(const check::Ground& ground) {
     switch (ground.kind) {
         case check::Ground::Kind::Premise:
-            return "premise";
+            return Basis::Kind::Premise;
         case check::Ground::Kind::Created:
-            return "axiom";
+            return Basis::Kind::Axiom;
         case check::Ground::Kind::Menu:
-            return "menu";
+            return Basis::Kind::Menu;
         case check::Ground::Kind::Witness:
-            return "witness";
+            break;
     }
-    return "";
+    return Basis::Kind::Witness;
 }
 
 // What is no theorem of the library rests on itself.
 Basis BasisOfItsOwn(const check::Ground& ground, bool isOwn, const std::string& ofFile) {
-    const bool namesLine = ground.text.find(" of line ") != std::string::npos;
     const bool isMenu = ground.kind == check::Ground::Kind::Menu;
-    const std::string text = ground.text + (isMenu && namesLine ? ofFile : "");
+    const std::string text = ground.text + (ground.about != 0 ? ofFile : "");
     const std::string worded = isMenu ? text : isOwn ? Worded(ground) : "axiom " + text;
-    return {KindOf(ground), isOwn ? ground.line : 0, text, worded};
+    return {KindOf(ground), isOwn ? ground.line : 0, text, worded, isOwn ? ground.about : 0};
 }
 
 }  // namespace
+
+const char* KindName(Basis::Kind kind) {
+    static const char* const names[] = {"premise", "axiom", "menu", "witness", "theorem"};
+    return names[static_cast<int>(kind)];
+}
 
 Library::Library(const std::string& directory, int jobs) {
     const std::vector<fs::path> files = ProofsIn(directory);
@@ -104,7 +108,7 @@ Library::Library(const std::string& directory, int jobs) {
 // From a line through the theorems that it uses to all that these rest on.
 struct Library::Walk {
     std::vector<Basis> bases;
-    std::set<std::pair<std::string, std::string>> told;
+    std::set<std::pair<Basis::Kind, std::string>> told;
     std::vector<std::size_t> path;  // theorems that are being followed, each used by the one ahead
     std::set<std::size_t> followed;
     std::string circle;
@@ -128,7 +132,8 @@ void Library::Follow(const check::CheckedProof& proof, int line, Walk& walk) con
         }
         const std::size_t number = known->second;
         const Theorem& theorem = theorems_[number];
-        tell({"theorem", isOwn ? ground.line : 0, theorem.file, "theorem " + theorem.file});
+        tell({Basis::Kind::Theorem, isOwn ? ground.line : 0, theorem.file,
+              "theorem " + theorem.file});
         const auto loop = std::find(walk.path.begin(), walk.path.end(), number);
         for (auto at = loop; at != walk.path.end(); ++at) {
             walk.circle += (at == loop ? "" : ", ") + theorems_[*at].file;

@@ -11,11 +11,15 @@ namespace tessaryn {
 
 // Something that a line rests on: an axiom or premise, or a theorem of a library.
 struct Basis {
-    const char* kind;  // "premise", "axiom", "menu", "witness", "theorem"
-    int line;          // in the file that is asked about; 0 if it comes by way of a theorem
+    enum class Kind { Premise, Axiom, Menu, Witness, Theorem };
+    Kind kind;
+    int line;  // in the file that is asked about; 0 if it comes by way of a theorem
     std::string text;
     std::string worded;
+    int about = 0;  // as Ground has it, in the file that is asked about
 };
+
+const char* KindName(Basis::Kind kind);  // "premise" and so on
 
 class Library {
   public:

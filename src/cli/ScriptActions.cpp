@@ -70,6 +70,7 @@ void Type(ScriptRun& run, Arguments& arguments) {
 }
 
 void GoTo(DirectoryBox& list, const std::string& directory) {
+    if (Headless.NoFiles) throw ActionFailed{NoFilesHere};
     std::error_code error;
     if (!std::filesystem::is_directory(directory, error)) {
         throw ActionFailed{"there is no directory " + directory};
@@ -144,6 +145,7 @@ void QueueFile(ScriptRun&, Arguments& arguments) {
 void ChooseWithFile(const std::string& item, Arguments& arguments) {
     const std::string path = arguments.Path();
     arguments.End();
+    if (Headless.NoFiles) throw ActionFailed{NoFilesHere};
     Control& control = ChoosableControl(item);
     Headless.Files.push_back(path);
     SendChoose(control);

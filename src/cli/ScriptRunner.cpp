@@ -7,10 +7,10 @@
 #include "check/Check.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
+#include "cli/OnOneLine.h"
 #include "cli/Script.h"
 #include "document/Invariants.h"
 #include "document/ProofFile.h"
-#include "text/Encoding.h"
 #include "view/Display.h"
 
 namespace tessaryn {
@@ -108,7 +108,7 @@ bool Step(ScriptRun& run) {
 
 void RunToEnd(ScriptRun& run, const ScriptOptions& options) {
     try {
-        StartHeadless(options.settingsDir, options.showHidden);
+        StartHeadless(options.settingsDir, options.showHidden, options.noFiles);
         while (Step(run)) {
         }
         run.failure = Headless.Fault;
@@ -119,15 +119,6 @@ void RunToEnd(ScriptRun& run, const ScriptOptions& options) {
     }
 }
 
-// A reason may hold words of a script that is no text at all.
-std::string OnOneLine(std::string text) {
-    text = ToUtf8(std::move(text));
-    for (char& character : text) {
-        if (static_cast<unsigned char>(character) < ' ' || character == '\x7f') character = ' ';
-    }
-    return text;
-}
-
 std::string LastBeep() {
     if (Headless.Beeps.empty() || Headless.Beeps.back().empty()) return "";
     return " (last beep: " + Headless.Beeps.back() + ")";
@@ -135,16 +126,23 @@ std::string LastBeep() {
 
 }  // namespace
 
-int RunScript(const std::string& script, const std::string& name, const ScriptOptions& options,
-              std::ostream& out, std::ostream& err) {
+ScriptFailure PlayScript(const std::string& script, const ScriptOptions& options,
+                         std::ostream& out) {
     ScriptRun run(out);
     run.lines = SplitLines(script);
     run.checkDocument = options.checkDocument;
     run.checkLines = options.checkLines;
     RunToEnd(run, options);
+    if (run.failure.empty()) return {};
+    return {run.line, OnOneLine(run.failure + LastBeep())};
+}
+
+int RunScript(const std::string& script, const std::string& name, const ScriptOptions& options,
+              std::ostream& out, std::ostream& err) {
+    const ScriptFailure failure = PlayScript(script, options, out);
     for (const std::string& note : Headless.Notes) err << name << ": " << OnOneLine(note) << '\n';
-    if (run.failure.empty()) return 0;
-    err << name << ':' << run.line << ": " << OnOneLine(run.failure + LastBeep()) << '\n';
+    if (failure.reason.empty()) return 0;
+    err << name << ':' << failure.line << ": " << failure.reason << '\n';
     return 1;
 }
 

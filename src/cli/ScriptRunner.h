@@ -18,7 +18,19 @@ struct ScriptOptions {
     bool showHidden = false;              // menu items that are made hidden can be chosen
     bool checkDocument = CheckByDefault;  // after each action; a fault ends the run
     bool checkLines = false;              // the same: whether each line follows
+    bool noFiles = false;                 // a command that would read or write one ends the run
 };
+
+// What ended a run early: an action that could not be done, or an expectation that failed.
+struct ScriptFailure {
+    std::size_t line = 0;  // 1-based; 0 if none was begun
+    std::string reason;    // "" if the script ran to its end
+};
+
+// Leaves the document that the script built in the globals, however the run ended. Results go to
+// out.
+ScriptFailure PlayScript(const std::string& script, const ScriptOptions& options,
+                         std::ostream& out);
 
 // Results go to out, the reason of a failure to err as "NAME:LINE: reason". Gives the exit status:
 // 0 done, 1 an action could not be done or an expectation failed.

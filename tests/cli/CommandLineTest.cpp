@@ -45,6 +45,11 @@ TEST(CommandLine, WrongUseShowsTheUsage) {
         {"print", "a", "b", "c"},
         {"check", "--json"},
         {"check", "--every", "a"},
+        {"run", "--no-files", "--settings", "d", "a"},
+        {"grade", "a"},
+        {"grade", "--lint", "a", "b"},
+        {"grade", "--jobs", "0", "a", "b"},
+        {"grade", "--seconds", "x", "a", "b"},
     };
     for (const auto& row : rows) {
         const Outcome outcome = Call(row);
@@ -67,6 +72,8 @@ TEST(CommandLine, RunTakesAFileOrStandardInput) {
     EXPECT_EQ(Call({"run", file}).error, file + ":2: there is no line 7\n");
     EXPECT_EQ(Call({"run", "--check", "--hidden", file}).status, 1);
     EXPECT_EQ(Call({"run", "/nowhere/x.script"}).status, 1);
+    EXPECT_EQ(Call({"run", "--no-files", "-"}, "save \"x\"\n").error,
+              "-:1: nothing can be opened, saved or printed here\n");
     EXPECT_EQ(Call({"run", ::testing::TempDir()}).status, 1);
 }
 
