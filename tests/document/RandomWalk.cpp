@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "Workbench.h"
+#include "cli/FormState.h"
 #include "cli/HeadlessPlatform.h"
-#include "cli/Keyboard.h"
 #include "document/ActiveLines.h"
 #include "document/Invariants.h"
 #include "document/ProofFile.h"
@@ -18,7 +18,6 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
-#include "platform/Events.h"
 #include "view/Display.h"
 
 namespace tessaryn {
@@ -48,6 +47,15 @@ bool SameContent(const Document& one, const Document& other) {
     return one.ProofCaption == other.ProofCaption && one.ProofText == other.ProofText &&
            std::equal(one.StmtTable.begin(), one.StmtTable.end(), other.StmtTable.begin(),
                       other.StmtTable.end());
+}
+
+// The bytes of a text from a place on, as scripts write them: behind them, which place it is of
+// those that read so.
+std::string PartAt(const std::string& text, std::size_t start, std::size_t length) {
+    const std::string part = text.substr(start, length);
+    int count = 0;
+    for (std::size_t at = text.find(part); at <= start; at = text.find(part, at + 1)) ++count;
+    return ' ' + Quoted(part) + ' ' + std::to_string(count);
 }
 
 }  // namespace
@@ -83,14 +91,46 @@ RandomWalk::RandomWalk(RandomNumber random) : random_(std::move(random)) {
     }
 }
 
+// True if a user could do it.
+bool RandomWalk::Do(const std::string& line) {
+    try {
+        Arguments arguments(line);
+        FindScriptAction(arguments.Word())(run_, arguments);
+    } catch (const ActionFailed&) {
+        return false;
+    }
+    script_ += line + '\n';
+    return true;
+}
+
 void RandomWalk::Step() {
     MenuItem* const command =
         random_(20) == 0 ? all_[random_(all_.size())] : usual_[random_(usual_.size())];
-    if (command != nullptr) SendChoose(*command);
+    if (command != nullptr) Do("choose " + command->Name);
     AnswerForms([this] { AnswerForm(); });
     if (Find.Visible) UseFind();
     for (std::size_t clicks = random_(3); clicks > 0; --clicks) ClickSomewhere();
     LookSomewhere();
+}
+
+void RandomWalk::Restart() {
+    StartHeadless();
+    script_.clear();
+}
+
+std::string RandomWalk::UndoAndRedo() {
+    if (!Proof.optUndo.Enabled || ModalFormOpen()) return "";
+    const Document before = Doc;
+    Do("choose optUndo");
+    const Document undone = Doc;
+    std::string fault = BrokenDocumentLaw();
+    Do("choose optRedo");
+    if (!SameContent(Doc, before)) fault = "Redo does not bring back what Undo took";
+    if (random_(2) == 0) Do("choose optUndo");
+    if (!SameContent(Doc, before) && !SameContent(Doc, undone)) {
+        fault = "Undo leads elsewhere the second time";
+    }
+    return fault;
 }
 
 int RandomWalk::Place() {
@@ -98,23 +138,34 @@ int RandomWalk::Place() {
 }
 
 void RandomWalk::ClickSomewhere() {
-    if (RuleMode == Rule::Join) {
-        Headless.Answers.push_back(random_(2) == 0 ? Answer::Yes : Answer::No);
-    }
-    const int place = Place();
-    switch (random_(8)) {
-        case 0:
-        case 1:
-            SendDoubleClick(Proof.RTB, place);
-            break;
-        case 2:
-            SendClick(Proof.RTB, place, static_cast<int>(random_(9)));
-            break;
-        default:
-            SendClick(Proof.RTB, place);
+    const std::string beforeIt = script_;
+    if (RuleMode == Rule::Join) Do(random_(2) == 0 ? "answer Yes" : "answer No");
+    const std::string answer = script_.substr(beforeIt.size());
+    std::string click = "click at " + std::to_string(Place());
+    const std::size_t kind = random_(8);
+    if (kind < 2) click = "double" + click;
+    if (kind == 2) click = Selection();
+    Do(click);
+    if (!Headless.Answers.empty()) {  // nobody has asked
+        script_ = beforeIt + script_.substr(beforeIt.size() + answer.size());
+        Headless.Answers.clear();
     }
     AnswerForms([this] { AnswerForm(); });
-    Headless.Answers.clear();
+}
+
+// A drag over some of a statement.
+std::string RandomWalk::Selection() {
+    if (StmtCount == 0) return "";
+    const auto line = static_cast<int>(random_(static_cast<std::size_t>(StmtCount))) + 1;
+    const std::string text = StmtText(line);
+    const std::size_t start = random_(text.size());
+    return "select " + std::to_string(line) + PartAt(text, start, 1 + random_(8));
+}
+
+// As a user does with a statement to pick from.
+std::string RandomWalk::Pick(RichTextBox& box) {
+    const std::string text = BoxText(box);
+    return text.empty() ? "" : "pick" + PartAt(text, random_(text.size()), 1);
 }
 
 // As a window does, which asks for the formats of the lines in sight.
@@ -125,11 +176,11 @@ void RandomWalk::LookSomewhere() {
 
 void RandomWalk::UseFind() {
     static const char* const strings[] = {"P", "@", "Premise", "\r\n\t", "no such string"};
-    Find.SearchStringTextBox.SetText(strings[random_(std::size(strings))]);
-    SendChoose(random_(2) == 0 ? Find.optForward : Find.optBackward);
-    if (random_(2) == 0) SendChoose(Find.ChkActiveOnly);
-    SendChoose(random_(4) == 0 ? Find.cmdPaste : Find.cmdFind);
-    if (random_(2) == 0) SendChoose(Find.cmdCancel);
+    Do("set SearchStringTextBox " + Quoted(strings[random_(std::size(strings))]));
+    Do(random_(2) == 0 ? "choose optForward" : "choose optBackward");
+    if (random_(2) == 0) Do("choose ChkActiveOnly");
+    Do(random_(4) == 0 ? "choose cmdPaste" : "choose cmdFind");
+    if (random_(2) == 0) Do("choose cmdCancel");
 }
 
 // A few entries and buttons; then it is closed.
@@ -138,37 +189,35 @@ void RandomWalk::AnswerAsItComes(Form& form) {
         Control& control = *form.Controls[random_(form.Controls.size())];
         auto* box = dynamic_cast<RichTextBox*>(&control);
         if (dynamic_cast<TextBox*>(&control) != nullptr || (box != nullptr && !box->ReadOnly)) {
-            ReplaceByTyping(control, random_(2) == 0 ? Names[random_(std::size(Names))]
-                                                     : Entries[random_(std::size(Entries))]);
-        } else if (box != nullptr) {
-            SendClick(*box, static_cast<int>(random_(box->GetText().size() + 1)));
+            Do("set " + control.Name + ' ' +
+               Quoted(random_(2) == 0 ? Names[random_(std::size(Names))]
+                                      : Entries[random_(std::size(Entries))]));
         } else {
-            SendChoose(control);
+            Do(box != nullptr ? Pick(*box) : "choose " + control.Name);
         }
     }
-    form.Close();
-    form.Hide();
+    if (form.Visible) Do("key Esc");
 }
 
 void RandomWalk::AnswerForm() {
     const bool cancel = random_(8) == 0;
     Form& form = TopForm();
     if (&form == &TestParser) {
-        TestParser.RTB.SetText(Entries[random_(std::size(Entries))]);
-        SendChoose(cancel ? TestParser.cmdCancel : TestParser.cmdContinue);
-        if (TestParser.Visible) SendChoose(TestParser.cmdCancel);
+        Do("set RTB " + Quoted(Entries[random_(std::size(Entries))]));
+        Do(cancel ? "choose cmdCancel" : "choose cmdContinue");
+        if (TestParser.Visible) Do("choose cmdCancel");
     } else if (&form == &MyInputBox) {
-        if (RuleMode == Rule::ESpec) MyInputBox.Text1.Text = Names[random_(std::size(Names))];
-        SendChoose(cancel ? MyInputBox.Cancel : MyInputBox.Continue);
-        if (MyInputBox.Visible) SendChoose(MyInputBox.Cancel);
+        if (RuleMode == Rule::ESpec) Do("set Text1 " + Quoted(Names[random_(std::size(Names))]));
+        Do(cancel ? "choose Cancel" : "choose Continue");
+        if (MyInputBox.Visible) Do("choose Cancel");
     } else if (&form == &Comment) {
-        Comment.CommentBox.SetText(Comments[random_(std::size(Comments))]);
-        SendChoose(cancel ? Comment.Cancel : Comment.Continue);
+        Do("set CommentBox " + Quoted(Comments[random_(std::size(Comments))]));
+        Do(cancel ? "choose Cancel" : "choose Continue");
     } else if (&form == &EditCaption) {
-        EditCaption.RTB.SetText(Comments[random_(std::size(Comments))]);
-        SendChoose(EditCaption.Continue);
+        Do("set RTB " + Quoted(Comments[random_(std::size(Comments))]));
+        Do("choose Continue");
     } else if (&form == &Warning) {
-        SendChoose(random_(2) == 0 ? Warning.cmdCancel : Warning.cmdContinue);
+        Do(random_(2) == 0 ? "choose cmdCancel" : "choose cmdContinue");
     } else {
         AnswerAsItComes(form);
     }

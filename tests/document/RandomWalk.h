@@ -1,11 +1,15 @@
-// A user who does anything at all: commands, clicks and entries at random.
+// A user who does anything at all: commands, clicks and entries at random, each of them an action
+// of a script.
 #pragma once
 
 #include <functional>
+#include <sstream>
 #include <string>
 #include <vector>
 
+#include "cli/Script.h"
 #include "platform/Form.h"
+#include "platform/RichTextBox.h"
 
 namespace tessaryn {
 
@@ -22,16 +26,29 @@ class RandomWalk {
     RandomWalk& operator=(const RandomWalk&) = delete;
 
     void Step();
+    // Starts the program anew.
+    void Restart();
+    // Takes the last command back and does it again. "", or the law that this breaks.
+    std::string UndoAndRedo();
+
+    // What has been done since the last start, for tessaryn-cli.
+    const std::string& Script() const { return script_; }
 
   private:
+    bool Do(const std::string& line);
     int Place();  // of the display
     void ClickSomewhere();
+    std::string Selection();
+    std::string Pick(RichTextBox& box);
     void LookSomewhere();
     void UseFind();
     void AnswerForm();
     void AnswerAsItComes(Form& form);
 
     RandomNumber random_;
+    std::ostringstream output_;
+    ScriptRun run_{output_};
+    std::string script_;
     std::vector<MenuItem*> usual_;  // each as often as users choose it, more or less
     std::vector<MenuItem*> all_;
 };
