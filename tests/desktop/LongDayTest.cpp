@@ -1,0 +1,152 @@
+// A long day at the window: whatever the user does there, the document holds together, what is
+// painted is what a new window would paint, and memory does not grow from day to day.
+//
+// packaging/longday makes it as long as wanted.
+#include <gtest/gtest.h>
+#include <malloc.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+
+#include "AllForms.h"
+#include "RandomUser.h"
+#include "check/Check.h"
+#include "desktop/Desktop.h"
+#include "desktop/ProofDisplay.h"
+#include "document/Invariants.h"
+#include "document/ProofFile.h"
+#include "mainwindow/Proof.h"
+#include "view/Display.h"
+
+#ifdef __SANITIZE_ADDRESS__
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // not all compilers declare it
+#endif
+
+using namespace tessaryn;
+
+namespace {
+
+constexpr int ActionsOfADay = 1000;
+
+std::size_t BytesInUse() {
+    QPixmapCache::clear();
+#ifdef __SANITIZE_ADDRESS__
+    return __sanitizer_get_current_allocated_bytes();
+#else
+    return mallinfo2().uordblks;
+#endif
+}
+
+// Without the caret, which blinks.
+QImage PictureOf(ProofDisplay& display, const QRect& caret) {
+    QImage picture = display.viewport()->grab().toImage();
+    QPainter(&picture).fillRect(caret, Qt::gray);
+    return picture;
+}
+
+// "", or how the window differs from one that is built from nothing.
+std::string DisplayFault() {
+    auto& live = static_cast<ProofDisplay&>(*WidgetOf(Proof.RTB));
+    live.Sync();
+    ProofDisplay fresh(Proof.RTB);
+    fresh.setAttribute(Qt::WA_DontShowOnScreen);
+    fresh.resize(live.size());
+    QPalette palette = live.palette();
+    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText}) {
+        const auto group = live.hasFocus() ? QPalette::Active : QPalette::Inactive;
+        palette.setBrush(QPalette::Inactive, role, palette.brush(group, role));
+    }
+    fresh.setPalette(palette);
+    fresh.show();
+    for (ProofDisplay* display : {&live, &fresh}) {  // each shows its scroll bars late
+        QCoreApplication::sendPostedEvents(display, QEvent::MetaCall);
+    }
+    if (fresh.verticalScrollBar()->maximum() != live.verticalScrollBar()->maximum()) {
+        return "the display scrolls further than a new one, or less far";
+    }
+    // What has been painted may be wider than was thought.
+    fresh.horizontalScrollBar()->setMaximum(live.horizontalScrollBar()->maximum());
+    fresh.verticalScrollBar()->setValue(live.verticalScrollBar()->value());
+    fresh.horizontalScrollBar()->setValue(live.horizontalScrollBar()->value());
+    const QRect caret = live.CaretRect(live.Caret());
+    const QImage shown = PictureOf(live, caret);
+    const QImage expected = PictureOf(fresh, caret);
+    if (shown == expected) return "";
+    shown.save(QStringLiteral("longday-shown.png"));
+    expected.save(QStringLiteral("longday-expected.png"));
+    return "longday-shown.png should be longday-expected.png";
+}
+
+std::string BrokenLaw() {
+    std::string fault = CheckDocument();
+    if (fault.empty()) fault = CheckDisplay();
+    if (fault.empty()) fault = check::CheckProof(WriteProof()).sentence;
+    if (fault.empty()) fault = DisplayFault();
+    return fault;
+}
+
+// What the user was offered is added to `seen`.
+void Day(unsigned seed, std::set<std::string>& seen) {
+    const QTemporaryDir home;
+    const std::string kept = "longday-" + std::to_string(seed) + ".log";
+    RandomUser user(seed, home.filePath(QStringLiteral("proofs")), kept);
+    StartAtHome(home.path());
+    std::string fault;
+    for (int action = 1; action <= ActionsOfADay && fault.empty(); ++action) {
+        user.Act();
+        fault = user.Finding();
+        if (Ending()) {
+            EndAtHome();
+            StartAtHome(home.path());
+        } else if (action % 100 == 0 && fault.empty()) {
+            fault = BrokenLaw();
+        }
+    }
+    user.ComeToRest();
+    EndAtHome();
+    seen.insert(user.Seen().begin(), user.Seen().end());
+    ASSERT_EQ(fault, "") << "What was done is in " << kept << "; to have it done again:\n"
+                         << "packaging/longday 0 " << seed;
+    std::remove(kept.c_str());
+}
+
+int Wanted(const char* variable, int otherwise) {
+    const char* wanted = std::getenv(variable);
+    return wanted == nullptr ? otherwise : std::atoi(wanted);
+}
+
+}  // namespace
+
+TEST(LongDay, WhateverIsDoneEverythingHoldsTogether) {
+    const int seconds = Wanted("TESSARYN_LONGDAY", 5);
+    auto seed = static_cast<unsigned>(Wanted("TESSARYN_LONGDAY_SEED", 1));
+    std::set<std::string> seen;
+    std::size_t before = 0;  // bytes in use, when all has been used once
+    int days = 0;
+    QElapsedTimer clock;
+    clock.start();
+    do {
+        Day(seed++, seen);
+        if (HasFatalFailure()) return;
+        if (++days == 10) before = BytesInUse();
+        if (seconds > 60) {
+            std::cerr << "day " << days << ", " << BytesInUse() / 1000 << " kB" << std::endl;
+        }
+    } while (clock.elapsed() < seconds * 1000LL);
+    if (days < 50) return;
+    EXPECT_LT(BytesInUse(), before + 3000000) << "after " << days << " days";
+    for (const Form* form : AllForms) EXPECT_TRUE(seen.contains(form->Name)) << form->Name;
+    for (const Control* control : Proof.Controls) {
+        const auto* item = dynamic_cast<const MenuItem*>(control);
+        if (item == nullptr || !item->Click || !item->Visible) continue;
+        EXPECT_TRUE(seen.contains(item->Name)) << item->Name;
+    }
+}
