@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ReferenceParser.h"
+#include "expr/Lex.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
 #include "expr/Same.h"
@@ -40,6 +41,7 @@ inline bool IsAsDefined(const Expression& parsed) {
 inline std::string BrokenLaw(const std::string& text) {
     const Expression parsed = ParseExpression(text);
     if (!IsAsDefined(parsed)) return "the parse is as defined";
+    if (Lexes(text) != LexExpression(text).error.empty()) return "a text lexes one way only";
     if (parsed.errorPos < 0 || parsed.errorPos > static_cast<int>(text.size()))
         return "the place of a fault lies in the text";
     if (!parsed.error.empty()) return "";

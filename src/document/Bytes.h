@@ -59,26 +59,37 @@ class ByteReader {
 
     bool Good() const { return good_; }
     std::string Bytes(std::size_t count) {
+        if (good_ && count <= window_.size()) {
+            const std::string_view bytes = window_.substr(0, count);
+            Pass(count);
+            return std::string(bytes);
+        }
         good_ = good_ && count <= left_;
         std::string bytes(good_ ? count : 0, '\0');
         Fill(bytes.data(), bytes.size());
         return bytes;
     }
-    int Int16() { return static_cast<std::int16_t>(LittleEndian(2)); }
-    int Int32() { return static_cast<std::int32_t>(LittleEndian(4)); }
-    bool Bool() { return LittleEndian(2) != 0; }
+    int Int16() { return static_cast<std::int16_t>(LittleEndian<2>()); }
+    int Int32() { return static_cast<std::int32_t>(LittleEndian<4>()); }
+    bool Bool() { return LittleEndian<2>() != 0; }
     std::string String() {
-        std::size_t length = LittleEndian(2);
-        if (length == LongString) length = LittleEndian(4);
+        std::size_t length = LittleEndian<2>();
+        if (length == LongString) length = LittleEndian<4>();
         return Bytes(length);
     }
 
   private:
-    std::uint32_t LittleEndian(std::size_t count) {
-        char bytes[4] = {};
-        Fill(bytes, count);
+    template <std::size_t Count>
+    std::uint32_t LittleEndian() {
+        char bytes[Count] = {};
+        if (good_ && Count <= window_.size()) {
+            std::copy_n(window_.data(), Count, bytes);
+            Pass(Count);
+        } else {
+            Fill(bytes, Count);
+        }
         std::uint32_t value = 0;
-        for (std::size_t i = count; i > 0; --i) {
+        for (std::size_t i = Count; i > 0; --i) {
             value = value << 8 | static_cast<unsigned char>(bytes[i - 1]);
         }
         return value;
@@ -89,12 +100,16 @@ class ByteReader {
         while (good_ && count > 0) {
             if (window_.empty()) Refill();
             const std::size_t piece = window_.copy(to, count);
-            window_.remove_prefix(piece);
-            left_ -= piece;
+            Pass(piece);
             to += piece;
             count -= piece;
             good_ = piece > 0;
         }
+    }
+
+    void Pass(std::size_t count) {
+        window_.remove_prefix(count);
+        left_ -= count;
     }
 
     void Refill() {

@@ -38,7 +38,7 @@ bool SplitsCharacter(std::string_view text, std::int64_t index) {
 // Six indexes in order, with room between them for what stands there: a comment's line ends, the
 // number and its TAB, the line end ahead of the annotation, the line ends behind it.
 void CheckIndexes(Complaint& complaint, int line, const Statement& stmt, std::int64_t expectedStart,
-                  std::string_view text) {
+                  std::string_view text, bool ascii) {
     const auto end = static_cast<std::int64_t>(text.size());
     complaint.Unless(stmt.StartLine == expectedStart, line, "StartLine does not follow on");
     complaint.Unless(stmt.EndUserComment == 0 || stmt.EndUserComment >= stmt.StartLine, line,
@@ -51,7 +51,7 @@ void CheckIndexes(Complaint& complaint, int line, const Statement& stmt, std::in
     complaint.Unless(stmt.EndStmt >= stmt.StartStmt, line, "empty statement text");
     complaint.Unless(stmt.EndRule >= stmt.StartRule, line, "empty annotation");
     complaint.Unless(std::int64_t{stmt.EndRule} + 4 <= end, line, "ends behind the text");
-    if (complaint.Any()) return;
+    if (complaint.Any() || ascii) return;
     for (const std::int64_t cut :
          {std::int64_t{stmt.StartLine}, std::int64_t{stmt.EndUserComment} + 1, numberLine,
           numberLine + depth, std::int64_t{stmt.StartStmt} - 1, std::int64_t{stmt.StartStmt},
@@ -89,12 +89,13 @@ void CheckStructure(Complaint& complaint, const Document& document) {
     const auto behind = static_cast<std::int64_t>(text.size()) + 1;
     const int count = document.StmtTable.Count();
     complaint.Unless(document.StmtCount == count, 0, "StmtCount differs from the table's size");
+    const bool ascii = AsciiEnd(text, 0) == text.size();
     std::int64_t start = count > 0 ? document.StmtTable[1].StartLine : behind;
     complaint.Unless(start == 1 || start >= 5, 0, "no room for the introduction's line ends");
     for (int line = 1; line <= count && !complaint.Any(); ++line) {
         const Statement& stmt = document.StmtTable[line];
         CheckReferences(complaint, line, document.StmtTable);
-        CheckIndexes(complaint, line, stmt, start, text);
+        CheckIndexes(complaint, line, stmt, start, text, ascii);
         start = std::int64_t{stmt.EndRule} + 5;
     }
     complaint.Unless(start == behind, 0, "text behind the last statement");
@@ -165,7 +166,7 @@ std::unordered_set<std::string> GoodTexts;
 
 void CheckText(Complaint& complaint, int line, const Statement& stmt) {
     complaint.Unless(IsNameList(stmt.FixedVars), line, "FixedVars is no name list");
-    const std::string known = StmtText(line) + stmt.FreeVars;
+    const std::string known = StmtText(line) + stmt.FreeVars.Text();
     if (GoodTexts.contains(known)) return;
     if (GoodTexts.size() > 10000) GoodTexts.clear();
     const Expression parsed = ParseExpression(StmtText(line));

@@ -33,15 +33,21 @@ void WriteRecord(ByteWriter& out, const Statement& stmt) {
     out.Bool(stmt.Highlight);
 }
 
+// Names that are hardly ever others than the likely ones need not be looked up.
+KeptText ReadNames(ByteReader& in, const KeptText& likely = {}) {
+    std::string names = in.String();
+    return names == likely.Text() ? likely : KeptText(ToUtf8(std::move(names)));
+}
+
 Statement ReadRecord(ByteReader& in) {
     Statement stmt;
     stmt.Rule = in.Int16();
     stmt.Arg1 = in.Int16();
     stmt.Arg2 = in.Int16();
-    stmt.SpecName = ToUtf8(in.String());
-    stmt.FreeVars = ToUtf8(in.String());
-    stmt.FixedVars = ToUtf8(in.String());
-    stmt.SpareVars = ToUtf8(in.String());
+    stmt.SpecName = ReadNames(in);
+    stmt.FreeVars = ReadNames(in);
+    stmt.FixedVars = ReadNames(in, stmt.FreeVars);
+    stmt.SpareVars = ReadNames(in);
     stmt.Visible = in.Bool();
     stmt.StartLine = in.Int32();
     stmt.EndUserComment = in.Int32();

@@ -1,6 +1,8 @@
 #include "document/Document.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 
 #include "document/RuleNames.h"
 
@@ -70,11 +72,25 @@ std::string StmtText(int number, const Document& document) {
     return text;
 }
 
-std::string RuleAnnotation(int rule, int arg1, int arg2) {
-    std::string text = rule == Rule::Conclusion ? "4 " : "";
+void AppendNumber(std::string& text, int number) {
+    std::array<char, 12> digits{};
+    text.append(digits.data(), std::to_chars(digits.begin(), digits.end(), number).ptr);
+}
+
+void AppendRuleAnnotation(std::string& text, int rule, int arg1, int arg2) {
+    const auto refer = [&text](int line) {
+        text += ", ";
+        AppendNumber(text, line);
+    };
+    if (rule == Rule::Conclusion) text += "4 ";
     text += RuleName(rule);
-    if (arg1 > 0 && rule != Rule::Premise) text += ", " + std::to_string(arg1);
-    if (arg2 > 0) text += ", " + std::to_string(arg2);
+    if (arg1 > 0 && rule != Rule::Premise) refer(arg1);
+    if (arg2 > 0) refer(arg2);
+}
+
+std::string RuleAnnotation(int rule, int arg1, int arg2) {
+    std::string text;
+    AppendRuleAnnotation(text, rule, arg1, arg2);
     return text;
 }
 

@@ -16,17 +16,19 @@
 #include <string>
 #include <string_view>
 
+#include "document/KeptText.h"
+
 namespace tessaryn {
 
 struct Statement {
-    int Rule = 0;  // rule number that made it
-    int Arg1 = 0;  // line references; 0 none. Of a closed Premise: the line of its Conclusion
-    int Arg2 = 0;  //
-    std::string SpecName;   // rule 3: the name brought in; of rule 4 without meaning
-    std::string FreeVars;   // name list: the free variables
-    std::string FixedVars;  // name list: those of them already in use outside the innermost premise
-    std::string SpareVars;  // name list: drawn bold; the writer leaves it ""
-    bool Visible = false;   // drawn in the display
+    int Rule = 0;        // rule number that made it
+    int Arg1 = 0;        // line references; 0 none. Of a closed Premise: the line of its Conclusion
+    int Arg2 = 0;        //
+    KeptText SpecName;   // rule 3: the name brought in; of rule 4 without meaning
+    KeptText FreeVars;   // name list: the free variables
+    KeptText FixedVars;  // name list: those of them already in use outside the innermost premise
+    KeptText SpareVars;  // name list: drawn bold; the writer leaves it ""
+    bool Visible = false;  // drawn in the display
     int StartLine = 0;  // first byte of the block; this and the next five are 1-based in ProofText
     int EndUserComment = 0;  // last byte of the comment; 0 none
     int StartStmt = 0;       // first byte of the statement text
@@ -61,6 +63,8 @@ void ShiftIndexes(Statement& stmt, int shift);
 
 // "Join, 3, 4": the annotation of a statement with that rule and those references.
 std::string RuleAnnotation(int rule, int arg1, int arg2);
+void AppendRuleAnnotation(std::string& text, int rule, int arg1, int arg2);
+void AppendNumber(std::string& text, int number);
 
 inline bool IsClosedPremise(const Statement& stmt) {
     return stmt.Rule == 1 && stmt.Arg1 > 0;

@@ -86,21 +86,18 @@ void AppendRenumbered(std::string& text, Document& document, int line, int inser
     const int oldRule = stmt.StartRule;
     ShiftReference(stmt.Arg1, insertedLine, count);
     ShiftReference(stmt.Arg2, insertedLine, count);
-    const std::string number = std::to_string(line);
-    const std::string annotation = RuleAnnotation(stmt.Rule, stmt.Arg1, stmt.Arg2);
-    const int moreDigits = Length(number) - oldDigits;
 
-    const int shift = Length(text) + 1 - oldStart;
+    ShiftIndexes(stmt, Length(text) + 1 - oldStart);
     text += ProofSlice(oldStart, oldNumber - 1, document);
-    text += number;
+    AppendNumber(text, line);
+    const int moreDigits = Length(text) + 2 - stmt.StartStmt;
     text += ProofSlice(oldNumber + oldDigits, oldRule - 1, document);
-    text += annotation;
-    text += "\r\n\r\n";
-    ShiftIndexes(stmt, shift);
     stmt.StartStmt += moreDigits;
     stmt.EndStmt += moreDigits;
     stmt.StartRule += moreDigits;
-    stmt.EndRule = stmt.StartRule + Length(annotation) - 1;
+    AppendRuleAnnotation(text, stmt.Rule, stmt.Arg1, stmt.Arg2);
+    stmt.EndRule = Length(text);
+    text += "\r\n\r\n";
 }
 
 // Puts the blocks of `count` statements in at their line and renumbers what follows, in one pass

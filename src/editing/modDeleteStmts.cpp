@@ -89,7 +89,7 @@ void AppendSurvivor(std::string& text, Statement& stmt, int levels) {
         if (stmt.EndUserComment > 0) text += "\r\n\r\n";
     }
     text.append(indent, '\t');
-    text += std::to_string(stmt.NewNumber);
+    AppendNumber(text, stmt.NewNumber);
     text += '\t';
     stmt.StartStmt = end() + 1;
     AppendOutdented(text, body, levels, false);
@@ -97,7 +97,7 @@ void AppendSurvivor(std::string& text, Statement& stmt, int levels) {
     text += "\r\n\t";
     text.append(indent, '\t');
     stmt.StartRule = end() + 1;
-    text += RuleAnnotation(stmt.Rule, stmt.Arg1, stmt.Arg2);
+    AppendRuleAnnotation(text, stmt.Rule, stmt.Arg1, stmt.Arg2);
     stmt.EndRule = end();
     text += "\r\n\r\n";
 }

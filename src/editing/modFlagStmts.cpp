@@ -22,26 +22,47 @@ void ForEachName(std::string_view list, Visit visit) {
     }
 }
 
+// A name and the lines in force in which it occurs free.
+struct UsedName {
+    std::string_view text;
+    int all = 0;    // lines
+    int plain = 0;  // those of them that are no Conclusions
+    int first = 0;  // the first of all
+
+    // Does it occur in a line that is no Conclusion?
+    bool IsKnown() const { return plain > 0; }
+    // Does it occur ahead of a line, in a Conclusion or not?
+    bool IsUsedAhead(int line) const { return all > 0 && first < line; }
+};
+using UsedNames = std::vector<UsedName*>;
+
 // What is in force ahead of a statement: the lines without a mark that are in no closed block, with
 // their free names. A Conclusion takes the lines of its block out of force and stands for them.
 class LinesInForce {
   public:
+    // The names of a list, which are the same objects for each list that holds them.
+    const UsedNames& NamesIn(const KeptText& list) {
+        const auto [found, isNew] = lists_.try_emplace(list.Key());
+        if (isNew) {
+            ForEachName(list, [&](std::string_view name) {
+                UsedName& used = names_[name];
+                used.text = name;
+                found->second.push_back(&used);
+            });
+        }
+        return found->second;
+    }
+
     void Add(int line, const Statement& stmt) {
         if (IsConclusion(stmt)) DropFrom(stmt.Arg1);
         if (stmt.Rule == Rule::Premise) premises_.push_back(line);
-        const bool plain = !IsConclusion(stmt);
-        ForEachName(stmt.FreeVars, [&](std::string_view name) {
-            Uses& uses = names_[name];
-            if (uses.all++ == 0) uses.first = line;
-            if (plain) ++uses.plain;
-            log_.push_back({line, &uses, plain});
-        });
-    }
-
-    // Does the name occur free in a line that is no Conclusion?
-    bool IsKnown(std::string_view name) const {
-        const auto found = names_.find(name);
-        return found != names_.end() && found->second.plain > 0;
+        const int plain = IsConclusion(stmt) ? 0 : 1;
+        const UsedNames& names = NamesIn(stmt.FreeVars);
+        for (UsedName* name : names) {
+            if (name->all++ == 0) name->first = line;
+            name->plain += plain;
+        }
+        if (!names.empty()) log_.push_back({line, plain, &names});
     }
 
     // The innermost premise ahead of a line; 0 if there is none.
@@ -50,35 +71,27 @@ class LinesInForce {
         return next == premises_.begin() ? 0 : *(next - 1);
     }
 
-    // Does the name occur free ahead of a line, Conclusions included?
-    bool IsUsedAhead(std::string_view name, int line) const {
-        const auto found = names_.find(name);
-        return found != names_.end() && found->second.all > 0 && found->second.first < line;
-    }
-
   private:
-    struct Uses {
-        int all = 0;    // lines in force with the name
-        int plain = 0;  // those of them that are no Conclusions
-        int first = 0;  // the first of all
-    };
-    struct LogEntry {
+    struct Entry {
         int line;
-        Uses* uses;
-        bool plain;
+        int plain;
+        const UsedNames* names;
     };
 
     void DropFrom(int line) {
         for (; !log_.empty() && log_.back().line >= line; log_.pop_back()) {
-            --log_.back().uses->all;
-            if (log_.back().plain) --log_.back().uses->plain;
+            for (UsedName* name : *log_.back().names) {
+                --name->all;
+                name->plain -= log_.back().plain;
+            }
         }
         while (!premises_.empty() && premises_.back() >= line) premises_.pop_back();
     }
 
-    std::unordered_map<std::string_view, Uses> names_;  // keys lie in the statements' lists
-    std::vector<LogEntry> log_;                         // uses in force, ascending
-    std::vector<int> premises_;                         // premises in force, ascending
+    std::unordered_map<std::size_t, UsedNames> lists_;      // by key
+    std::unordered_map<std::string_view, UsedName> names_;  // the texts lie in lists
+    std::vector<Entry> log_;                                // lines in force, ascending
+    std::vector<int> premises_;                             // premises in force, ascending
 };
 
 bool IsMarked(int line) {
@@ -86,35 +99,34 @@ bool IsMarked(int line) {
 }
 
 bool BringsIn(const Statement& stmt, std::string_view name) {
-    return stmt.Rule == Rule::ESpec && stmt.SpecName == name;
+    return stmt.Rule == Rule::ESpec && stmt.SpecName.Text() == name;
 }
 
 // Is the name fixed in the statement, now that what is marked has gone?
-bool IsFixedNow(const LinesInForce& ahead, int line, const Statement& stmt, std::string_view name) {
+bool IsFixedNow(const LinesInForce& ahead, int line, const Statement& stmt, const UsedName& name) {
     int premise = line;
     if (stmt.Rule != Rule::Premise) {
         premise = ahead.InnermostPremise(IsConclusion(stmt) ? stmt.Arg1 : line);
     }
-    return premise == 0 || ahead.IsUsedAhead(name, premise);
+    return premise == 0 || name.IsUsedAhead(premise);
 }
 
-bool NameFails(const LinesInForce& ahead, int line, const Statement& stmt, std::string_view name) {
-    if (ahead.IsKnown(name)) {
-        if (BringsIn(stmt, name)) return true;
-    } else if (!BringsIn(stmt, name) && stmt.Rule != Rule::Premise && stmt.Rule != Rule::Axiom) {
+bool NameFails(const LinesInForce& ahead, int line, const Statement& stmt, const UsedName& name) {
+    if (name.IsKnown()) {
+        if (BringsIn(stmt, name.text)) return true;
+    } else if (!BringsIn(stmt, name.text) && stmt.Rule != Rule::Premise &&
+               stmt.Rule != Rule::Axiom) {
         return true;
     }
-    return HoldsName(stmt.FixedVars, name) != IsFixedNow(ahead, line, stmt, name);
+    return HoldsName(stmt.FixedVars, name.text) != IsFixedNow(ahead, line, stmt, name);
 }
 
-bool Falls(const LinesInForce& ahead, int line, const Statement& stmt) {
+bool Falls(LinesInForce& ahead, int line, const Statement& stmt) {
     if (IsMarked(stmt.Arg1) || IsMarked(stmt.Arg2)) return true;
     if (IsConclusion(stmt) && IsMarked(line - 1)) return true;
-    bool fails = false;
-    ForEachName(stmt.FreeVars, [&](std::string_view name) {
-        fails = fails || NameFails(ahead, line, stmt, name);
-    });
-    return fails;
+    const UsedNames& names = ahead.NamesIn(stmt.FreeVars);
+    return std::any_of(names.begin(), names.end(),
+                       [&](const UsedName* name) { return NameFails(ahead, line, stmt, *name); });
 }
 
 }  // namespace
@@ -133,12 +145,11 @@ void FlagStmts(int stmt, int& count) {
     count = 1;
     LinesInForce inForce;
     for (int line = 1; line <= StmtCount; ++line) {
-        Statement& here = EditAt(line);
-        if (line > stmt && Falls(inForce, line, here)) {
-            here.Flagged = true;
+        if (line > stmt && Falls(inForce, line, At(line))) {
+            EditAt(line).Flagged = true;
             ++count;
         }
-        if (!here.Flagged) inForce.Add(line, here);
+        if (!At(line).Flagged) inForce.Add(line, At(line));
     }
 }
 

@@ -52,8 +52,10 @@ size_t CompoundLength(std::string_view rest) {
     return 1;
 }
 
-// Appends the tokens of source; returns the 0-based place of an illegal character, npos if none.
-size_t ReadTokens(std::string_view source, TokenList& tokens) {
+// Calls take with the 0-based place and the length of each token; gives the 0-based place of an
+// illegal character, npos if there is none.
+template <class Take>
+size_t ForEachToken(std::string_view source, Take take) {
     size_t i = 0;
     while (i < source.size()) {
         const CharClass start = ClassOf(source[i]);
@@ -64,12 +66,17 @@ size_t ReadTokens(std::string_view source, TokenList& tokens) {
         } else if (start == Compound) {
             length = CompoundLength(source.substr(i));
         }
-        if (start != White) {
-            tokens.emplace_back(NormalForm(source.substr(i, length)), static_cast<int>(i) + 1);
-        }
+        if (start != White) take(i, length);
         i += length;
     }
     return source.npos;
+}
+
+// Appends the tokens of source; returns the 0-based place of an illegal character, npos if none.
+size_t ReadTokens(std::string_view source, TokenList& tokens) {
+    return ForEachToken(source, [&](size_t at, size_t length) {
+        tokens.emplace_back(NormalForm(source.substr(at, length)), static_cast<int>(at) + 1);
+    });
 }
 
 // Links each bracket with its partner of the same kind; false if one has none. While a bracket is
@@ -128,6 +135,19 @@ void Lex(Expression& expression) {
     });
     error = "20. Unmatched bracket(s)";
     errorPos = lonely->Position;
+}
+
+bool Lexes(std::string_view text) {
+    bool any = false;
+    bool closedTooSoon = false;
+    int open[2] = {};  // round, square
+    const size_t illegal = ForEachToken(text, [&](size_t at, size_t) {
+        const char sign = text[at];
+        any = true;
+        if (sign == '(' || sign == '[') ++open[sign == '['];
+        if (sign == ')' || sign == ']') closedTooSoon |= --open[sign == ']'] < 0;
+    });
+    return any && illegal == text.npos && !closedTooSoon && open[0] == 0 && open[1] == 0;
 }
 
 Expression LexExpression(std::string text) {

@@ -16,4 +16,7 @@ void Lex(Expression& expression);
 // The same as a value.
 Expression LexExpression(std::string text);
 
+// Does the text lex? Builds nothing.
+bool Lexes(std::string_view text);
+
 }  // namespace tessaryn

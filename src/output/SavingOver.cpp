@@ -56,9 +56,9 @@ void AskToSaveOver(const Message& question, EventHandler save, EventHandler othe
 }  // namespace
 
 SeenFile AsWritten(const std::string& path, const std::string& bytes) {
-    SeenFile file{path, bytes.size(), {}};
-    file.print.Add(bytes);
-    return file;
+    FingerprintTaker print;
+    print.Add(bytes);
+    return {path, bytes.size(), print.Value()};
 }
 
 void SaveUnlessChanged(EventHandler save, EventHandler otherwise) {

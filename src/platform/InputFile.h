@@ -22,12 +22,12 @@ class InputFile {
     // Puts up to `count` of the next bytes to a place and gives how many; 0 at the end, or where
     // the file can't be read.
     std::size_t Read(char* to, std::size_t count);
-    const Fingerprint& Print() const { return print_; }  // of what was read
+    Fingerprint Print() const { return print_.Value(); }  // of what was read
 
   private:
     int number_ = -1;
     std::uint64_t size_ = 0;
-    Fingerprint print_;
+    FingerprintTaker print_;
 };
 
 }  // namespace tessaryn

@@ -163,7 +163,6 @@ void Mix(std::uint64_t& key, std::size_t value) {
 
 // All that a block's formats depend on besides its bytes.
 std::uint64_t BlockKey(const Statement& stmt) {
-    static const std::hash<std::string_view> hashOf;
     std::uint64_t key = 0xCBF29CE484222325ULL;
     for (const int part : {stmt.EndUserComment > 0 ? stmt.EndUserComment - stmt.StartLine : -1,
                            stmt.StartStmt - stmt.StartLine, stmt.EndStmt - stmt.StartLine,
@@ -171,21 +170,24 @@ std::uint64_t BlockKey(const Statement& stmt) {
         Mix(key, static_cast<std::size_t>(part));
     }
     Mix(key, stmt.Highlight ? 1 : 0);
-    for (const std::string* list : {&stmt.FreeVars, &stmt.FixedVars, &stmt.SpareVars}) {
-        Mix(key, list->empty() ? 0 : hashOf(*list));
+    for (const KeptText& list : {stmt.FreeVars, stmt.FixedVars, stmt.SpareVars}) {
+        Mix(key, list.Key());
     }
     return key;
 }
 
-void AppendBlock(std::string& text, const Statement& stmt) {
-    const std::size_t start = text.size();
-    const auto place = [&](int index) {
-        return start + static_cast<std::size_t>(index - stmt.StartLine);
-    };
-    text += ProofSlice(stmt.StartLine, stmt.EndRule + 4);
-    if (stmt.EndUserComment > 0) SwapElementSigns(text, start, place(stmt.EndUserComment) + 1);
-    SwapElementSigns(text, place(stmt.StartStmt), place(stmt.EndStmt) + 1);
-    if (HasTriangle(stmt) && BlockIsFolded(stmt)) text[place(stmt.StartRule)] = '5';
+// Turns the element signs of a block, which begins at `start` in the text, into what shows them.
+// `sign` is the text's first "@" from there on, and the first one behind the block afterwards.
+void ShowSigns(std::string& text, std::size_t start, const Statement& stmt, std::size_t& sign) {
+    const std::size_t end = start + static_cast<std::size_t>(BlockLength(stmt));
+    for (; sign < end; sign = text.find('@', sign + 1)) {
+        const int index = stmt.StartLine + static_cast<int>(sign - start);
+        const int last = index < stmt.StartStmt ? stmt.EndUserComment : stmt.EndStmt;
+        if (index <= last) text[sign] = 'e';
+    }
+    if (HasTriangle(stmt) && BlockIsFolded(stmt)) {
+        text[start + static_cast<std::size_t>(stmt.StartRule - stmt.StartLine)] = '5';
+    }
 }
 
 void AppendIntroduction(std::string& text) {
@@ -214,20 +216,42 @@ struct Content {
     std::vector<int> numbers;  // of each block's statement
 };
 
+// Adds the blocks of the visible lines; those that stand side by side are copied at once.
+void AppendVisible(Content& content, int firstLine, int lastLine) {
+    std::size_t start = content.text.size();
+    for (int first = firstLine; first <= lastLine; ++first) {
+        if (!At(first).Visible) continue;
+        int last = first;
+        while (last < lastLine && At(last + 1).Visible) ++last;
+        content.text += ProofSlice(At(first).StartLine, At(last).EndRule + 4);
+        std::size_t sign = content.text.find('@', start);
+        for (int number = first; number <= last; ++number) {
+            const Statement& stmt = At(number);
+            ShowSigns(content.text, start, stmt, sign);
+            content.blocks.push_back({BlockLength(stmt), BlockKey(stmt)});
+            content.numbers.push_back(number);
+            start += static_cast<std::size_t>(BlockLength(stmt));
+        }
+        first = last;
+    }
+}
+
 Content ContentOf(int firstLine, int lastLine) {
     Content content;
+    if (firstLine <= lastLine) {
+        // More than they show, at most.
+        const std::size_t lines = static_cast<std::size_t>(lastLine - firstLine + 1);
+        const int start = firstLine == 1 ? 1 : At(firstLine).StartLine;
+        content.text.reserve(static_cast<std::size_t>(At(lastLine).EndRule + 5 - start));
+        content.blocks.reserve(lines);
+        content.numbers.reserve(lines);
+    }
     if (firstLine == 1 && IntroEnd > 0) {
         AppendIntroduction(content.text);
         content.blocks.push_back({IntroEnd + 4, static_cast<std::uint64_t>(StmtFontSize)});
         content.numbers.push_back(Introduction);
     }
-    for (int number = firstLine; number <= lastLine; ++number) {
-        const Statement& stmt = At(number);
-        if (!stmt.Visible) continue;
-        AppendBlock(content.text, stmt);
-        content.blocks.push_back({BlockLength(stmt), BlockKey(stmt)});
-        content.numbers.push_back(number);
-    }
+    AppendVisible(content, firstLine, lastLine);
     return content;
 }
 
@@ -336,7 +360,7 @@ std::string CheckDisplay() {
 void CheckStoredText() {
     StoredTextIsDamaged = false;
     for (int number = 1; number <= StmtCount && !StoredTextIsDamaged; ++number) {
-        StoredTextIsDamaged = !LexError(number).empty();
+        StoredTextIsDamaged = !Lexes(StoredText(number));
     }
 }
 

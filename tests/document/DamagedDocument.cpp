@@ -36,7 +36,7 @@ void DamageNumber(Statement& stmt, const RandomNumber& random) {
 
 void DamageDocument(const RandomNumber& random) {
     Statement& stmt = EditAt(1 + static_cast<int>(random(static_cast<std::size_t>(StmtCount))));
-    std::string* const lists[] = {&stmt.SpecName, &stmt.FreeVars, &stmt.FixedVars, &stmt.SpareVars};
+    KeptText* const lists[] = {&stmt.SpecName, &stmt.FreeVars, &stmt.FixedVars, &stmt.SpareVars};
     constexpr const char* names[] = {"", " ", "x", " x ", " y x u ", "\xC3", "\xE2\x82\xAC", "  "};
     constexpr std::string_view bytes = "\t\n\r4@\xA6\xC3 (P~";
     switch (random(6)) {

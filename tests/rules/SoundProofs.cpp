@@ -44,7 +44,7 @@ bool LinesHold(Structure& structure, const std::vector<Expression>& lines, int l
     // A name from an E Spec that a premise was put ahead of later outlives its block.
     const bool isSpecified = std::any_of(
         StmtTable.begin(), std::next(StmtTable.begin(), line), [&](const Statement& above) {
-            return above.Rule == Rule::ESpec && fresh == std::vector{above.SpecName};
+            return above.Rule == Rule::ESpec && fresh == std::vector{above.SpecName.Text()};
         });
     return structure.Try(fresh, !isSpecified,
                          [&] { return structure.Holds(text) && rest(line + 1, end); });
