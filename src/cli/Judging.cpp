@@ -73,11 +73,13 @@ class Examiner {
 
     // Why a line that is the goal does not count; "" if it does.
     std::string Objection(int line) const {
+        for (const check::Ground& ground : proof_.RestsOn(line)) {
+            if (IsGoalItself(ground)) return Assumed(line, ground);
+        }
         std::string circle;
         std::vector<std::string> objections;
         bool isNews = false;  // that such a thing is not allowed
         for (const Basis& basis : BasesOf(line, circle)) {
-            if (IsGoalItself(basis)) return Assumed(line, basis);
             if (IsAllowed(basis)) continue;
             objections.push_back(Told(basis));
             isNews = basis.kind == Kind::Axiom || basis.kind == Kind::Menu;
@@ -97,19 +99,20 @@ class Examiner {
         return told == things.size() ? all : all + " and more";
     }
 
-    // In the proof, not by way of a theorem that it uses.
-    bool IsGoalItself(const Basis& basis) const {
-        const bool isStatement = basis.kind != Kind::Menu && basis.kind != Kind::Witness;
-        return isStatement && basis.line != 0 && proof_.Key(basis.line) == exercise_.goalKey;
+    // The goal may be a theorem of the library. That does not make it an axiom of the proof.
+    bool IsGoalItself(const check::Ground& ground) const {
+        const bool isOwn = ground.kind == check::Ground::Kind::Premise ||
+                           ground.kind == check::Ground::Kind::Created;
+        return isOwn && proof_.Key(ground.line) == exercise_.goalKey;
     }
 
-    static std::string Assumed(int line, const Basis& basis) {
-        const bool isPremise = basis.kind == Kind::Premise;
-        if (basis.line == line) {
+    static std::string Assumed(int line, const check::Ground& ground) {
+        const bool isPremise = ground.kind == check::Ground::Kind::Premise;
+        if (ground.line == line) {
             return Goal(line) + "only as " + (isPremise ? "a premise" : "an axiom");
         }
         return Goal(line) + "it rests on the " + (isPremise ? "premise" : "axiom") + " in " +
-               Line(basis.line) + ", which says the same";
+               Line(ground.line) + ", which says the same";
     }
 
     bool IsAllowed(const Basis& basis) const {

@@ -48,19 +48,6 @@ std::vector<std::optional<check::CheckedProof>> CheckAll(const std::vector<fs::p
     return proofs;
 }
 
-// Its last statement, if that stands without a premise, says nothing of a witness, and is not
-// itself among its axioms.
-bool ProvesSomething(const check::CheckedProof& proof) {
-    if (proof.verdict != check::Verdict::Accepted || proof.Count() == 0) return false;
-    const std::string statement = proof.Key(proof.Count());
-    const std::vector<check::Ground> grounds = proof.RestsOn(proof.Count());
-    return std::none_of(grounds.begin(), grounds.end(), [&](const check::Ground& ground) {
-        return ground.kind == check::Ground::Kind::Premise ||
-               ground.kind == check::Ground::Kind::Witness ||
-               (ground.kind == check::Ground::Kind::Created && proof.Key(ground.line) == statement);
-    });
-}
-
 Basis::Kind KindOf(const check::Ground& ground) {
     switch (ground.kind) {
         case check::Ground::Kind::Premise:
@@ -98,11 +85,33 @@ Library::Library(const std::string& directory, int jobs) {
         if (!proofs[i] || proofs[i]->verdict != check::Verdict::Accepted) {
             faults_.push_back(files[i].string() + ": " +
                               (proofs[i] ? Summary(*proofs[i]) : "the file can't be read"));
-        } else if (ProvesSomething(*proofs[i])) {
-            byStatement_.emplace(proofs[i]->Key(proofs[i]->Count()), theorems_.size());
-            theorems_.push_back({name, *proofs[i]});
+            continue;
         }
+        const int last = proofs[i]->Count();
+        if (last == 0) continue;
+        const std::string key = proofs[i]->Key(last);
+        std::vector<Use> uses = UsesOf(*proofs[i], last);
+        // A theorem stands without a premise, says nothing of a witness, and is no axiom of its
+        // own.
+        const bool isTheorem = std::none_of(uses.begin(), uses.end(), [&](const Use& use) {
+            return use.ground.kind == check::Ground::Kind::Premise ||
+                   use.ground.kind == check::Ground::Kind::Witness || use.key == key;
+        });
+        if (!isTheorem) continue;
+        byStatement_.emplace(key, theorems_.size());
+        theorems_.push_back({name, *proofs[i]});
+        uses_.push_back(std::move(uses));
     }
+}
+
+std::vector<Library::Use> Library::UsesOf(const check::CheckedProof& proof, int line) {
+    std::vector<Use> uses;
+    for (check::Ground& ground : proof.RestsOn(line)) {
+        const bool isCreated = ground.kind == check::Ground::Kind::Created;
+        uses.push_back({std::move(ground), ""});
+        if (isCreated) uses.back().key = proof.Key(uses.back().ground.line);
+    }
+    return uses;
 }
 
 // From a line through the theorems that it uses to all that these rest on.
@@ -114,7 +123,7 @@ struct Library::Walk {
     std::string circle;
 };
 
-void Library::Follow(const check::CheckedProof& proof, int line, Walk& walk) const {
+void Library::Follow(const std::vector<Use>& uses, Walk& walk) const {
     const auto tell = [&walk](Basis basis) {
         if (walk.told.emplace(basis.kind, basis.text).second) {
             walk.bases.push_back(std::move(basis));
@@ -122,18 +131,15 @@ void Library::Follow(const check::CheckedProof& proof, int line, Walk& walk) con
     };
     const bool isOwn = walk.path.empty();
     const std::string ofFile = isOwn ? "" : " of " + theorems_[walk.path.back()].file;
-    for (const check::Ground& ground : proof.RestsOn(line)) {
-        const bool isCreated = ground.kind == check::Ground::Kind::Created;
-        const auto known =
-            isCreated ? byStatement_.find(proof.Key(ground.line)) : byStatement_.end();
+    for (const auto& [ground, key] : uses) {
+        const auto known = key.empty() ? byStatement_.end() : byStatement_.find(key);
         if (known == byStatement_.end()) {
             tell(BasisOfItsOwn(ground, isOwn, ofFile));
             continue;
         }
         const std::size_t number = known->second;
-        const Theorem& theorem = theorems_[number];
-        tell({Basis::Kind::Theorem, isOwn ? ground.line : 0, theorem.file,
-              "theorem " + theorem.file});
+        const std::string& file = theorems_[number].file;
+        tell({Basis::Kind::Theorem, isOwn ? ground.line : 0, file, "theorem " + file});
         const auto loop = std::find(walk.path.begin(), walk.path.end(), number);
         for (auto at = loop; at != walk.path.end(); ++at) {
             walk.circle += (at == loop ? "" : ", ") + theorems_[*at].file;
@@ -141,7 +147,7 @@ void Library::Follow(const check::CheckedProof& proof, int line, Walk& walk) con
         if (!walk.circle.empty()) return;
         if (!walk.followed.insert(number).second) continue;
         walk.path.push_back(number);
-        Follow(theorem.proof, theorem.proof.Count(), walk);
+        Follow(uses_[number], walk);
         walk.path.pop_back();
         if (!walk.circle.empty()) return;
     }
@@ -150,7 +156,7 @@ void Library::Follow(const check::CheckedProof& proof, int line, Walk& walk) con
 std::vector<Basis> Library::BasesOf(const check::CheckedProof& proof, int line,
                                     std::string& circle) const {
     Walk walk;
-    Follow(proof, line, walk);
+    Follow(UsesOf(proof, line), walk);
     circle = walk.circle;
     return walk.bases;
 }

@@ -44,10 +44,16 @@ class Library {
     const std::vector<Theorem>& Theorems() const { return theorems_; }  // sorted by file
 
   private:
+    struct Use {
+        check::Ground ground;
+        std::string key;  // of a created axiom
+    };
     struct Walk;
-    void Follow(const check::CheckedProof& proof, int line, Walk& walk) const;
+    static std::vector<Use> UsesOf(const check::CheckedProof& proof, int line);
+    void Follow(const std::vector<Use>& uses, Walk& walk) const;
 
     std::vector<Theorem> theorems_;
+    std::vector<std::vector<Use>> uses_;  // of each theorem
     std::map<std::string, std::size_t> byStatement_;  // the first of those that read alike
     std::vector<std::string> faults_;
 };

@@ -243,7 +243,8 @@ TEST_F(GradeTest, NamesStayNamesInATable) {
               "4, says Q & P)\"\n"
               "\"a \"\"b\"\",  [2J?.proof\",1.5,0,1.5,2.5,\"or: no line is the goal (the last "
               "one, line 4, says Q & P)\"\n");
-    EXPECT_EQ(Grade({Path("sheet.json"), Path("class"), "--jobs", "9"}).out, R"(=1+1
+    fs::rename(Path("sheet.json"), Path("class/sheet.json"));  // where it is no submission
+    EXPECT_EQ(Grade({Path("class/sheet.json"), Path("class"), "--jobs", "9"}).out, R"(=1+1
 
    1  swap
    2  or
@@ -316,13 +317,20 @@ TEST_F(GradeTest, AxiomsAndTheoremsMayBeUsedThatTheSheetAllows) {
         {"name": "full", "goal": "R | S", "axioms": ["R&R"]},
         {"name": "theorem", "goal": "R & R | T | U", "axioms": ["R&R"], "library": "lib"},
         {"name": "only the theorem", "goal": "R & R | T | U", "library": "lib"},
-        {"name": "number", "goal": "Set(n) & 1@n", "axioms": ["Set(n)"], "premises": ["1@n"]}]})J");
+        {"name": "number", "goal": "Set(n) & 1@n", "axioms": ["Set(n)"], "premises": ["1@n"]},
+        {"name": "known", "goal": "V | ~V", "library": "lib"}]})J");
     fs::create_directory(directory / "lib");
     WriteFile("lib/t.proof", ProofOf({"Axiom: R & R", "Arb Or 1: R & R | T"}));
+    WriteFile("lib/u.proof", ProofOf({"Or Not: V | ~V"}));
+    WriteFile("lib/v.proof", ProofOf({"Axiom: V | ~V", "Arb Or 1: V | ~V | W"}));
     HandIn("a.proof", ProofOf({"Axiom: R & R", "Split 1: R", "Arb Or 2: R | S"}));
     HandIn("b.proof", ProofOf({"Axiom: R & R | T", "Arb Or 1: R & R | T | U"}));
     HandIn("c.proof", ProofOf({"Axiom: Set(n)", "Axiom: 1 @ n", "Join 1 2: Set(n) & 1 @ n"}));
+    HandIn("d.proof", ProofOf({"Axiom: V | ~V | W", "Axiom: V | ~V",
+                               "Join 1 2: [V | ~V | W] & [V | ~V]", "Split 3: V | ~V"}));
     const std::map<std::string, std::string> expected = {
+        {"d.proof",
+         "0: line 4 is the goal, but it rests on the axiom in line 2, which says the same"},
         {"a.proof", "1: no line is the goal (the last one, line 3, says R | S)"},
         {"b.proof",
          "1: line 2 is the goal, but it rests on axiom R & R by way of a theorem, which is not "
