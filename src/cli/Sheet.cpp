@@ -12,6 +12,7 @@
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
 #include "platform/Files.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 
@@ -49,7 +50,7 @@ struct GivenStatement {
 
 GivenStatement ReadStatement(const std::string& words) {
     GivenStatement statement;
-    const Expression expression = ParseExpression(words);
+    const Expression expression = ParseExpression(WithElementSign(words));
     statement.error = expression.error;
     if (!statement.error.empty()) return statement;
     statement.text = PrintExpression(expression);
@@ -212,9 +213,10 @@ class SheetReader {
         const GivenStatement given = ReadStatement(axiom);
         // Any word is a statement, but one that somebody wants for an axiom is a name misspelt.
         if (!given.error.empty() || IsOneWord(axiom)) {
-            return Fault("the axiom " + InQuotes(axiom) + " is none of the menus" +
-                         LikelyMeant(axiom) +
-                         (given.error.empty() ? "" : ", and no statement: " + given.error));
+            const std::string meant = LikelyMeant(axiom);
+            const bool isStatement = given.error.empty() || !meant.empty();
+            return Fault("the axiom " + InQuotes(axiom) + " is none of the menus" + meant +
+                         (isStatement ? "" : ", and no statement: " + given.error));
         }
         Allow(exercise, "the axiom " + InQuotes(axiom), given);
     }

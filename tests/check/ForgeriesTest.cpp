@@ -134,9 +134,7 @@ TEST(Forgeries, FindOutACheckerThatDoesNotLook) {
 }
 
 CheckedProof CheckedLines(const std::vector<std::string>& notations) {
-    WrittenLines lines;
-    for (const std::string& notation : notations) lines.push_back(ReadLine(notation));
-    return check::CheckProof(FileOf(lines));
+    return check::CheckProof(ProofOf(notations));
 }
 
 std::string Repeated(const std::string& text, int times) {

@@ -188,6 +188,12 @@ std::string FileOf(const WrittenLines& lines) {
     return Writer(lines).Bytes();
 }
 
+std::string ProofOf(const std::vector<std::string>& notations) {
+    WrittenLines lines;
+    for (const std::string& notation : notations) lines.push_back(ReadLine(notation));
+    return FileOf(lines);
+}
+
 WrittenLines OpenProofLines() {
     WrittenLines lines;
     for (int i = 1; i <= StmtCount; ++i) {

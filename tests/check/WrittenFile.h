@@ -30,6 +30,7 @@ std::string Unescaped(const std::string& text);
 
 // The bytes of the file. A premise is closed by the Conclusion that names it.
 std::string FileOf(const WrittenLines& lines);
+std::string ProofOf(const std::vector<std::string>& notations);  // the same of notations
 
 // The open proof, with all fields that the file of it would have.
 WrittenLines OpenProofLines();

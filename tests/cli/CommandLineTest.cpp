@@ -1,31 +1,16 @@
 // The commands of tessaryn-cli: exit status, and output byte for byte.
-#include "cli/CommandLine.h"
+#include "cli/Call.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "Workbench.h"
 #include "platform/Files.h"
 
 namespace tessaryn {
 namespace {
-
-struct Outcome {
-    int status;
-    std::string output;
-    std::string error;
-};
-
-Outcome Call(const std::vector<std::string>& arguments, const std::string& input = "") {
-    std::istringstream in(input);
-    std::ostringstream out;
-    std::ostringstream err;
-    const int status = RunCommandLine(arguments, {in, out, err});
-    return {status, out.str(), err.str()};
-}
 
 TEST(CommandLine, WrongUseShowsTheUsage) {
     const std::vector<std::vector<std::string>> rows = {

@@ -8,7 +8,7 @@
 #include "OwnDirectory.h"
 #include "Workbench.h"
 #include "check/WrittenFile.h"
-#include "cli/CommandLine.h"
+#include "cli/Call.h"
 #include "platform/Files.h"
 
 namespace tessaryn {
@@ -17,24 +17,9 @@ namespace {
 namespace fs = std::filesystem;
 using nlohmann::json;
 
-std::string ProofOf(const std::vector<std::string>& notations) {
-    WrittenLines lines;
-    for (const std::string& notation : notations) lines.push_back(ReadLine(notation));
-    return FileOf(lines);
-}
-
-struct Outcome {
-    int status;
-    std::string out, err;
-};
-
 Outcome Grade(std::vector<std::string> words) {
     words.insert(words.begin(), "grade");
-    std::istringstream in;
-    std::ostringstream out;
-    std::ostringstream err;
-    const int status = RunCommandLine(words, {in, out, err});
-    return {status, out.str(), err.str()};
+    return Call(words);
 }
 
 // What is said of an exercise that nobody tried.
@@ -55,7 +40,7 @@ class GradeTest : public OwnDirectory {
     // Of each submission its points and the reasons for those missing.
     std::map<std::string, std::string> Rows(const Outcome& outcome) const {
         std::map<std::string, std::string> rows;
-        const json report = json::parse(outcome.out);
+        const json report = json::parse(outcome.output);
         for (const json& row : report["submissions"]) {
             std::ostringstream text;
             text << row["points"].get<double>() << (row["judged"] == true ? "" : " not judged");
@@ -220,7 +205,7 @@ TEST_F(GradeTest, CheatsGetNothingAndTouchNoOtherRow) {
                                  {"also honest", "", "3.5: none of its 2 files has the goal"}});
     const Outcome outcome = GradeClass();
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_NE(outcome.err.find(" judged, now at "), outcome.err.npos) << outcome.err;
+    EXPECT_NE(outcome.error.find(" judged, now at "), outcome.error.npos) << outcome.error;
     std::map<std::string, std::string> rows = Rows(outcome);
     EXPECT_EQ(rows.size(), cheats.size());
     for (const Cheat& cheat : cheats) {
@@ -237,14 +222,14 @@ TEST_F(GradeTest, NamesStayNamesInATable) {
     HandIn("=cmd|'A0'.proof", HonestSwap);
     HandIn("a \"b\",\n\x1B[2J\u200B.proof", HonestSwap);
     const Outcome csv = GradeClass("--csv");
-    EXPECT_EQ(csv.out,
+    EXPECT_EQ(csv.output,
               "\"submission\",\"swap\",\"or\",\"points\",\"maximum\",\"reasons\"\n"
               "\"'=cmd|'A0'.proof\",1.5,0,1.5,2.5,\"or: no line is the goal (the last one, line "
               "4, says Q & P)\"\n"
               "\"a \"\"b\"\",  [2J?.proof\",1.5,0,1.5,2.5,\"or: no line is the goal (the last "
               "one, line 4, says Q & P)\"\n");
     fs::rename(Path("sheet.json"), Path("class/sheet.json"));  // where it is no submission
-    EXPECT_EQ(Grade({Path("class/sheet.json"), Path("class"), "--jobs", "9"}).out, R"(=1+1
+    EXPECT_EQ(Grade({Path("class/sheet.json"), Path("class"), "--jobs", "9"}).output, R"(=1+1
 
    1  swap
    2  or
@@ -283,7 +268,7 @@ TEST_F(GradeTest, LintTellsWhatIsWrongWithASheet) {
         {R"J("goal": "ALL(x):P(x)", "premises": ["ALL(y):P(y)"])J", "is the goal itself"},
         {R"J("goal": "P & P", "axioms": ["P&P"])J", "the axiom \"P&P\" is the goal itself"},
         {R"J("goal": "P", "axioms": ["Powerset"])J",
-         "the axiom \"Powerset\" is none of the menus (did you mean \"Power Set\"?)"},
+         "the axiom \"Powerset\" is none of the menus (did you mean \"Power Set\"?)\n"},
         {R"J("goal": "P", "axioms": ["number axiom 8"])J",
          "the axiom \"number axiom 8\" is none of the menus, and no statement: "},
         {R"J("goal": "P", "points": -1)J", "\"points\" is no number from 0 to 1000000"},
@@ -296,7 +281,7 @@ TEST_F(GradeTest, LintTellsWhatIsWrongWithASheet) {
         {R"J("goal": "P"}, {"name": "x", "goal": "Q")J", "another exercise has the same name"},
         {R"J("goal": "P",)J", "the sheet is no good JSON: parse error at line 1, column"},
         {R"J("goal": "Q & P", "premises": ["P & Q"], "solution": "good.proof",
-            "axioms": ["definitions", "Subset", "definition of <=", "ring axiom 13"])J",
+            "axioms": ["definitions", "Subset", "x ∈ s", "definition of <=", "ring axiom 13"])J",
          ""},
     };
     for (const Row& row : rows) {
@@ -304,10 +289,10 @@ TEST_F(GradeTest, LintTellsWhatIsWrongWithASheet) {
                   R"({"title": "t", "exercises": [{"name": "x", )" + row.exercise + "}]}");
         const Outcome outcome = Grade({"--lint", Path("sheet.json")});
         EXPECT_EQ(outcome.status, row.fault.empty() ? 0 : 1) << row.exercise;
-        EXPECT_EQ(outcome.err.empty(), row.fault.empty()) << outcome.err;
-        EXPECT_NE(outcome.err.find(row.fault), outcome.err.npos) << outcome.err;
+        EXPECT_EQ(outcome.error.empty(), row.fault.empty()) << outcome.error;
+        EXPECT_NE(outcome.error.find(row.fault), outcome.error.npos) << outcome.error;
     }
-    EXPECT_EQ(Grade({"--lint", Path("sheet.json")}).out, "x: Q & P (1)\n");
+    EXPECT_EQ(Grade({"--lint", Path("sheet.json")}).output, "x: Q & P (1)\n");
     WriteFile("sheet.json", "[]");
     EXPECT_EQ(Grade({Path("sheet.json"), Path("class")}).status, 2);
 }
@@ -362,11 +347,11 @@ TEST_F(GradeTest, TheExampleClassIsAsTheManualHasIt) {
             << entry.path();
     }
     const std::string sheet = (classroom / "sheet.json").string();
-    EXPECT_EQ(Grade({"--lint", sheet}).err, "");
+    EXPECT_EQ(Grade({"--lint", sheet}).error, "");
     const Outcome outcome = Grade({sheet, (classroom / "submissions").string()});
     EXPECT_EQ(outcome.status, 0);
     const std::string page = *ReadWholeFile((source / "docs/manual/grading.md").string());
-    EXPECT_NE(page.find("```\n" + outcome.out + "```\n"), page.npos) << outcome.out;
+    EXPECT_NE(page.find("```\n" + outcome.output + "```\n"), page.npos) << outcome.output;
 }
 
 }  // namespace

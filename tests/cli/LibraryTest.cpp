@@ -1,13 +1,11 @@
 // Theorems of a directory of proofs, used again as axioms.
-#include "cli/CommandLine.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <sstream>
 
 #include "OwnDirectory.h"
 #include "check/WrittenFile.h"
+#include "cli/Call.h"
 #include "cli/ScriptRunner.h"
 #include "platform/Files.h"
 
@@ -19,19 +17,14 @@ class Library : public OwnDirectory {
     Library() { std::filesystem::create_directory(directory / "sub"); }
 
     void Write(const std::string& name, const std::vector<std::string>& notations) {
-        WrittenLines lines;
-        for (const std::string& notation : notations) lines.push_back(ReadLine(notation));
-        WriteFile(name, FileOf(lines));
+        WriteFile(name, ProofOf(notations));
     }
 
     // The exit status, and what is printed, the messages last. Paths without the directory.
     std::string Check(std::vector<std::string> words) {
         words.insert(words.begin(), "check");
-        std::istringstream in;
-        std::ostringstream out;
-        std::ostringstream err;
-        std::string said = std::to_string(RunCommandLine(words, {in, out, err})) + '\n';
-        said += out.str() + err.str();
+        const Outcome outcome = Call(words);
+        std::string said = std::to_string(outcome.status) + '\n' + outcome.output + outcome.error;
         const std::string prefix = directory.string() + "/";
         for (std::size_t at; (at = said.find(prefix)) != said.npos;) said.erase(at, prefix.size());
         return said;
