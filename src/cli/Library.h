@@ -53,7 +53,7 @@ class Library {
     void Follow(const std::vector<Use>& uses, Walk& walk) const;
 
     std::vector<Theorem> theorems_;
-    std::vector<std::vector<Use>> uses_;  // of each theorem
+    std::vector<std::vector<Use>> uses_;              // of each theorem
     std::map<std::string, std::size_t> byStatement_;  // the first of those that read alike
     std::vector<std::string> faults_;
 };
