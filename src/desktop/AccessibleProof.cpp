@@ -67,7 +67,8 @@ int AccessibleProof::UnitAt(int byte) const {
 }
 
 int AccessibleProof::characterCount() const {
-    return Display().Lines().Units();
+    const ProofDisplay& display = Display();
+    return display.Lines().Units(display.Box().GetText());
 }
 
 AccessibleProof::Range AccessibleProof::LineAt(int offset) const {

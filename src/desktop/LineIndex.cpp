@@ -60,38 +60,47 @@ int UnitsIn(std::string_view text, int first, int last) {
 }  // namespace
 
 void LineIndex::Rebuild(std::string_view text) {
-    const int size = static_cast<int>(text.size());
-    starts_ = StartsIn(text, 0, size);
+    starts_ = StartsIn(text, 0, static_cast<int>(text.size()));
     starts_.insert(starts_.begin(), 0);
-    columns_.assign(starts_.size(), 0);
-    Measure(text, 0, Count() - 1);
-    unitStarts_.assign(2, 0);
-    CountUnits(text, 0, 0, Count() - 1);
+    unitStarts_.assign(1, 0);
+    widest_ = widestLine_ = 0;
+    FindWidest(text, 0, Count() - 1);
 }
 
 void LineIndex::Update(std::string_view text, int start, int removed, int inserted) {
     const auto first = std::upper_bound(starts_.begin(), starts_.end(), start);
     const auto last = std::upper_bound(first, starts_.end(), start + removed);
     const int line = static_cast<int>(first - starts_.begin()) - 1;  // the one that start is in
+    const int gone = static_cast<int>(last - first);
     const int delta = inserted - removed;
     if (delta != 0) std::for_each(last, starts_.end(), [&](int& place) { place += delta; });
+    const auto newStarts = StartsIn(text, start, start + inserted);
+    const int added = static_cast<int>(newStarts.size());
+    starts_.insert(starts_.erase(first, last), newStarts.begin(), newStarts.end());
+    unitStarts_.resize(std::min(unitStarts_.size(), static_cast<std::size_t>(line) + 1));
 
-    const auto added = StartsIn(text, start, start + inserted);
-    const auto gone = last - first;
-    const auto columns = columns_.begin() + line + 1;
-    columns_.insert(columns_.erase(columns, columns + gone), added.size(), 0);
-    starts_.insert(starts_.erase(first, last), added.begin(), added.end());
-    Measure(text, line, line + static_cast<int>(added.size()));
-    CountUnits(text, line, static_cast<int>(gone), static_cast<int>(added.size()));
+    if (widestLine_ > line + gone) {
+        widestLine_ += added - gone;
+    } else if (widestLine_ >= line) {
+        widest_ = widestLine_ = 0;
+        return FindWidest(text, 0, Count() - 1);
+    }
+    FindWidest(text, line, line + added);
 }
 
-void LineIndex::Measure(std::string_view text, int first, int last) {
+void LineIndex::FindWidest(std::string_view text, int first, int last) {
     for (int line = first; line <= last; ++line) {
-        const auto start = static_cast<std::size_t>(Start(line));
-        const auto end = static_cast<std::size_t>(End(text, line));
-        columns_[static_cast<std::size_t>(line)] = Columns(text.substr(start, end - start));
+        const int start = Start(line);
+        const int behind = line + 1 < Count() ? Start(line + 1) : static_cast<int>(text.size());
+        // No byte takes more columns than a TAB.
+        if ((behind - start) * TabColumns <= widest_) continue;
+        const int length = End(text, line) - start;
+        const int columns =
+            Columns(text.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(length)));
+        if (columns <= widest_) continue;
+        widest_ = columns;
+        widestLine_ = line;
     }
-    widest_ = *std::max_element(columns_.begin(), columns_.end());
 }
 
 int LineIndex::LineAt(int position) const {
@@ -110,36 +119,34 @@ int LineIndex::End(std::string_view text, int line) const {
 
 // --- units
 
-// `added` lines have come in the place of the `gone` ones behind `line`, which may have changed
-// too.
-void LineIndex::CountUnits(std::string_view text, int line, int gone, int added) {
-    const auto behind = unitStarts_.begin() + line + 1;
-    unitStarts_.insert(unitStarts_.erase(behind, behind + gone), static_cast<std::size_t>(added),
-                       0);
-    auto place = unitStarts_.begin() + line;
-    int units = *place;
-    for (int number = line; number <= line + added; ++number) {
-        *place++ = units;
+// Where a line begins; the text's end for the one behind the last.
+int LineIndex::UnitStart(std::string_view text, int line) const {
+    while (static_cast<int>(unitStarts_.size()) <= line) {
+        const int number = static_cast<int>(unitStarts_.size()) - 1;
         const bool last = number + 1 == Count();
-        units +=
-            UnitsIn(text, Start(number), last ? static_cast<int>(text.size()) : Start(number + 1));
+        const int end = last ? static_cast<int>(text.size()) : Start(number + 1);
+        unitStarts_.push_back(unitStarts_.back() + UnitsIn(text, Start(number), end));
     }
-    const int delta = units - *place;
-    if (delta != 0) std::for_each(place, unitStarts_.end(), [=](int& start) { start += delta; });
+    return unitStarts_[static_cast<std::size_t>(line)];
+}
+
+int LineIndex::Units(std::string_view text) const {
+    return UnitStart(text, Count());
 }
 
 int LineIndex::UnitAt(std::string_view text, int position) const {
     const int line = LineAt(position);
     const int end = std::min(position, static_cast<int>(text.size()));
-    return unitStarts_[static_cast<std::size_t>(line)] + UnitsIn(text, Start(line), end);
+    return UnitStart(text, line) + UnitsIn(text, Start(line), end);
 }
 
 int LineIndex::ByteAt(std::string_view text, int unit) const {
+    if (unit >= Units(text)) return static_cast<int>(text.size());
     const auto behind = std::upper_bound(unitStarts_.begin(), unitStarts_.end() - 1, unit);
     const auto line = std::max<std::ptrdiff_t>(0, behind - unitStarts_.begin() - 1);
     int left = unit - unitStarts_[static_cast<std::size_t>(line)];
     int position = Start(static_cast<int>(line));
-    while (left > 0 && position < static_cast<int>(text.size())) {
+    while (left > 0) {
         const Step step = StepAt(text, position);
         if (step.units > left) break;  // between two surrogates
         left -= step.units;

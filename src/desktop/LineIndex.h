@@ -1,5 +1,5 @@
-// Where the lines of a long text begin and how wide they are, kept up to date from what changed
-// alone. Lines end with LF; the index holds no text.
+// Where the lines of a long text begin and how wide the widest is, kept up to date from what
+// changed alone. Lines end with LF; the index holds no text.
 #pragma once
 
 #include <string_view>
@@ -22,19 +22,21 @@ class LineIndex {
     int End(std::string_view text, int line) const;
     int WidestLine() const { return widest_; }  // columns of the widest line, TABs expanded
 
-    // Places as a QString counts them: in UTF-16 units, a CR LF as one.
-    int Units() const { return unitStarts_.back(); }        // of the whole text
+    // Places as a QString counts them: in UTF-16 units, a CR LF as one. They are counted when
+    // someone asks, up to the line that is asked about.
+    int Units(std::string_view text) const;                 // of the whole text
     int UnitAt(std::string_view text, int position) const;  // how many lie ahead of a byte
     int ByteAt(std::string_view text, int unit) const;      // limited to the text
+    int UnitsCounted() const { return unitStarts_.back(); }
 
   private:
-    void Measure(std::string_view text, int first, int last);  // lines first to last
-    void CountUnits(std::string_view text, int line, int gone, int added);
+    void FindWidest(std::string_view text, int first, int last);  // among lines first to last
+    int UnitStart(std::string_view text, int line) const;
 
     std::vector<int> starts_{0};
-    std::vector<int> columns_{0};
-    std::vector<int> unitStarts_{0, 0};  // of each line, and the end
+    mutable std::vector<int> unitStarts_{0};  // of the first lines, and perhaps the end
     int widest_ = 0;
+    int widestLine_ = 0;  // one of that width
 };
 
 }  // namespace tessaryn

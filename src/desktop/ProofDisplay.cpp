@@ -74,7 +74,7 @@ void ProofDisplay::Sync() {
 bool ProofDisplay::TakeContent() {
     const SurfaceChange change = box_.TakeChange();
     if (!change.any) return false;
-    const int units = index_.Units();
+    const int units = index_.UnitsCounted();
     index_.Update(box_.GetText(), change.start, change.removed, change.inserted);
     lines_.clear();
     MeasureFont();

@@ -29,7 +29,8 @@ void ProofNews::ContentChanged(ProofDisplay& display, const SurfaceChange& chang
     }
     const int start = lines.UnitAt(text, first);
     const int inserted = lines.UnitAt(text, last) - start;
-    const int removed = before - (lines.Units() - inserted);
+    // Of what stood there before, no tool knows more than what it has had counted.
+    const int removed = std::max(0, before - (lines.Units(text) - inserted));
     // The toolkit's own boxes don't keep what was removed either: blanks stand for it.
     const QString oldText(removed, QLatin1Char(' '));
     // So they do for what is too long for anyone to hear: formatting all of a long proof takes half

@@ -10,7 +10,7 @@ class ProofDisplay;
 
 class ProofNews {
   public:
-    // before: units of the text ahead of the change.
+    // before: the units of the text ahead of the change, as far as they had been counted.
     void ContentChanged(ProofDisplay& display, const SurfaceChange& change, int before);
     // Caret or selection may have moved.
     void CaretMoved(ProofDisplay& display);

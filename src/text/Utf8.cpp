@@ -61,9 +61,13 @@ std::size_t AsciiEnd(std::string_view text, std::size_t from) {
 }
 
 int CharacterCount(std::string_view text) {
-    const int size = static_cast<int>(text.size());
     int count = 0;
-    for (int at = 0; at < size; at += SequenceLength(text, at)) ++count;
+    for (std::size_t at = 0; at < text.size(); ++count) {
+        const std::size_t ascii = AsciiEnd(text, at);
+        count += static_cast<int>(ascii - at);
+        if (ascii == text.size()) break;
+        at = ascii + static_cast<std::size_t>(SequenceLength(text, static_cast<int>(ascii)));
+    }
     return count;
 }
 
