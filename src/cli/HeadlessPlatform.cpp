@@ -150,8 +150,9 @@ void WriteBehind(const std::string& path, std::function<std::string()> bytes,
     then(ReplaceFile(path, bytes()));
 }
 
-void SetClipboard(const Clip& content) {
-    Headless.Clipboard = {WithCrLf(content.plain), content.rtf};
+void SetClipboard(const LateClip& content) {
+    const Clip made = content.make();
+    Headless.Clipboard = {WithCrLf(made.plain), made.rtf};
 }
 
 Clip ClipboardContent() {

@@ -81,7 +81,8 @@ std::string Selected(const TextBox& box) {
 
 bool EditByCtrlKey(TextBox& box, const std::string& letter) {
     if (letter == "A") Select(box, 0, static_cast<int>(box.Text.size()));
-    if ((letter == "C" || letter == "X") && box.SelLength > 0) SetClipboard({Selected(box), ""});
+    if ((letter == "C" || letter == "X") && box.SelLength > 0)
+        SetClipboard(TextAlone(Selected(box)));
     if (letter == "X") return ReplaceSelection(box, "");
     return letter == "V" && ReplaceSelection(box, ClipboardContent().plain);
 }

@@ -2,6 +2,10 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QMetaType>
+#include <QVariant>
+#include <new>
+#include <utility>
 
 #include "desktop/PaintedText.h"
 #include "platform/Platform.h"
@@ -12,7 +16,44 @@ namespace tessaryn {
 
 namespace {
 
+constexpr const char* TextType = "text/plain";
 constexpr const char* RtfTypes[] = {"text/rtf", "application/rtf"};
+
+// What a program is handed out of this one: made when the first one asks for it.
+class LateMimeData : public QMimeData {
+  public:
+    explicit LateMimeData(LateClip content) : content_(std::move(content)) {}
+
+    QStringList formats() const override {
+        QStringList types{QLatin1String(TextType)};
+        if (content_.hasRtf) {
+            for (const char* type : RtfTypes) types.append(QLatin1String(type));
+        }
+        return types;
+    }
+    bool hasFormat(const QString& type) const override { return formats().contains(type); }
+
+  protected:
+    QVariant retrieveData(const QString& type, QMetaType /*preferred*/) const override {
+        if (!hasFormat(type)) return {};
+        Make();
+        if (type != QLatin1String(TextType)) return QByteArray::fromStdString(made_.rtf);
+        return ToQt(made_.plain).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    }
+
+  private:
+    void Make() const {
+        if (!content_.make) return;
+        try {
+            made_ = std::exchange(content_.make, nullptr)();
+        } catch (const std::bad_alloc&) {
+            made_ = {};  // memory is short: there is nothing to be had
+        }
+    }
+
+    mutable LateClip content_;  // asking changes nothing that anyone could see
+    mutable Clip made_;
+};
 
 }  // namespace
 
@@ -32,17 +73,11 @@ bool HoldsText(const QMimeData& data) {
            data.hasFormat(QLatin1String(RtfTypes[1]));
 }
 
-QMimeData* MimeDataOf(const Clip& content) {
-    auto* data = new QMimeData;
-    data->setText(ToQt(content.plain).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
-    if (content.rtf.empty()) return data;
-    for (const char* type : RtfTypes) {
-        data->setData(QLatin1String(type), QByteArray::fromStdString(content.rtf));
-    }
-    return data;
+QMimeData* MimeDataOf(const LateClip& content) {
+    return new LateMimeData(content);
 }
 
-void SetClipboard(const Clip& content) {
+void SetClipboard(const LateClip& content) {
     QGuiApplication::clipboard()->setMimeData(MimeDataOf(content));
 }
 

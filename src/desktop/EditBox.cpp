@@ -1,5 +1,6 @@
 #include "desktop/EditBox.h"
 
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QDragLeaveEvent>
 #include <QDropEvent>
@@ -9,6 +10,7 @@
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "desktop/Clipboard.h"
@@ -21,7 +23,9 @@ namespace tessaryn {
 
 namespace {
 
-constexpr int CaretWidth = 2;  // pixels
+constexpr int CaretWidth = 2;          // pixels
+constexpr int BeginningLength = 2000;  // bytes, and up to the end of the line
+constexpr int LongestCharacter = 100;  // units, marks and all, that one key goes past
 
 // What the editor's document comes to as the content of a surface.
 struct EditorContent {
@@ -116,7 +120,8 @@ void EditBox::LoadContent() {
     bytes_ = std::move(content.bytes);
     const int start = bytes_[static_cast<std::size_t>(cursor.selectionStart())];
     const int end = bytes_[static_cast<std::size_t>(cursor.selectionEnd())];
-    box_.LoadFromEditor(std::move(content.text), content.runs, start, end - start);
+    box_.LoadFromEditor(std::move(content.text), content.runs, box_.TextLength() - tail_, start,
+                        end - start);
     revision_ = document()->revision();
     shown_ = box_.ContentRevision();
 }
@@ -129,15 +134,39 @@ void EditBox::Sync() {
             if (!hasFocus()) setCursorWidth(0);
         }
     }
-    if (shown_ != box_.ContentRevision()) ShowContent();
-    Select(UnitAt(box_.GetSelStart()), UnitAt(box_.GetSelStart() + box_.GetSelLength()));
+    const int end = box_.GetSelStart() + box_.GetSelLength();
+    if (shown_ != box_.ContentRevision() || end > bytes_.back()) ShowContent();
+    Select(UnitAt(box_.GetSelStart()), UnitAt(end));
     if (textCursor().hasSelection()) return;
     const CharFormat typed = box_.InsertionFormat();
     if (FormatOf(currentCharFormat()) != typed) setCurrentCharFormat(TextFormat(typed));
 }
 
+// All but a few lines of a long text; no more than one is ever in sight.
+int EditBox::EndOfBeginning() const {
+    const std::string& text = box_.GetText();
+    const int caret = box_.GetSelStart() + box_.GetSelLength();
+    const std::size_t second = text.find('\n') + 1;
+    if (box_.MultiLine || caret > BeginningLength / 2 || second == 0 || QAccessible::isActive()) {
+        return box_.TextLength();
+    }
+    const auto end = text.find("\r\n", std::max<std::size_t>(second, BeginningLength));
+    return end == text.npos ? box_.TextLength() : static_cast<int>(end);
+}
+
 void EditBox::ShowContent() {
-    const PaintedText painted = PaintText(box_, 0, box_.TextLength());
+    Show(EndOfBeginning());
+}
+
+void EditBox::ShowAll() {
+    if (tail_ == 0) return;
+    Pull();
+    Show(box_.TextLength());
+    Sync();
+}
+
+void EditBox::Show(int end) {
+    const PaintedText painted = PaintText(box_, 0, end);
     const int scrolled = verticalScrollBar()->value();
     QTextCursor cursor(document());
     cursor.beginEditBlock();
@@ -149,6 +178,7 @@ void EditBox::ShowContent() {
     }
     cursor.endEditBlock();
     bytes_ = painted.bytes;
+    tail_ = box_.TextLength() - end;
     revision_ = document()->revision();
     shown_ = box_.ContentRevision();
     verticalScrollBar()->setValue(scrolled);
@@ -189,7 +219,30 @@ bool EditBox::event(QEvent* event) {
     return QTextEdit::event(event);
 }
 
+// What types, deletes or goes one step, and the keys that do nothing by themselves.
+bool EditBox::StaysInBeginning(const QKeyEvent& event) const {
+    switch (event.key()) {
+        case Qt::Key_Shift:
+        case Qt::Key_Control:
+        case Qt::Key_Alt:
+        case Qt::Key_AltGr:
+        case Qt::Key_Meta:
+            return true;
+        case Qt::Key_Down:
+        case Qt::Key_End:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+            return false;
+        default:
+            break;
+    }
+    const bool plain = (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+    const int room = document()->characterCount() - textCursor().selectionEnd();
+    return plain && room > LongestCharacter;
+}
+
 void EditBox::keyPressEvent(QKeyEvent* event) {
+    if (!StaysInBeginning(*event)) ShowAll();
     QTextEdit::keyPressEvent(event);
     SendIfEdited();
 }
@@ -223,7 +276,13 @@ void EditBox::MoveToCharacterAt(const QPoint& place) {
     setTextCursor(cursor);
 }
 
+void EditBox::wheelEvent(QWheelEvent* event) {
+    ShowAll();
+    QTextEdit::wheelEvent(event);
+}
+
 void EditBox::mousePressEvent(QMouseEvent* event) {
+    ShowAll();
     const QPoint place = event->position().toPoint();
     const bool right = event->button() == Qt::RightButton;
     if (right && !textCursor().hasSelection()) setTextCursor(cursorForPosition(place));

@@ -56,7 +56,7 @@ void CommentForm::Activated() {
     const std::string text = EditingIntro ? Introduction() : CommentOf(CommentLine);
     if (text.empty()) return;
     const int length = static_cast<int>(text.size());
-    SetContent(CommentBox, text, {{0, length, {StatementFont, StmtFontSize, CommentBlue, false}}});
+    CommentBox.SetContent(text, {{0, length, {StatementFont, StmtFontSize, CommentBlue, false}}});
     ConvertAmpersand(CommentBox, 1, length);
     CommentBox.SelStart = 0;
 }

@@ -95,9 +95,8 @@ FindForm::FindForm() : Form("Find", " Find String or Heading") {
 void FindForm::Activated() {
     ClearHeadings();
     StatusLine.Caption.clear();
-    WorkArea.RTB.TextRTF = Proof.RTB.SelRTF;
-    ReformatWA(Black);
-    SearchStringTextBox.TextRTF = WorkArea.RTB.TextRTF;
+    SearchStringTextBox.TextRTF = "";
+    ShowExpression(SearchStringTextBox, TakenIn(PlainSelection(Proof.RTB)), Black);
     SearchStringTextBox.SetFocus();
 }
 
@@ -107,8 +106,8 @@ void FindForm::ClearHeadings() {
 
 void FindForm::TakeHeading(const std::string& heading) {
     const int length = static_cast<int>(heading.size());
-    SetContent(SearchStringTextBox, heading,
-               {{0, length, {StatementFont, HeadingFontSize, Black, false}}});
+    SearchStringTextBox.SetContent(heading,
+                                   {{0, length, {StatementFont, HeadingFontSize, Black, false}}});
     SearchStringTextBox.SelStart = 0;
     SearchStringTextBox.SetFocus();
     StatusLine.Caption.clear();

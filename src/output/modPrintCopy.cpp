@@ -33,7 +33,7 @@ class Copy {
     }
     void PutOn(RichTextBox& surface) {
         const int length = static_cast<int>(text_.size());
-        SetContent(surface, text_, std::move(runs_));
+        surface.SetContent(std::move(text_), runs_);
         ConvertAmpersand(surface, 1, length);
     }
 

@@ -43,7 +43,7 @@ void WriteBehind(const std::string& path, std::function<std::string()> bytes,
 
 // --- clipboard
 
-void SetClipboard(const Clip& content);  // in place of what was there, in all formats
+void SetClipboard(const LateClip& content);  // in place of what was there, in all formats
 Clip ClipboardContent();
 
 // --- printing; lengths are in twips, 1440 to the inch

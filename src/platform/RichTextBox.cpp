@@ -74,11 +74,14 @@ void RichTextBox::ReplaceContent(std::string text, const std::vector<FormatRun>&
 }
 
 void RichTextBox::SetText(const std::string& text) {
-    const CharFormat format = TextLength() > 0 ? content_.FormatAt(0) : InsertionFormat();
-    lastFormat_ = format;
     std::string normal = WithCrLf(text);
-    const auto runs = OneRun(normal.size(), format);
-    ReplaceContent(std::move(normal), runs);
+    const auto runs = OneRun(normal.size(), FormatAt(0));
+    SetContent(std::move(normal), runs);
+}
+
+void RichTextBox::SetContent(std::string text, const std::vector<FormatRun>& runs) {
+    lastFormat_ = FormatAt(0);
+    ReplaceContent(std::move(text), runs);
 }
 
 std::string RichTextBox::GetTextRTF() const {
@@ -133,10 +136,14 @@ void RichTextBox::ReplaceSelection(std::string_view text, const std::vector<Form
     insertion_ = insertion;
 }
 
-void RichTextBox::LoadFromEditor(std::string text, const std::vector<FormatRun>& runs, int selStart,
-                                 int selLength) {
+void RichTextBox::LoadFromEditor(std::string text, const std::vector<FormatRun>& runs, int replaced,
+                                 int selStart, int selLength) {
     if (TextLength() > 0) lastFormat_ = content_.FormatAt(0);
-    content_.Assign(std::move(text), runs);
+    if (replaced == TextLength()) {
+        content_.Assign(std::move(text), runs);
+    } else {
+        content_.Replace(0, replaced, text, runs);
+    }
     ++contentRevision_;
     change_ = {};
     const int start = CharStart(GetText(), Limited(selStart));

@@ -50,6 +50,7 @@ struct RichTextBox : Control {
     const std::string& GetText() const { return content_.Text(); }
     // In one format: that of the first character before, or the one set for the insertion.
     void SetText(const std::string& text);
+    void SetContent(std::string text, const std::vector<FormatRun>& runs);  // line ends CR LF
     std::string GetTextRTF() const;
     void SetTextRTF(const std::string& rtf);  // "" empties the surface
     std::string GetSelRTF() const;
@@ -153,9 +154,9 @@ struct RichTextBox : Control {
     std::vector<int> TakePlacesToShow();
     // Counts changes of content, format or alignment.
     std::uint64_t ContentRevision() const { return contentRevision_; }
-    // Replaces content from the front end's own editor; tells nobody.
-    void LoadFromEditor(std::string text, const std::vector<FormatRun>& runs, int selStart,
-                        int selLength);
+    // Replaces the first bytes of the content from the front end's own editor; tells nobody.
+    void LoadFromEditor(std::string text, const std::vector<FormatRun>& runs, int replaced,
+                        int selStart, int selLength);
 
   private:
     int Limited(int position) const;

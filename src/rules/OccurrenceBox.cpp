@@ -10,7 +10,7 @@
 namespace tessaryn {
 
 void CopyContent(RichTextBox& from, RichTextBox& to) {
-    SetContent(to, from.GetText(), from.Runs());
+    to.SetContent(from.GetText(), from.Runs());
     to.SelStart = 0;
 }
 
@@ -60,7 +60,7 @@ void ReplaceSpans(RichTextBox& box, const std::vector<Span>& spans, const std::s
         done = span.end;
     }
     keepUpTo(box.TextLength());
-    SetContent(box, content, std::move(runs));
+    box.SetContent(content, runs);
     box.SelStart = 0;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -48,5 +49,14 @@ struct Clip {
 
     bool operator==(const Clip&) const = default;
 };
+
+// The same, made when a program asks for it. It needs nothing that may have changed by then.
+struct LateClip {
+    bool hasRtf = false;
+    std::function<Clip()> make;
+};
+inline LateClip TextAlone(const std::string& text) {
+    return {false, [text] { return Clip{text, ""}; }};
+}
 
 }  // namespace tessaryn

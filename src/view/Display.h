@@ -2,6 +2,7 @@
 // every surface with an expression shares.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,8 +43,12 @@ void ResetDisplay();
 // reported by this and by each ResetFonts from then on until a sound document replaces it.
 void CheckStoredText();
 
-// Gives a surface text and formats at once. The runs cover the text.
-void SetContent(RichTextBox& surface, std::string_view text, std::vector<FormatRun> runs);
+// What a surface's selection holds now, to be had at any later time: the display's is lexed and
+// coloured only then.
+std::function<RichText()> LateSelection(const RichTextBox& surface);
+
+// PlainText of the selection, without a look at the formats of the display.
+std::string PlainSelection(const RichTextBox& surface);
 
 // Turns each "@" into the element sign, over 1-based positions start to start + length - 1.
 void ConvertAmpersand(RichTextBox& surface, int start, int length);
@@ -58,8 +63,10 @@ struct WorkAreaForm : Form {
 };
 inline WorkAreaForm WorkArea;
 
-// Makes the WorkArea surface's content an expression: one font, the given colour, no TABs, element
-// signs shown.
+// Gives a surface an expression: one font, the given colour, element signs shown for "@".
+void ShowExpression(RichTextBox& surface, std::string text, Colour colour);
+
+// Makes the WorkArea surface's content such an expression, without TABs.
 void ReformatWA(Colour colour);
 
 }  // namespace tessaryn

@@ -17,15 +17,6 @@ void PushRun(std::vector<FormatRun>& runs, int start, int end, const CharFormat&
 
 }  // namespace
 
-void SetContent(RichTextBox& surface, std::string_view text, std::vector<FormatRun> runs) {
-    const int length = static_cast<int>(text.size());
-    std::vector<RichTextBox::Block> blocks;
-    if (length > 0) blocks.push_back({length, 0});
-    surface.SetText("");
-    surface.SetBlocks(text, blocks, [runs = std::move(runs)](int) { return runs; });
-    surface.Runs();
-}
-
 void ConvertAmpersand(RichTextBox& surface, int start, int length) {
     std::string text = surface.GetText();
     const int first = start - 1;
@@ -46,7 +37,7 @@ void ConvertAmpersand(RichTextBox& surface, int start, int length) {
         }
         PushRun(runs, done, end, run.format);
     }
-    SetContent(surface, text, std::move(runs));
+    surface.SetContent(std::move(text), runs);
 }
 
 std::string ConvertEpsilon(RichTextBox& surface) {
@@ -61,14 +52,27 @@ std::string ConvertEpsilon(RichTextBox& surface) {
     return text;
 }
 
+void ShowExpression(RichTextBox& surface, std::string text, Colour colour) {
+    const CharFormat plain{StatementFont, StmtFontSize, colour, false};
+    CharFormat symbol = plain;
+    symbol.Font = SymbolFont;
+    std::vector<FormatRun> runs;
+    runs.reserve(2 * static_cast<std::size_t>(std::count(text.begin(), text.end(), '@')) + 1);
+    int done = 0;
+    for (auto at = text.find('@'); at != text.npos; at = text.find('@', at + 1)) {
+        text[at] = 'e';
+        const int place = static_cast<int>(at);
+        PushRun(runs, done, place, plain);
+        PushRun(runs, place, place + 1, symbol);
+        done = place + 1;
+    }
+    PushRun(runs, done, static_cast<int>(text.size()), plain);
+    surface.SetContent(std::move(text), runs);
+}
+
 void ReformatWA(Colour colour) {
     RichTextBox& surface = WorkArea.RTB;
-    std::string text = TakenIn(PlainText({surface.GetText(), surface.Runs()}));
-    const int length = static_cast<int>(text.size());
-    std::vector<FormatRun> runs;
-    PushRun(runs, 0, length, {StatementFont, StmtFontSize, colour, false});
-    SetContent(surface, text, std::move(runs));
-    ConvertAmpersand(surface, 1, length);
+    ShowExpression(surface, TakenIn(PlainText({surface.GetText(), surface.Runs()})), colour);
 }
 
 }  // namespace tessaryn

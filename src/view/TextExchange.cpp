@@ -1,8 +1,11 @@
 #include "view/TextExchange.h"
 
+#include <utility>
+
 #include "mainwindow/Proof.h"
 #include "platform/Events.h"
 #include "platform/Platform.h"
+#include "text/Rtf.h"
 #include "view/Display.h"
 
 namespace tessaryn {
@@ -28,14 +31,14 @@ std::string WithElementSign(std::string text) {
     return text;
 }
 
-std::string TakenIn(const std::string& text) {
-    std::string taken = WithElementSign(text);
+std::string TakenIn(std::string text) {
+    std::string taken = WithElementSign(std::move(text));
     std::erase(taken, '\t');
     return taken;
 }
 
-std::string TakenInOnOneLine(const std::string& text) {
-    std::string taken = TakenIn(text);
+std::string TakenInOnOneLine(std::string text) {
+    std::string taken = TakenIn(std::move(text));
     std::erase_if(taken, [](char c) { return c == '\r' || c == '\n'; });
     return taken;
 }
@@ -58,8 +61,12 @@ std::string PlainText(const RichText& content) {
 
 // --- out
 
-Clip SelectionOf(const RichTextBox& box) {
-    return {PlainText(box.Selection()), Proof.optRichTextMode.Checked ? box.GetSelRTF() : ""};
+LateClip SelectionOf(const RichTextBox& box) {
+    const bool rich = Proof.optRichTextMode.Checked;
+    return {rich, [rich, selection = LateSelection(box)] {
+                const RichText part = selection();
+                return Clip{PlainText(part), rich ? WriteRtf(part) : ""};
+            }};
 }
 
 void Copy(RichTextBox& box) {
@@ -101,7 +108,7 @@ void MoveSelection(RichTextBox& box, int to) {
     const int from = box.SelStart;
     const int length = box.SelLength;
     if (to >= from && to <= from + length) return;
-    const Clip content = SelectionOf(box);
+    const Clip content = SelectionOf(box).make();
     const int lengthBefore = box.TextLength();
     box.SelStart = to;
     SendPaste(box, content);

@@ -20,15 +20,15 @@ inline int ClipLength = 0;
 // "@" for every "ε" and "∈".
 std::string WithElementSign(std::string text);
 // As a box takes it: the element sign as "@", no TABs.
-std::string TakenIn(const std::string& text);
+std::string TakenIn(std::string text);
 // The same for a box of one line, without line ends.
-std::string TakenInOnOneLine(const std::string& text);
+std::string TakenInOnOneLine(std::string text);
 
 // "@" for an element sign, and nothing for a triangle and the blank behind it.
 std::string PlainText(const RichText& content);
 
 // What a surface hands out: the selection as plain text and, in rich text mode, with its look.
-Clip SelectionOf(const RichTextBox& box);
+LateClip SelectionOf(const RichTextBox& box);
 
 // Puts what has come in on the WorkArea surface, normalised to an expression in black.
 void LoadWorkArea(const Clip& content);

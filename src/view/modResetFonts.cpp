@@ -12,9 +12,10 @@
 
 #include "document/Document.h"
 #include "expr/Lex.h"
-#include "expr/NameList.h"
 #include "mainwindow/Proof.h"
+#include "view/BlockFormats.h"
 #include "view/Display.h"
+#include "view/TextExchange.h"
 
 namespace tessaryn {
 namespace {
@@ -24,134 +25,14 @@ constexpr int Introduction = 0;  // stands for the introduction where a statemen
 std::vector<int> ShownBlocks;      // statement number of each block of the surface
 bool StoredTextIsDamaged = false;  // some statement can't be lexed
 
-CharFormat Format(int size, Colour colour, bool bold = false) {
-    return {StatementFont, size, colour, bold};
-}
-
-// The "4" ahead of a Conclusion's annotation; only a damaged file has none.
-bool HasTriangle(const Statement& stmt) {
-    return IsConclusion(stmt) && ProofSlice(stmt.StartRule, stmt.StartRule) == "4";
-}
-
-bool BlockIsFolded(const Statement& conclusion) {
-    return !At(conclusion.Arg1).Visible;
+bool BlockIsFolded(const Statement& conclusion, const Document& document) {
+    return !At(conclusion.Arg1, document).Visible;
 }
 
 void SwapElementSigns(std::string& text, std::size_t first, std::size_t last) {
     for (std::size_t at = text.find('@', first); at < last; at = text.find('@', at + 1)) {
         text[at] = 'e';
     }
-}
-
-// --- runs of one block
-
-// Lays runs side by side, joining neighbours of one format.
-class RunBuilder {
-  public:
-    // Continues the block to `end` (0-based, relative) in one format.
-    void Until(int end, const CharFormat& format) {
-        if (end <= at_) return;
-        if (!runs_.empty() && runs_.back().format == format) {
-            runs_.back().length += end - at_;
-        } else {
-            runs_.push_back({at_, end - at_, format});
-        }
-        at_ = end;
-    }
-    std::vector<FormatRun> Take() { return std::move(runs_); }
-
-  private:
-    std::vector<FormatRun> runs_;
-    int at_ = 0;
-};
-
-// Free text: one format, but for its element signs.
-void AddCommentRuns(RunBuilder& runs, std::string_view text, int start) {
-    const CharFormat plain = Format(StmtFontSize, CommentBlue);
-    CharFormat symbol = plain;
-    symbol.Font = SymbolFont;
-    for (std::size_t at = text.find('@'); at != std::string_view::npos;
-         at = text.find('@', at + 1)) {
-        const int place = start + static_cast<int>(at);
-        runs.Until(place, plain);
-        runs.Until(place + 1, symbol);
-    }
-    runs.Until(start + static_cast<int>(text.size()), plain);
-}
-
-// Colours and fonts of a statement's text, a format for each byte. Unformatted if it can't be
-// lexed.
-std::vector<CharFormat> StatementFormats(const Statement& stmt, std::string_view text,
-                                         const TokenList& tokens) {
-    std::vector<CharFormat> formats(text.size(), Format(StmtFontSize, Black));
-    const NameSet freeNames(stmt.FreeVars);
-    const NameSet fixedNames(stmt.FixedVars);
-    const NameSet spareNames(stmt.SpareVars);
-    for (std::size_t k = 1; k < tokens.size(); ++k) {
-        const TokenRec& token = tokens[k];
-        const auto first = static_cast<std::size_t>(token.Position) - 1;
-        if (freeNames.Holds(token.Token)) {
-            CharFormat format = formats[first];
-            format.Color = fixedNames.Holds(token.Token) ? FixedRed : FreeGreen;
-            format.Bold = spareNames.Holds(token.Token);
-            std::fill_n(formats.begin() + token.Position - 1, token.Token.size(), format);
-        } else if (token.Token == "@") {
-            // The blanks on both sides go with the sign.
-            const bool blankBehind = first + 1 < text.size() && text[first + 1] == ' ';
-            const std::size_t from = blankBehind && first > 0 ? first - 1 : first;
-            const std::size_t to = blankBehind ? first + 1 : first;
-            for (std::size_t i = from; i <= to; ++i) formats[i].Font = SymbolFont;
-        }
-    }
-    return formats;
-}
-
-void AddStatementRuns(RunBuilder& runs, const Statement& stmt, int number) {
-    const std::string_view text = StoredText(number);
-    Expression lexed = LexExpression(std::string(text));
-    if (!lexed.error.empty()) lexed.tokens.resize(1);
-    const std::vector<CharFormat> formats = StatementFormats(stmt, text, lexed.tokens);
-    int place = stmt.StartStmt - stmt.StartLine;
-    for (const CharFormat& format : formats) runs.Until(++place, format);
-}
-
-void AddAnnotationRuns(RunBuilder& runs, const Statement& stmt) {
-    const int start = stmt.StartRule - stmt.StartLine;
-    if (HasTriangle(stmt)) {
-        runs.Until(start + 1, {TriangleFont, RuleFontSize, Black, false});
-        runs.Until(start + 2, Format(StmtFontSize, Black));
-    }
-    runs.Until(stmt.EndRule - stmt.StartLine + 1, Format(RuleFontSize, FaintGrey));
-}
-
-std::vector<FormatRun> StatementBlockRuns(int number) {
-    const Statement& stmt = At(number);
-    const CharFormat plain = Format(StmtFontSize, Black);
-    RunBuilder runs;
-    if (stmt.EndUserComment > 0) {
-        AddCommentRuns(runs, ProofSlice(stmt.StartLine, stmt.EndUserComment), 0);
-    }
-    runs.Until(NumberStart(stmt) - stmt.StartLine, plain);
-    runs.Until(stmt.StartStmt - 1 - stmt.StartLine,
-               Format(StmtFontSize, Depth(stmt) > 0 ? FaintGrey : Black, stmt.Highlight));
-    runs.Until(stmt.StartStmt - stmt.StartLine, plain);
-    AddStatementRuns(runs, stmt, number);
-    runs.Until(stmt.StartRule - stmt.StartLine, plain);
-    AddAnnotationRuns(runs, stmt);
-    runs.Until(BlockLength(stmt), plain);
-    return runs.Take();
-}
-
-std::vector<FormatRun> IntroductionRuns() {
-    RunBuilder runs;
-    AddCommentRuns(runs, ProofSlice(1, IntroEnd), 0);
-    runs.Until(IntroEnd + 4, Format(StmtFontSize, Black));
-    return runs.Take();
-}
-
-std::vector<FormatRun> BlockRuns(int index) {
-    const int number = ShownBlocks[static_cast<std::size_t>(index)];
-    return number == Introduction ? IntroductionRuns() : StatementBlockRuns(number);
 }
 
 // --- the surface's text and blocks
@@ -162,11 +43,11 @@ void Mix(std::uint64_t& key, std::size_t value) {
 }
 
 // All that a block's formats depend on besides its bytes.
-std::uint64_t BlockKey(const Statement& stmt) {
+std::uint64_t BlockKey(const Statement& stmt, int fontSize) {
     std::uint64_t key = 0xCBF29CE484222325ULL;
     for (const int part : {stmt.EndUserComment > 0 ? stmt.EndUserComment - stmt.StartLine : -1,
                            stmt.StartStmt - stmt.StartLine, stmt.EndStmt - stmt.StartLine,
-                           stmt.StartRule - stmt.StartLine, stmt.Rule, StmtFontSize}) {
+                           stmt.StartRule - stmt.StartLine, stmt.Rule, fontSize}) {
         Mix(key, static_cast<std::size_t>(part));
     }
     Mix(key, stmt.Highlight ? 1 : 0);
@@ -178,21 +59,22 @@ std::uint64_t BlockKey(const Statement& stmt) {
 
 // Turns the element signs of a block, which begins at `start` in the text, into what shows them.
 // `sign` is the text's first "@" from there on, and the first one behind the block afterwards.
-void ShowSigns(std::string& text, std::size_t start, const Statement& stmt, std::size_t& sign) {
+void ShowSigns(std::string& text, std::size_t start, const Statement& stmt, std::size_t& sign,
+               const Document& document) {
     const std::size_t end = start + static_cast<std::size_t>(BlockLength(stmt));
     for (; sign < end; sign = text.find('@', sign + 1)) {
         const int index = stmt.StartLine + static_cast<int>(sign - start);
         const int last = index < stmt.StartStmt ? stmt.EndUserComment : stmt.EndStmt;
         if (index <= last) text[sign] = 'e';
     }
-    if (HasTriangle(stmt) && BlockIsFolded(stmt)) {
+    if (HasTriangle(stmt, document) && BlockIsFolded(stmt, document)) {
         text[start + static_cast<std::size_t>(stmt.StartRule - stmt.StartLine)] = '5';
     }
 }
 
-void AppendIntroduction(std::string& text) {
-    text += ProofSlice(1, IntroEnd + 4);
-    SwapElementSigns(text, 0, static_cast<std::size_t>(IntroEnd));
+void AppendIntroduction(std::string& text, const Document& document) {
+    text += ProofSlice(1, document.IntroEnd + 4, document);
+    SwapElementSigns(text, 0, static_cast<std::size_t>(document.IntroEnd));
 }
 
 std::string LexError(int number) {
@@ -217,18 +99,20 @@ struct Content {
 };
 
 // Adds the blocks of the visible lines; those that stand side by side are copied at once.
-void AppendVisible(Content& content, int firstLine, int lastLine) {
+void AppendVisible(Content& content, int firstLine, int lastLine, const Document& document,
+                   int fontSize) {
     std::size_t start = content.text.size();
     for (int first = firstLine; first <= lastLine; ++first) {
-        if (!At(first).Visible) continue;
+        if (!At(first, document).Visible) continue;
         int last = first;
-        while (last < lastLine && At(last + 1).Visible) ++last;
-        content.text += ProofSlice(At(first).StartLine, At(last).EndRule + 4);
+        while (last < lastLine && At(last + 1, document).Visible) ++last;
+        content.text +=
+            ProofSlice(At(first, document).StartLine, At(last, document).EndRule + 4, document);
         std::size_t sign = content.text.find('@', start);
         for (int number = first; number <= last; ++number) {
-            const Statement& stmt = At(number);
-            ShowSigns(content.text, start, stmt, sign);
-            content.blocks.push_back({BlockLength(stmt), BlockKey(stmt)});
+            const Statement& stmt = At(number, document);
+            ShowSigns(content.text, start, stmt, sign, document);
+            content.blocks.push_back({BlockLength(stmt), BlockKey(stmt, fontSize)});
             content.numbers.push_back(number);
             start += static_cast<std::size_t>(BlockLength(stmt));
         }
@@ -236,23 +120,32 @@ void AppendVisible(Content& content, int firstLine, int lastLine) {
     }
 }
 
-Content ContentOf(int firstLine, int lastLine) {
+Content ContentOf(int firstLine, int lastLine, const Document& document, int fontSize) {
     Content content;
     if (firstLine <= lastLine) {
         // More than they show, at most.
         const std::size_t lines = static_cast<std::size_t>(lastLine - firstLine + 1);
-        const int start = firstLine == 1 ? 1 : At(firstLine).StartLine;
-        content.text.reserve(static_cast<std::size_t>(At(lastLine).EndRule + 5 - start));
+        const int start = firstLine == 1 ? 1 : At(firstLine, document).StartLine;
+        content.text.reserve(static_cast<std::size_t>(At(lastLine, document).EndRule + 5 - start));
         content.blocks.reserve(lines);
         content.numbers.reserve(lines);
     }
-    if (firstLine == 1 && IntroEnd > 0) {
-        AppendIntroduction(content.text);
-        content.blocks.push_back({IntroEnd + 4, static_cast<std::uint64_t>(StmtFontSize)});
+    if (firstLine == 1 && document.IntroEnd > 0) {
+        AppendIntroduction(content.text, document);
+        content.blocks.push_back({document.IntroEnd + 4, static_cast<std::uint64_t>(fontSize)});
         content.numbers.push_back(Introduction);
     }
-    AppendVisible(content, firstLine, lastLine);
+    AppendVisible(content, firstLine, lastLine, document, fontSize);
     return content;
+}
+
+std::vector<FormatRun> RunsOf(int number, const Document& document, int fontSize) {
+    return number == Introduction ? IntroductionRuns(document, fontSize)
+                                  : StatementBlockRuns(number, document, fontSize);
+}
+
+std::vector<FormatRun> BlockRuns(int index) {
+    return RunsOf(ShownBlocks[static_cast<std::size_t>(index)], Doc, StmtFontSize);
 }
 
 // --- what has changed since the last time
@@ -293,7 +186,7 @@ Unchanged LinesThatLookTheSame() {
 // Replaces the blocks of the lines between those that look the same.
 void RedrawBetween(const Unchanged& same) {
     const int behind = StmtCount - same.tail + 1;
-    Content content = ContentOf(same.head + 1, behind - 1);
+    Content content = ContentOf(same.head + 1, behind - 1, Doc, StmtFontSize);
     const auto first = std::upper_bound(ShownBlocks.begin(), ShownBlocks.end(), same.head);
     // Without lines at the end that look the same, old blocks may bear numbers that are gone.
     const auto last =
@@ -306,9 +199,56 @@ void RedrawBetween(const Unchanged& same) {
 }
 
 void RedrawAll() {
-    Content content = ContentOf(1, StmtCount);
+    Content content = ContentOf(1, StmtCount, Doc, StmtFontSize);
     ShownBlocks = std::move(content.numbers);
     Proof.RTB.SetBlocks(content.text, content.blocks, BlockRuns);
+}
+
+// The first block that begins behind a place of the display, 1-based.
+std::vector<int>::const_iterator FirstBlockBehind(int place, const Document& document) {
+    return std::partition_point(ShownBlocks.begin(), ShownBlocks.end(), [&](int number) {
+        return number == Introduction || At(number, document).ViewerStartLine <= place;
+    });
+}
+
+// --- what it holds
+
+// Is the surface the display, as it was last built?
+bool IsLastShown(const RichTextBox& surface) {
+    return &surface == &Proof.RTB && surface.ContentRevision() == LastShown.revision;
+}
+
+// A part of the display that was built from a document.
+RichText PartOf(const Shown& shown, int start, int length) {
+    const Document& document = shown.document;
+    const Content content = ContentOf(1, document.StmtCount, document, shown.fontSize);
+    TextBlocks blocks;
+    blocks.SetBlocks(content.text, content.blocks, [&](int index) {
+        const int number = content.numbers[static_cast<std::size_t>(index)];
+        return RunsOf(number, document, shown.fontSize);
+    });
+    RichText part{
+        content.text.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(length)),
+        blocks.RunsIn(start, start + length)};
+    for (FormatRun& run : part.runs) run.start -= start;
+    return part;
+}
+
+// Appends the bytes first to last of ProofText, if there are any.
+void AppendSlice(std::string& plain, int first, int last, const Document& document) {
+    if (first <= last) plain += ProofSlice(first, last, document);
+}
+
+// The same for a part of a block, without its triangle and the blank behind that.
+void AppendPlain(std::string& plain, int first, int last, const Statement& stmt,
+                 const Document& document) {
+    const int sign = stmt.StartRule;
+    if (!HasTriangle(stmt, document) || sign < first || sign > last) {
+        return AppendSlice(plain, first, last, document);
+    }
+    AppendSlice(plain, first, sign - 1, document);
+    const bool blank = ProofSlice(sign + 1, sign + 1, document) == " ";
+    AppendSlice(plain, blank ? sign + 2 : sign + 1, last, document);
 }
 
 // Where two rows of runs that cover the same text differ first, in words.
@@ -338,16 +278,43 @@ void ResetDisplay() {
 }
 
 int ShownStmtAt(int place) {
-    const auto behind = std::partition_point(
-        ShownBlocks.begin(), ShownBlocks.end(),
-        [&](int number) { return number == Introduction || At(number).ViewerStartLine <= place; });
+    const auto behind = FirstBlockBehind(place, Doc);
     if (behind == ShownBlocks.begin()) return 0;
     const int number = *(behind - 1);
     return number != Introduction && place <= ViewerEndRule(At(number)) ? number : 0;
 }
 
+std::function<RichText()> LateSelection(const RichTextBox& surface) {
+    if (!IsLastShown(surface)) return [part = surface.Selection()] { return part; };
+    return [shown = LastShown, start = surface.GetSelStart(), length = surface.GetSelLength()] {
+        return PartOf(shown, start, length);
+    };
+}
+
+std::string PlainSelection(const RichTextBox& surface) {
+    if (!IsLastShown(surface) || StoredTextIsDamaged) return PlainText(surface.Selection());
+    const Document& document = LastShown.document;
+    const int first = surface.GetSelStart() + 1;
+    const int last = surface.GetSelStart() + surface.GetSelLength();
+    std::string plain;
+    plain.reserve(static_cast<std::size_t>(surface.GetSelLength()));
+    AppendSlice(plain, first, std::min(last, FirstViewerStartLine(document) - 1), document);
+    auto block = FirstBlockBehind(first, document);
+    if (block != ShownBlocks.begin()) --block;
+    for (; block != ShownBlocks.end(); ++block) {
+        if (*block == Introduction) continue;
+        const Statement& stmt = At(*block, document);
+        const int offset = ViewOffset(stmt);
+        if (last + offset < stmt.StartLine) break;
+        AppendPlain(plain, std::max(first + offset, stmt.StartLine),
+                    std::min(last + offset, stmt.StartLine + BlockLength(stmt) - 1), stmt,
+                    document);
+    }
+    return plain;
+}
+
 std::string CheckDisplay() {
-    const Content content = ContentOf(1, StmtCount);
+    const Content content = ContentOf(1, StmtCount, Doc, StmtFontSize);
     if (content.text != Proof.RTB.GetText()) {
         return "the display's text differs from that of a rebuild";
     }

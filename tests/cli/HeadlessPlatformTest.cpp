@@ -92,7 +92,7 @@ TEST(Keyboard, EditsAOneLineBox) {
     EXPECT_EQ(form.Line.Text, "");
     Press(form, "Del");
     EXPECT_EQ(form.changes, 5) << "no change, no event";
-    SetClipboard({"a\n\tb∈", ""});
+    SetClipboard(TextAlone("a\n\tb∈"));
     Press(form, "Ctrl+V");
     Press(form, "Ctrl+V");
     EXPECT_EQ(form.Line.Text, "ab@ab@");

@@ -90,6 +90,46 @@ void Type(QWidget& widget, const QString& text) {
 
 }  // namespace
 
+TEST(EditBox, OfALongTextInOneLineTheBeginningAloneIsLaidOutAndNothingIsLost) {
+    EntryForm form;
+    form.box.MultiLine = false;
+    std::string text;
+    for (int line = 1000; line < 3000; ++line) text += std::to_string(line) + "\r\n";
+    const int length = static_cast<int>(text.size());
+    form.Run([&](QWidget& window) {
+        auto& editor = Find<QTextEdit>(window, "box");
+        const auto press = [&](Qt::Key key, Qt::KeyboardModifier with = Qt::NoModifier) {
+            QTest::keyClick(&editor, key, with);
+            return form.box.GetText();
+        };
+        const auto caretBehind = [&](Qt::Key key, Qt::KeyboardModifier with = Qt::NoModifier) {
+            Dispatch([&] {
+                form.box.SetText("");
+                form.box.SetText(text);
+            });
+            EXPECT_LT(editor.document()->blockCount(), 500);
+            press(key, with);
+            Dispatch([] {});
+            return form.box.GetSelStart();
+        };
+        EXPECT_EQ(caretBehind(Qt::Key_Right), 1);
+        EXPECT_EQ(caretBehind(Qt::Key_Down), 6);
+        EXPECT_EQ(caretBehind(Qt::Key_End, Qt::ControlModifier), length);
+        EXPECT_EQ(press(Qt::Key_X), text + "x");
+        EXPECT_EQ(caretBehind(Qt::Key_X), 1);
+        EXPECT_EQ(form.box.GetText(), "x" + text);
+        EXPECT_LT(editor.document()->blockCount(), 500) << "what is typed there changes no more";
+        Dispatch([&] { form.box.SelStart = length; });
+        EXPECT_EQ(editor.toPlainText().size(), 1 + length / 6 * 5) << "to here it is all there";
+        // As often as what is held runs short.
+        Dispatch([&] { form.box.SetText(text); });
+        for (int gone = 900; gone < length; gone += 900) {
+            Dispatch([&] { form.box.SelLength = 900; });
+            ASSERT_EQ(press(Qt::Key_Delete), text.substr(static_cast<std::size_t>(gone)));
+        }
+    });
+}
+
 // By the box's own keys and by what the toolkit brings along: its keys, the middle button, a drop.
 TEST(EditBox, EveryWayInAndOutKnowsTheElementSign) {
     StartProgram();

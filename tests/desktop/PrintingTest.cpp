@@ -38,7 +38,7 @@ void FillWorkArea(int lines) {
         text += std::to_string(i) + "\tx e s & " + name + "\r\n\tAxiom\r\n\r\n";
     }
     const int length = static_cast<int>(text.size());
-    SetContent(WorkArea.RTB, text, {{0, length, {StatementFont, 10, Black, false}}});
+    WorkArea.RTB.SetContent(text, {{0, length, {StatementFont, 10, Black, false}}});
 }
 
 QByteArray ContentOf(const QString& path) {

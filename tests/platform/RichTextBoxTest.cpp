@@ -165,7 +165,8 @@ TEST_F(RichTextBoxTest, ReportsTheRangeThatChanged) {
     ExpectChange(1, 7, 7);
     const auto revision = box.ContentRevision();
     box.SetText(box.GetText());
-    box.LoadFromEditor("ab", {{0, 1, Coloured(9)}, {-3, 2, {}}, {5, INT_MAX, {}}}, 1, 99);
+    box.LoadFromEditor("ab", {{0, 1, Coloured(9)}, {-3, 2, {}}, {5, INT_MAX, {}}}, box.TextLength(),
+                       1, 99);
     EXPECT_FALSE(box.TakeChange().any);
     EXPECT_GT(box.ContentRevision(), revision);
     EXPECT_EQ(Shown(box), "C12.9[a]C12.0[b]");

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <vector>
+
 #include "Workbench.h"
 #include "cli/FormState.h"
 #include "cli/HeadlessPlatform.h"
@@ -72,18 +75,44 @@ TEST(TextExchange, ADragWithinABoxMovesTextAsOneStep) {
     }
 }
 
+// Each stretch of the display, with what its look says and without; the rest comes late.
+TEST(TextExchange, WhatIsAskedForLateIsWhatWasSelected) {
+    ASSERT_EQ(
+        Build(EnterPremise("x @ s") + "choose optConclusion\nchoose Continue\n" +
+              "click 1\nset CommentBox \"e @ s\"\nchoose Continue\n" +
+              "choose optIntro\nset CommentBox \"On e @ s\"\nchoose Continue\n" +
+              EnterPremise("s @ t") + "choose optConclusion\nchoose Continue\n" + "click 2 rule\n"),
+        "");
+    RichTextBox& display = Proof.RTB;
+    std::vector<RichText> selected;
+    std::vector<std::function<RichText()>> late;
+    for (int start = 0; start < display.TextLength(); ++start) {
+        for (const int length : {1, 2, 9, 40, display.TextLength()}) {
+            display.SelStart = start;
+            display.SelLength = length;
+            EXPECT_EQ(PlainSelection(display), PlainText(display.Selection()));
+            selected.push_back(display.Selection());
+            late.push_back(LateSelection(display));
+        }
+    }
+    SendChoose(Proof.optLargeText);
+    SendChoose(Proof.optShowAllStmts);
+    SendChoose(Proof.optUndo);
+    for (std::size_t i = 0; i < late.size(); ++i) EXPECT_EQ(late[i](), selected[i]);
+}
+
 TEST(TextExchange, WhatIsHandedOutHasNoSignsOfItsOwn) {
     ASSERT_EQ(Build(EnterPremise("x @ s") + "choose optConclusion\nchoose Continue\n"), "");
     RichTextBox& display = Proof.RTB;
     display.SelStart = 0;
     display.SelLength = display.TextLength();
-    const Clip all = SelectionOf(display);
+    const Clip all = SelectionOf(display).make();
     EXPECT_EQ(all.plain,
               "\t1\tx @ s\r\n\t\tPremise\r\n\r\n"
               "2\tALL(x):ALL(s):[x @ s => x @ s]\r\n\tConclusion, 1\r\n\r\n");
     EXPECT_EQ(all.rtf, display.GetSelRTF()) << "with its look it is the same as ever";
     Proof.optRichTextMode.Checked = false;
-    EXPECT_EQ(SelectionOf(display), (Clip{all.plain, ""}));
+    EXPECT_EQ(SelectionOf(display).make(), (Clip{all.plain, ""}));
 }
 
 }  // namespace
