@@ -143,9 +143,9 @@ bool NextPage() {
     return true;
 }
 
-bool EndPrinting() {
+std::string EndPrinting() {
     Headless.Pages = std::move(Job.pages);
-    return true;
+    return "";
 }
 
 void CancelPrinting() {

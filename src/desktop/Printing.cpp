@@ -1,8 +1,11 @@
-// The printer: the system's default one or, where there is none, a PDF file.
+// The printer: the system's default one or, where there is none, a PDF file, which is written as a
+// proof is when all pages are there.
 //
 // Lines are laid out as they come, so that a long proof needs no more memory than a page. A line
 // that is too long for the paper goes on in the next row.
+#include <QBuffer>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QTextLayout>
@@ -19,6 +22,7 @@
 #include "output/Printing.h"
 #include "output/ProofCommands.h"
 #include "output/Settings.h"
+#include "platform/Files.h"
 #include "platform/PageEnd.h"
 #include "platform/Platform.h"
 
@@ -31,8 +35,11 @@ constexpr int PointsPerInch = 72;
 constexpr int TabStop = 720;  // twips
 
 struct PrinterJob {
-    std::unique_ptr<QPainter> painter;  // goes ahead of the printer that it paints on
-    std::unique_ptr<QPrinter> printer;
+    std::unique_ptr<QBuffer> pdf;              // what the pages of a PDF are written to
+    std::unique_ptr<QPagedPaintDevice> paper;  // these, or the printer
+    std::unique_ptr<QPainter> painter;         // goes ahead of what it paints on
+    QPrinter* printer = nullptr;               // the paper, if it is one
+    std::string pdfName;
     RichTextBox* surface = nullptr;
     int width = 0;  // of a line, in twips
 };
@@ -43,29 +50,39 @@ PrinterJob& Job() {
 }
 
 double Dots(int twips) {
-    return static_cast<double>(twips) * Job().printer->resolution() / TwipsPerInch;
+    return static_cast<double>(twips) * Job().paper->logicalDpiX() / TwipsPerInch;
 }
 
 int Twips(double dots) {
-    return static_cast<int>(std::lround(dots * TwipsPerInch / Job().printer->resolution()));
+    return static_cast<int>(std::lround(dots * TwipsPerInch / Job().paper->logicalDpiX()));
 }
 
 // In dots, as a layout on its own knows no device.
 QFont PrintedFont(const CharFormat& format) {
     QFont font = FontOf(format);
-    font.setPixelSize(format.Size * Job().printer->resolution() / PointsPerInch);
+    font.setPixelSize(format.Size * Job().paper->logicalDpiX() / PointsPerInch);
     return font;
 }
 
 using PrinterReady = std::function<void(PrinterState, const PrinterPage&)>;
 
 void Ready(const PrinterReady& then) {
-    QPrinter& printer = *Job().printer;
-    if (!printer.isValid()) return then(PrinterState::Failed, {});
-    printer.setDocName(ToQt(PrintTitle()));
-    printer.setFullPage(true);  // coordinates from the edges of the paper
-    const QRectF paper = printer.paperRect(QPrinter::DevicePixel);
-    then(PrinterState::Ready, {Twips(paper.width()), Twips(paper.height()), 0, 0});
+    QPagedPaintDevice& paper = *Job().paper;
+    QPageLayout layout = paper.pageLayout();
+    layout.setMode(QPageLayout::FullPageMode);  // coordinates from the edges of the paper
+    paper.setPageLayout(layout);
+    const QRect page = layout.fullRectPixels(paper.logicalDpiX());
+    then(PrinterState::Ready, {Twips(page.width()), Twips(page.height()), 0, 0});
+}
+
+void ReadyPdf() {
+    PrinterJob& job = Job();
+    job.pdf = std::make_unique<QBuffer>();
+    job.pdf->open(QIODevice::WriteOnly);
+    auto pages = std::make_unique<QPdfWriter>(job.pdf.get());
+    pages->setTitle(ToQt(PrintTitle()));
+    pages->setPageLayout(QPrinter().pageLayout());  // on the paper that is usual here
+    job.paper = std::move(pages);
 }
 
 void AskForPdf(PrinterReady then) {
@@ -73,8 +90,8 @@ void AskForPdf(PrinterReady then) {
     ShowSave({name, "PDF (*.pdf)|*.pdf", DefaultDir, true, false, "Print to PDF"},
              [then = std::move(then)](const ChosenFile& file) {
                  if (!file) return then(PrinterState::Cancelled, {});
-                 Job().printer->setOutputFormat(QPrinter::PdfFormat);
-                 Job().printer->setOutputFileName(ToQt(*file));
+                 ReadyPdf();
+                 Job().pdfName = *file;
                  Ready(then);
              });
 }
@@ -167,9 +184,13 @@ QPointF Draw(const PrintedLine& line, int from, int end, QPointF place) {
 void ReadyPrinter(PrinterReady then) {
     ReleasePrinter();
     const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
-    Job().printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     if (standard.isNull()) return AskForPdf(std::move(then));
-    Job().printer->setPrinterName(standard.printerName());
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setPrinterName(standard.printerName());
+    printer->setDocName(ToQt(PrintTitle()));
+    Job().printer = printer.get();
+    Job().paper = std::move(printer);
+    if (!Job().printer->isValid()) return then(PrinterState::Failed, {});
     Ready(then);
 }
 
@@ -182,7 +203,7 @@ bool LayOutForPrinter(RichTextBox& surface, int width) {
 bool StartPrinting() {
     PrinterJob& job = Job();
     job.painter = std::make_unique<QPainter>();
-    return job.painter->begin(job.printer.get());
+    return job.painter->begin(job.paper.get());
 }
 
 int PrintRange(int from, const PageRect& rect) {
@@ -203,18 +224,24 @@ int PrintRange(int from, const PageRect& rect) {
 }
 
 bool NextPage() {
-    return Job().printer->newPage();
+    return Job().paper->newPage();
 }
 
-bool EndPrinting() {
-    return Job().painter->end() && Job().printer->printerState() != QPrinter::Error;
+std::string EndPrinting() {
+    const PrinterJob& job = Job();
+    const bool good = job.painter->end() &&
+                      (job.printer == nullptr || job.printer->printerState() != QPrinter::Error);
+    if (!good) return "The printer failed.";
+    return job.pdf == nullptr ? "" : ReplaceFile(job.pdfName, job.pdf->data().toStdString());
 }
 
 void CancelPrinting() {
-    Job().printer->abort();
+    if (Job().printer != nullptr) Job().printer->abort();
 }
 
 void ReleasePrinter() {
+    Job().painter.reset();
+    Job().paper.reset();
     Job() = {};
 }
 

@@ -61,7 +61,7 @@ void PrintProofForm::Continue() {
     }
     if (ProofText.empty()) return Refuse("PRINT: No text to print", "The proof is empty.");
     PrintStatements(from, to, [this](PrintResult result) {
-        if (result == PrintResult::Failed) Refuse("Unable to print", "The printer failed.");
+        if (result == PrintResult::Failed) Refuse("Unable to print", PrintFault);
         if (result == PrintResult::Done) Hide();
     });
 }

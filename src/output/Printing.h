@@ -24,6 +24,8 @@ std::string PrintTitle();
 
 enum class PrintResult { Done, Cancelled, Failed };
 
+inline std::string PrintFault;  // why the last print failed, as a sentence for the user
+
 // Readies the printer, for which the user may have to name a file, and lays the surface out for it.
 // Margins are in twips. The surface must stay until `then` has been told whether it went well, and
 // the width and height that the margins leave of a page.

@@ -7,6 +7,8 @@
 namespace tessaryn {
 namespace {
 
+constexpr const char* PrinterFailed = "The printer failed.";
+
 PrinterPage Page;  // of the printer that has been readied
 
 PageRect Between(int leftMargin, int topMargin, int rightMargin, int bottomMargin) {
@@ -29,6 +31,7 @@ int PrintPages(RichTextBox& surface, const PageRect& rect) {
 
 void WYSIWYG_RTF(RichTextBox& surface, int leftMargin, int rightMargin, int topMargin,
                  int bottomMargin, std::function<void(PrintResult, int, int)> then) {
+    PrintFault = PrinterFailed;
     ReadyPrinter(
         [=, &surface, then = std::move(then)](PrinterState state, const PrinterPage& page) {
             if (state == PrinterState::Cancelled) return then(PrintResult::Cancelled, 0, 0);
@@ -50,7 +53,8 @@ PrintResult PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int ri
         const PageRect rect = Between(leftMargin, topMargin, rightMargin, bottomMargin);
         const bool whole = PrintPages(surface, rect) >= surface.TextLength();
         if (!whole) CancelPrinting();
-        good = whole && EndPrinting();
+        if (whole) PrintFault = EndPrinting();
+        good = whole && PrintFault.empty();
     }
     ReleasePrinter();
     return good ? PrintResult::Done : PrintResult::Failed;
@@ -58,6 +62,7 @@ PrintResult PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int ri
 
 void ResetPrinting() {
     Page = {};
+    PrintFault.clear();
 }
 
 }  // namespace tessaryn

@@ -73,7 +73,9 @@ bool StartPrinting();
 // Prints what fits into the rectangle, from a position on. Gives the first position that did not.
 int PrintRange(int from, const PageRect& rect);
 bool NextPage();
-bool EndPrinting();  // all pages are with the printer
+// All pages are to be with the printer, or in the file. "", or a sentence that tells why they are
+// not; an old file is then as it was.
+std::string EndPrinting();
 void CancelPrinting();
 void ReleasePrinter();
 

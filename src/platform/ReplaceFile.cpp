@@ -247,9 +247,11 @@ std::string ReplaceFile(const std::string& path, const std::string& bytes) {
                                : Reason(errno, *target);
     }
     RemoveLeftovers(DirectoryOf(*target));
-    // Should anyone have taken the temporary file away, or its name, it is written once more.
+    // Should anyone have taken the temporary file away, or its name, it is written once more; and
+    // where a signal came between.
     int error = EEXIST;
-    for (int tries = 0; tries < 3 && (error == EEXIST || error == ENOENT); ++tries) {
+    const auto mayPass = [&] { return error == EEXIST || error == ENOENT || error == EINTR; };
+    for (int tries = 0; tries < 3 && mayPass(); ++tries) {
         error = WriteAndRename(*target, exists ? &info : nullptr, bytes);
     }
     if (error != 0) return Reason(error, *target);

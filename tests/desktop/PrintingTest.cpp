@@ -3,10 +3,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QMessageBox>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
+#include <cerrno>
 
 #include "AnsweredFileBox.h"
+#include "Faults.h"
 #include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "menu/StartProgram.h"
@@ -107,4 +110,33 @@ TEST(Printing, PutsAllPagesIntoAPdf) {
     ProofFileName = directory.filePath(QStringLiteral("sets.proof")).toStdString();
     EXPECT_EQ(PrintTo(QString()), PrintResult::Cancelled);
     EXPECT_EQ(FileBoxShown.name, directory.filePath(QStringLiteral("sets.pdf")));
+}
+
+TEST(Printing, APdfThatCannotBeWrittenLeavesTheOldOne) {
+    if (!QPrinterInfo::defaultPrinter().isNull()) GTEST_SKIP() << "there is a printer";
+    StartProgram();
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("own.pdf"));
+    FillWorkArea(3);
+    QTimer overTheOldOne;
+    QObject::connect(&overTheOldOne, &QTimer::timeout, [] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box != nullptr) box->button(QMessageBox::Yes)->click();
+    });
+    overTheOldOne.start(1);
+    int failures = 0;
+    bool reached = true;
+    for (int call = 1; reached; ++call) {
+        QFile(path).remove();
+        QFile::copy(QStringLiteral(TESSARYN_SOURCE_DIR "/README.md"), path);
+        InjectFault(qPrintable(directory.path()), call, ENOSPC);
+        const bool failed = PrintTo(path) == PrintResult::Failed;
+        reached = CallsSoFar() >= call;
+        InjectFault("", 0, 0);
+        EXPECT_EQ(PrintFault, failed ? "The disk is full." : "");
+        failures += failed ? 1 : 0;
+        EXPECT_TRUE(ContentOf(path).startsWith(failed ? "# Tessaryn" : "%PDF")) << call;
+        EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+    EXPECT_GT(failures, 2);
 }

@@ -113,14 +113,5 @@ TEST_F(RecoveryTest, WhatIsThrownAwayStaysForAWeek) {
     EXPECT_EQ(Copies("discarded-"), 0u);
 }
 
-TEST_F(RecoveryTest, AFolderThatCannotBeWrittenIsToldOnce) {
-    Work("+ P");
-    RecoveryDir = Path("gone");
-    StartKeepingCopies();
-    KeepCopy();
-    KeepCopy();
-    EXPECT_EQ(Headless.Notes.size(), 1u);
-}
-
 }  // namespace
 }  // namespace tessaryn
