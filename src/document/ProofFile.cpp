@@ -127,10 +127,10 @@ std::optional<Document> ReadProof(ByteReader& in) {
     proof.Content = ContentState::Unknown;
     proof.ProofCaption = ToUtf8(in.String());
     for (; proof.StmtCount < count; ++proof.StmtCount) {
-        Statement stmt = ReadRecord(in);
+        const Statement stmt = ReadRecord(in);
         // At once, as what is no proof file at all can go on for long.
         if (!in.Good() || !IsRuleNumber(stmt.Rule)) return std::nullopt;
-        proof.StmtTable.Append(std::move(stmt));
+        proof.StmtTable.Append(stmt);
     }
     std::string text = in.String();
     if (!in.Good() || !TakeText(proof, std::move(text))) return std::nullopt;

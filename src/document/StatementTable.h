@@ -39,16 +39,16 @@ class StatementTable {
         return OwnPage(index / PageSize).statements[index % PageSize];
     }
 
-    void Append(Statement statement) {
+    void Append(const Statement& statement) {
         if (count_ % static_cast<int>(PageSize) == 0) AddPage();
-        OwnPage(pages_.size() - 1).statements.push_back(std::move(statement));
+        OwnPage(pages_.size() - 1).statements.push_back(statement);
         ++count_;
     }
     // Puts `count` fresh statements in at `line`; what stood there and behind it moves on.
     void Insert(int line, int count) {
-        StatementTable whole = CutOffFrom(line);
+        const StatementTable whole = CutOffFrom(line);
         for (int i = 0; i < count; ++i) Append({});
-        for (int old = line; old <= whole.count_; ++old) Append(whole.TakeOut(old));
+        for (int old = line; old <= whole.count_; ++old) Append(whole[old]);
     }
     // Removes the statements that the predicate tells of.
     template <class Predicate>
@@ -56,9 +56,9 @@ class StatementTable {
         int first = 1;
         while (first <= count_ && !doomed((*this)[first])) ++first;
         if (first > count_) return;
-        StatementTable whole = CutOffFrom(first);
+        const StatementTable whole = CutOffFrom(first);
         for (int old = first; old <= whole.count_; ++old) {
-            if (!doomed(std::as_const(whole)[old])) Append(whole.TakeOut(old));
+            if (!doomed(whole[old])) Append(whole[old]);
         }
     }
     // Calls edit with each statement, for writing.
@@ -221,14 +221,6 @@ class StatementTable {
         if (kept % PageSize > 0) OwnPage(pages_.size() - 1).statements.resize(kept % PageSize);
         return whole;
     }
-    // A statement for another table: moved where no copy shares it.
-    Statement TakeOut(int line) {
-        const std::size_t index = static_cast<std::size_t>(line) - 1;
-        std::shared_ptr<Page>& page = pages_[index / PageSize];
-        Statement& statement = page->statements[index % PageSize];
-        return page.use_count() > 1 ? statement : std::move(statement);
-    }
-
     std::vector<std::shared_ptr<Page>> pages_;
     int count_ = 0;
 };

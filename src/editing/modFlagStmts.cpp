@@ -42,15 +42,15 @@ class LinesInForce {
   public:
     // The names of a list, which are the same objects for each list that holds them.
     const UsedNames& NamesIn(const KeptText& list) {
-        const auto [found, isNew] = lists_.try_emplace(list.Key());
-        if (isNew) {
-            ForEachName(list, [&](std::string_view name) {
-                UsedName& used = names_[name];
-                used.text = name;
-                found->second.push_back(&used);
-            });
-        }
-        return found->second;
+        const auto found = lists_.find(list.Key());
+        if (found != lists_.end()) return found->second;
+        UsedNames& names = lists_[list.Key()];
+        ForEachName(list, [&](std::string_view name) {
+            UsedName& used = names_[name];
+            used.text = name;
+            names.push_back(&used);
+        });
+        return names;
     }
 
     void Add(int line, const Statement& stmt) {

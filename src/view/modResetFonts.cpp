@@ -124,7 +124,7 @@ Content ContentOf(int firstLine, int lastLine, const Document& document, int fon
     Content content;
     if (firstLine <= lastLine) {
         // More than they show, at most.
-        const std::size_t lines = static_cast<std::size_t>(lastLine - firstLine + 1);
+        const auto lines = static_cast<std::size_t>(lastLine - firstLine + 1);
         const int start = firstLine == 1 ? 1 : At(firstLine, document).StartLine;
         content.text.reserve(static_cast<std::size_t>(At(lastLine, document).EndRule + 5 - start));
         content.blocks.reserve(lines);
