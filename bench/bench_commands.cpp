@@ -1,13 +1,14 @@
 // One command in proofs of 100 to 32,000 statements, from the user's action to the display model.
 #include <benchmark/benchmark.h>
-#include <sys/resource.h>
 
 #include <filesystem>
 
 #include "Steps.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
-#include "expr/Expression.h"
+#include "entry/MyInputBox.h"
+#include "entry/TermChecks.h"
+#include "entry/TestParser.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
@@ -20,23 +21,32 @@
 namespace tessaryn {
 namespace {
 
-// The proof is put back, untimed, after each round.
+// The proof that is open is put back, untimed, after each round.
 template <class Prepare, class Command>
-void Measure(benchmark::State& state, Prepare prepare, Command command) {
-    const int count = static_cast<int>(state.range(0));
-    MakeLargeProof(count);
+void MeasureOpen(benchmark::State& state, Prepare prepare, Command command) {
     const KeptProof proof;
     for (auto _ : state) {
         state.PauseTiming();
         proof.PutBack();
         Headless.Beeps.clear();
+        if (InsertMode) EndInsertMode();
         prepare();
         LookAtScreen();
+        const int before = StmtCount;
         state.ResumeTiming();
         command();
         LookAtScreen();
+        if (StmtCount == before)
+            return state.SkipWithError(Headless.Beeps.empty() ? "no statement was written"
+                                                              : Headless.Beeps.back().c_str());
     }
-    state.SetComplexityN(count);
+    state.SetComplexityN(state.range(0));
+}
+
+template <class Prepare, class Command>
+void Measure(benchmark::State& state, Prepare prepare, Command command) {
+    MakeLargeProof(static_cast<int>(state.range(0)));
+    MeasureOpen(state, prepare, command);
 }
 
 void JoinLastLines() {
@@ -51,18 +61,86 @@ void JoinAtEnd(benchmark::State& state) {
     Measure(state, JoinLastLines, JoinLastLines);
 }
 
+void SplitLastLine() {
+    StartClickRule(Rule::Split);
+    ClickStatement(StmtCount);
+}
+
+void SplitAtEnd(benchmark::State& state) {
+    Measure(state, JoinLastLines, SplitLastLine);
+}
+
+void InsertAhead(int line) {
+    if (InsertMode) SendChoose(Proof.optInsert);
+    SendChoose(Proof.optInsert);
+    ClickStatement(line);
+}
+
+// With the check that the names are new to the lines behind it.
+void EnterPremise() {
+    SendChoose(Proof.optPremise);
+    TestParser.RTB.SetText("S(v) & v @ w");
+    SendChoose(TestParser.cmdContinue);
+}
+
 void InsertPremiseAtLine2(benchmark::State& state) {
     Measure(
-        state, [] { ResetFonts(); },
-        [] {
-            InsertMode = true;
-            InsertLine = 2;
-            RuleMode = Rule::Premise;
-            Arg1Pending = Arg2Pending = 0;
-            NewStmtText = "S(v) & v @ w";
-            WriteStatement();
-            InsertMode = false;
-        });
+        state, [] { InsertAhead(2); }, EnterPremise);
+}
+
+void Conclude() {
+    SendChoose(Proof.optConclusion);
+    MyInputBox.Text1.Text = "c,d";
+    SendChoose(MyInputBox.Continue);
+}
+
+// A premise at that line, and what follows from it up to the other line.
+void AppendOpenBlock(int first, int last) {
+    MakeLargeProof(first - 1);
+    EnterPremise();
+    while (StmtCount < last) {
+        StartClickRule(Rule::Split);
+        ClickStatement(first);
+    }
+}
+
+void ConclusionOverHalf(benchmark::State& state) {
+    const int count = static_cast<int>(state.range(0));
+    AppendOpenBlock(count / 2 + 1, count);
+    MeasureOpen(
+        state, [] {}, Conclude);
+}
+
+// The block holds the first half, and the other half comes behind it.
+void ConclusionOverHalfInserted(benchmark::State& state) {
+    const int count = static_cast<int>(state.range(0));
+    AppendOpenBlock(1, count / 2 + 1);
+    while (StmtCount < count) Write("ALL(a):a=a");
+    MeasureOpen(
+        state, [count] { InsertAhead(count / 2 + 2); }, Conclude);
+}
+
+// The names of a term must stand in a line that makes it an element of something; none does, and
+// each line is parsed.
+void FirstFindOfACompoundTerm(benchmark::State& state) {
+    StartHeadless();
+    for (int i = 1; i < state.range(0); ++i) {
+        const std::string n = std::to_string(i);
+        Write("P(x,y) & [ALL(a):[a @ s => R(a,f" + n + "(a))] | ~Q(f(z)+" + n + ")]");
+    }
+    Write("ALL(a):P(a)");
+    for (auto _ : state) {
+        SendChoose(Proof.optSpec);
+        ClickStatement(StmtCount);
+        TestParser.RTB.SetText("f(z)");
+        SendChoose(TestParser.cmdContinue);
+        state.PauseTiming();
+        if (!TestParser.Visible) state.SkipWithError("the term was taken");
+        SendChoose(TestParser.cmdCancel);
+        ResetTermChecks();
+        Headless.Beeps.clear();
+        state.ResumeTiming();
+    }
 }
 
 void UndoOfJoin(benchmark::State& state) {
@@ -91,6 +169,17 @@ void Save(benchmark::State& state) {
     for (auto _ : state) SendChoose(Proof.optSave);
 }
 
+// With the check that its names are new.
+void CreateAxiom(benchmark::State& state) {
+    Measure(
+        state, [] { InsertAhead(1); },
+        [] {
+            SendChoose(Proof.optAxiom);
+            TestParser.RTB.SetText("S(v) & v @ w");
+            SendChoose(TestParser.cmdContinue);
+        });
+}
+
 void Open(benchmark::State& state) {
     MakeLargeProof(static_cast<int>(state.range(0)));
     ProofFileName = ScratchFile();
@@ -107,7 +196,12 @@ void Sizes(benchmark::internal::Benchmark* bench) {
 }
 
 BENCHMARK(JoinAtEnd)->Apply(Sizes);
+BENCHMARK(SplitAtEnd)->Apply(Sizes);
+BENCHMARK(CreateAxiom)->Apply(Sizes);
 BENCHMARK(InsertPremiseAtLine2)->Apply(Sizes);
+BENCHMARK(ConclusionOverHalf)->Apply(Sizes);
+BENCHMARK(ConclusionOverHalfInserted)->Apply(Sizes);
+BENCHMARK(FirstFindOfACompoundTerm)->Arg(32000)->Unit(benchmark::kMillisecond);
 BENCHMARK(UndoOfJoin)->Apply(Sizes);
 BENCHMARK(Save)->Apply(Sizes);
 BENCHMARK(Open)->Apply(Sizes);

@@ -1,6 +1,7 @@
 // Texts that repeat in their thousands, such as the name lists of a proof.
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -23,6 +24,10 @@ class KeptText {
     const std::string& Text() const { return *text_; }
     bool empty() const { return text_->empty(); }
     bool operator==(const KeptText&) const = default;
+    template <std::convertible_to<std::string_view> Other>
+    requires(!std::same_as<Other, KeptText>) bool operator==(const Other& text) const {
+        return std::string_view(*text_) == std::string_view(text);
+    }
     // Differs for different texts, and from one run of the program to the next.
     std::size_t Key() const { return reinterpret_cast<std::uintptr_t>(text_); }
 

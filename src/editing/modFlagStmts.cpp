@@ -99,7 +99,7 @@ bool IsMarked(int line) {
 }
 
 bool BringsIn(const Statement& stmt, std::string_view name) {
-    return stmt.Rule == Rule::ESpec && stmt.SpecName.Text() == name;
+    return stmt.Rule == Rule::ESpec && stmt.SpecName == name;
 }
 
 // Is the name fixed in the statement, now that what is marked has gone?

@@ -26,7 +26,9 @@ bool IsIntroducedByPremise(const std::string& name, int line) {
 }
 
 std::vector<std::string> GreenNames(int line) {
-    std::vector<std::string> names = NamesOf(At(line).FreeVars);
+    const Statement& stmt = At(line);
+    if (stmt.FreeVars == stmt.FixedVars) return {};
+    std::vector<std::string> names = NamesOf(stmt.FreeVars);
     std::erase_if(names, [&](const std::string& name) { return !IsGreen(name, line); });
     return names;
 }
@@ -127,7 +129,9 @@ std::vector<std::string> FreeNames() {
 }
 
 bool IsGreen(const std::string& name, int stmt) {
-    return HoldsName(At(stmt).FreeVars, name) && !HoldsName(At(stmt).FixedVars, name);
+    const KeptText& names = At(stmt).FreeVars;
+    const KeptText& fixed = At(stmt).FixedVars;
+    return names != fixed && HoldsName(names, name) && !HoldsName(fixed, name);
 }
 
 bool IsIntroducedOn(const std::string& name, int stmt) {

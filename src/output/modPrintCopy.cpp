@@ -22,24 +22,40 @@ constexpr int CaptionSize = 12;
 constexpr int TextSize = 10;
 constexpr int AnnotationSize = 8;
 
-// Text with its formats, put together piece by piece.
+// Text with its formats, put together piece by piece, element signs as they are shown.
 class Copy {
   public:
+    explicit Copy(std::size_t expectedLength) { text_.reserve(expectedLength); }
+
     void Append(std::string_view text, int size, bool bold = false) {
-        if (text.empty()) return;
-        const int start = static_cast<int>(text_.size());
-        text_ += text;
-        runs_.push_back({start, static_cast<int>(text.size()), {StatementFont, size, Black, bold}});
+        for (std::size_t at = 0; at < text.size();) {
+            const bool sign = text[at] == '@';
+            const std::size_t end = sign ? at + 1 : std::min(text.find('@', at), text.size());
+            AppendRun(sign ? "e" : text.substr(at, end - at), sign, size, bold);
+            at = end;
+        }
     }
-    void PutOn(RichTextBox& surface) {
-        const int length = static_cast<int>(text_.size());
-        surface.SetContent(std::move(text_), runs_);
-        ConvertAmpersand(surface, 1, length);
-    }
+    void PutOn(RichTextBox& surface) { surface.SetContent(std::move(text_), runs_); }
 
   private:
+    void AppendRun(std::string_view text, bool sign, int size, bool bold) {
+        const int start = static_cast<int>(text_.size());
+        const int length = static_cast<int>(text.size());
+        text_ += text;
+        const auto goesOn = [&](const CharFormat& last) {
+            return last.Size == size && last.Bold == bold && sign == lastIsSign_;
+        };
+        if (!runs_.empty() && goesOn(runs_.back().format)) {
+            runs_.back().length += length;
+            return;
+        }
+        runs_.push_back({start, length, {sign ? SymbolFont : StatementFont, size, Black, bold}});
+        lastIsSign_ = sign;
+    }
+
     std::string text_;
     std::vector<FormatRun> runs_;
+    bool lastIsSign_ = false;
 };
 
 std::string Folded(std::string_view text) {
@@ -110,7 +126,7 @@ void InsertTabs(std::string& text) {
 }
 
 void BuildPrintCopy(int first, int last) {
-    Copy copy;
+    Copy copy(ProofText.size());
     if (!ProofCaption.empty()) AppendCaption(copy);
     if (first == 1 && IntroEnd > 0) copy.Append(ProofSlice(1, IntroEnd + 4), TextSize);
     for (int number = first; number <= last; ++number) AppendStatement(copy, number);
