@@ -15,6 +15,7 @@ namespace {
 constexpr QChar ElementGlyph(0x03B5);
 constexpr QChar UpGlyph(0x25B2);
 constexpr int SurfaceFont = QTextFormat::UserProperty;
+constexpr std::size_t FormatsKept = 30;  // more than the program has of its own
 
 const QString& StatementFont() {
     static const QString name = QStringLiteral("Courier New");
@@ -119,10 +120,17 @@ QFont FontOf(const CharFormat& format) {
 }
 
 QTextCharFormat TextFormat(const CharFormat& format) {
+    // The latest few: to make one takes longer than to lay out the characters that have it.
+    static std::vector<std::pair<CharFormat, QTextCharFormat>> made;
+    const auto found = std::find_if(made.begin(), made.end(),
+                                    [&](const auto& each) { return each.first == format; });
+    if (found != made.end()) return found->second;
     QTextCharFormat shown;
     shown.setFont(FontOf(format));
     shown.setForeground(QColor::fromRgb(format.Color));
     shown.setProperty(SurfaceFont, ToQt(format.Font));
+    if (made.size() >= FormatsKept) made.clear();
+    made.emplace_back(format, shown);
     return shown;
 }
 

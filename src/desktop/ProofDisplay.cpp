@@ -76,7 +76,7 @@ bool ProofDisplay::TakeContent() {
     if (!change.any) return false;
     const int units = index_.UnitsCounted();
     index_.Update(box_.GetText(), change.start, change.removed, change.inserted);
-    lines_.clear();
+    lines_.erase(lines_.lower_bound(index_.LineAt(change.start)), lines_.end());
     MeasureFont();
     UpdateScrollBars();
     news_.ContentChanged(*this, change, units);
@@ -87,6 +87,7 @@ bool ProofDisplay::TakeContent() {
 void ProofDisplay::MeasureFont() {
     const int size = box_.FormatAt(0).Size;
     if (size == fontSize_) return;
+    lines_.clear();
     CharFormat format;
     format.Size = fontSize_ = size;
     style_.font = FontOf(format);

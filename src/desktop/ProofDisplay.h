@@ -83,7 +83,7 @@ class ProofDisplay : public QAbstractScrollArea {
 
     RichTextBox& box_;
     LineIndex index_;
-    std::map<int, LineLayout> lines_;  // laid out, by number; dropped at each change
+    std::map<int, LineLayout> lines_;  // laid out, by number; dropped from a change on
     int linesLaidOut_ = 0;
     int fontSize_ = 0;  // points; of the statements
     int lineHeight_ = 1;
