@@ -90,6 +90,9 @@ int CallsSoFar() {
     return TheFault.calls;
 }
 
+// The names of parameters are the system's own business.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
+
 // The mode may be missing where no file is made.
 #define OPEN(name)                                          \
     int name(const char* path, int flags, ...) {            \
@@ -131,4 +134,5 @@ int close(int file) {
     return -1;
 }
 
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
 }  // extern "C"
