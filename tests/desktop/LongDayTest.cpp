@@ -12,6 +12,7 @@
 #include <QPixmapCache>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <QThreadPool>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
@@ -24,6 +25,7 @@
 #include "document/Invariants.h"
 #include "document/ProofFile.h"
 #include "mainwindow/Proof.h"
+#include "output/Recovery.h"
 #include "view/Display.h"
 
 #ifdef __SANITIZE_ADDRESS__
@@ -35,6 +37,7 @@ using namespace tessaryn;
 namespace {
 
 constexpr int ActionsOfADay = 1000;
+constexpr int ActionsOfAShortDay = 300;
 
 std::size_t BytesInUse() {
     QPixmapCache::clear();
@@ -93,14 +96,23 @@ std::string BrokenLaw() {
     return fault;
 }
 
+// The program ends as by a power cut, and is started again.
+void CutPower(const QString& home) {
+    Dispatch(KeepCopy);
+    QThreadPool::globalInstance()->waitForDone();
+    ForgetCopies();
+    EndAtHome();
+    StartAtHome(home);
+}
+
 // What the user was offered is added to `seen`.
-void Day(unsigned seed, std::set<std::string>& seen) {
+void Day(unsigned seed, int actions, std::set<std::string>& seen) {
     const QTemporaryDir home;
     const std::string kept = "longday-" + std::to_string(seed) + ".log";
     RandomUser user(seed, home.filePath(QStringLiteral("proofs")), kept);
     StartAtHome(home.path());
     std::string fault;
-    for (int action = 1; action <= ActionsOfADay && fault.empty(); ++action) {
+    for (int action = 1; action <= actions && fault.empty(); ++action) {
         user.Act();
         fault = user.Finding();
         if (Ending()) {
@@ -108,6 +120,9 @@ void Day(unsigned seed, std::set<std::string>& seen) {
             StartAtHome(home.path());
         } else if (action % 100 == 0 && fault.empty()) {
             fault = BrokenLaw();
+            if (action % 300 == 0 && QApplication::activeModalWidget() == nullptr) {
+                CutPower(home.path());
+            }
         }
     }
     user.ComeToRest();
@@ -126,7 +141,8 @@ int Wanted(const char* variable, int otherwise) {
 }  // namespace
 
 TEST(LongDay, WhateverIsDoneEverythingHoldsTogether) {
-    const int seconds = Wanted("TESSARYN_LONGDAY", 5);
+    const bool isShort = std::getenv("TESSARYN_LONGDAY") == nullptr;
+    const int seconds = Wanted("TESSARYN_LONGDAY", 4);
     auto seed = static_cast<unsigned>(Wanted("TESSARYN_LONGDAY_SEED", 1));
     std::set<std::string> seen;
     std::size_t before = 0;  // bytes in use, when all has been used once
@@ -134,7 +150,7 @@ TEST(LongDay, WhateverIsDoneEverythingHoldsTogether) {
     QElapsedTimer clock;
     clock.start();
     do {
-        Day(seed++, seen);
+        Day(seed++, isShort ? ActionsOfAShortDay : ActionsOfADay, seen);
         if (HasFatalFailure()) return;
         if (++days == 10) before = BytesInUse();
         if (seconds > 60) {

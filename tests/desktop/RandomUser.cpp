@@ -202,12 +202,14 @@ void RandomUser::Act() {
 void RandomUser::WorkIn(QWidget& window) {
     if (qobject_cast<QFileDialog*>(&window) != nullptr) return AnswerFileDialogue(window);
     const bool isProof = &window == MainWindow();
+    QWidget* target = nullptr;
     switch (const std::size_t what = Below(24); what) {
         case 0:
             return PressAnyKey(window);
         case 1:
         case 2:
-            return UseMouseAnywhere(window);
+            target = OneOf(ShownIn(window));
+            return UseMouse(*target, target->width(), Below(5));
         case 3:
             if (Below(4) == 0) return ChangeWindow(window);
             if (Below(2) == 0) return ChangeFile();
@@ -234,28 +236,9 @@ void RandomUser::Command() {
 void RandomUser::ClickInProof() {
     auto* display =
         WidgetOf(Proof.RTB)->findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport"));
-    if (display == nullptr || display->size().isEmpty()) return;
     // Most of the text stands to the left.
-    const int width = Below(3) == 0 ? display->width() : std::min(display->width(), 250);
-    const QPoint place(static_cast<int>(Below(static_cast<std::size_t>(width))),
-                       static_cast<int>(Below(static_cast<std::size_t>(display->height()))));
-    const QPoint there = display->mapTo(display->window(), place);
-    QWindow* window = display->window()->windowHandle();
-    const auto at = " at " + std::to_string(place.x()) + ',' + std::to_string(place.y());
-    switch (Below(10)) {
-        case 0:
-            Log("double click" + at);
-            return QTest::mouseDClick(window, Qt::LeftButton, {}, there);
-        case 1:
-            Log("drag" + at);
-            QTest::mousePress(window, Qt::LeftButton, {}, there);
-            QTest::mouseMove(window, there + QPoint(static_cast<int>(Below(80)), 0));
-            return QTest::mouseRelease(window, Qt::LeftButton, {},
-                                       there + QPoint(static_cast<int>(Below(80)), 0));
-        default:
-            Log("click" + at);
-            return QTest::mouseClick(window, Qt::LeftButton, {}, there);
-    }
+    UseMouse(*display, Below(3) == 0 ? display->width() : std::min(display->width(), 250),
+             Below(30));
 }
 
 // A form of the program, a message, a menu, the manual.
@@ -337,35 +320,38 @@ void RandomUser::PressAnyKey(QWidget& window) {
     }
 }
 
-void RandomUser::UseMouseAnywhere(QWidget& window) {
-    QWidget& target = *OneOf(ShownIn(window));
-    const QPoint place(static_cast<int>(Below(static_cast<std::size_t>(target.width()))),
-                       static_cast<int>(Below(static_cast<std::size_t>(target.height()))));
-    const QPoint there = target.mapTo(&window, place);
-    QWindow* handle = window.windowHandle();
-    const Qt::MouseButton button = Below(3) == 0 ? Qt::RightButton : Qt::LeftButton;
-    const Qt::KeyboardModifiers held = Below(4) == 0 ? Qt::ShiftModifier : Qt::NoModifier;
-    const std::size_t kind = Below(5);
-    Log("mouse " + std::to_string(kind) + " in " + NameOf(target) + " of " + NameOf(window) +
-        " at " + std::to_string(place.x()) + ',' + std::to_string(place.y()));
-    if (handle == nullptr) return;
-    if (kind == 0) return QTest::mouseDClick(handle, button, held, there);
+// Kind 0: a double click, 1: a drag, 2: the wheel, else a click.
+void RandomUser::UseMouse(QWidget& target, int width, std::size_t kind) {
+    if (width <= 0 || target.height() <= 0) return;
+    const auto between = [this](int first, int last) {
+        return first + static_cast<int>(Below(static_cast<std::size_t>(last - first + 1)));
+    };
+    const QPoint place(between(0, width - 1), between(0, target.height() - 1));
+    const QPoint there = target.mapTo(target.window(), place);
+    QWindow* window = target.window()->windowHandle();
+    const Qt::MouseButton button = Below(8) == 0 ? Qt::RightButton : Qt::LeftButton;
+    const Qt::KeyboardModifiers held = Below(8) == 0 ? Qt::ShiftModifier : Qt::NoModifier;
+    Log("mouse " + std::to_string(kind) + " in " + NameOf(target) + " of " +
+        NameOf(*target.window()) + " at " + std::to_string(place.x()) + ',' +
+        std::to_string(place.y()) + (button == Qt::RightButton ? ", the right button" : ""));
+    if (window == nullptr) return;
+    if (kind == 0) return QTest::mouseDClick(window, button, held, there);
     if (kind == 1) {
-        const QPoint end =
-            there + QPoint(static_cast<int>(Below(200)) - 100, static_cast<int>(Below(100)) - 50);
-        QTest::mousePress(handle, button, held, there);
-        QTest::mouseMove(handle, there + QPoint(5, 1));
-        QTest::mouseMove(handle, end);
-        return QTest::mouseRelease(handle, button, held, end);
+        const QPoint end = there + QPoint(between(-100, 100), between(-20, 20));
+        QTest::mousePress(window, button, held, there);
+        QTest::mouseMove(window, there + QPoint(5, 1));
+        QTest::mouseMove(window, end);
+        return QTest::mouseRelease(window, button, held, end);
     }
     if (kind == 2) {
-        QWheelEvent wheel(place, target.mapToGlobal(place), {}, {0, Below(2) == 0 ? 120 : -240},
+        QWheelEvent wheel(place, target.mapToGlobal(place), {}, {0, between(-2, 2) * 120},
                           Qt::NoButton, held, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&target, &wheel);
         return;
     }
-    QTest::mouseClick(handle, button, held, there);
-    if (button == Qt::RightButton) {
+    const QPointer<QWidget> alive = &target;
+    QTest::mouseClick(window, button, held, there);
+    if (button == Qt::RightButton && alive) {
         QContextMenuEvent menu(QContextMenuEvent::Mouse, place, target.mapToGlobal(place));
         QApplication::sendEvent(&target, &menu);
     }

@@ -51,7 +51,7 @@ class RandomUser {
     void Enter(QWidget& box);
     void AnswerFileDialogue(QWidget& window);
     void PressAnyKey(QWidget& window);
-    void UseMouseAnywhere(QWidget& window);
+    void UseMouse(QWidget& target, int width, std::size_t kind);
     void ChangeWindow(QWidget& window);
     void ChangeFile();
     void CopyElsewhere();
