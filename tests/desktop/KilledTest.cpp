@@ -34,11 +34,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-int Wanted(const char* variable, int otherwise) {
-    const char* wanted = std::getenv(variable);
-    return wanted == nullptr ? otherwise : std::atoi(wanted);
-}
-
 // Milliseconds, by a clock that all processes share.
 long long Now() {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();

@@ -19,6 +19,7 @@
 
 #include "AllForms.h"
 #include "RandomUser.h"
+#include "UserHands.h"
 #include "check/Check.h"
 #include "desktop/Desktop.h"
 #include "desktop/ProofDisplay.h"
@@ -57,7 +58,7 @@ QImage PictureOf(ProofDisplay& display, const QRect& caret) {
 
 // "", or how the window differs from one that is built from nothing.
 std::string DisplayFault() {
-    auto& live = static_cast<ProofDisplay&>(*WidgetOf(Proof.RTB));
+    ProofDisplay& live = ShownProof();
     live.Sync();
     ProofDisplay fresh(Proof.RTB);
     fresh.setAttribute(Qt::WA_DontShowOnScreen);
@@ -131,11 +132,6 @@ void Day(unsigned seed, int actions, std::set<std::string>& seen) {
     ASSERT_EQ(fault, "") << "What was done is in " << kept << "; to have it done again:\n"
                          << "packaging/longday 0 " << seed;
     std::remove(kept.c_str());
-}
-
-int Wanted(const char* variable, int otherwise) {
-    const char* wanted = std::getenv(variable);
-    return wanted == nullptr ? otherwise : std::atoi(wanted);
 }
 
 }  // namespace

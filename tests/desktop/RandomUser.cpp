@@ -19,6 +19,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "UserHands.h"
 #include "desktop/Desktop.h"
 #include "desktop/FormWindow.h"
 #include "desktop/Messages.h"
@@ -88,20 +89,6 @@ std::vector<QWidget*> ShownIn(QWidget& window) {
 
 std::string NameOf(const QWidget& widget) {
     return widget.objectName().toStdString() + " (" + widget.metaObject()->className() + ")";
-}
-
-// Those of the form itself and all that hang under its menus.
-QAction* ActionOf(const MenuItem& item) {
-    const FormWindow& window = WindowOf(item.Parent);
-    for (Control* control : item.Parent.Controls) {
-        auto* title = dynamic_cast<MenuItem*>(control);
-        if (title == nullptr || title->Items.empty()) continue;
-        for (std::size_t i = 0; i < title->Items.size(); ++i) {
-            if (title->Items[i] != &item) continue;
-            return window.MenuOf(*title)->actions()[static_cast<qsizetype>(i)];
-        }
-    }
-    return nullptr;
 }
 
 // Of the keyboard's own; the toolkit's tests know no text for some of the keys.
@@ -234,8 +221,7 @@ void RandomUser::Command() {
 }
 
 void RandomUser::ClickInProof() {
-    auto* display =
-        WidgetOf(Proof.RTB)->findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport"));
+    QWidget* display = ShownProof().viewport();
     // Most of the text stands to the left.
     UseMouse(*display, Below(3) == 0 ? display->width() : std::min(display->width(), 250),
              Below(30));
