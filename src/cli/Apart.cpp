@@ -182,7 +182,8 @@ class Pool {
             children_.begin(), children_.end(),
             [](const Child& one, const Child& other) { return one.start < other.start; });
         if (!request_.tick || longest == children_.end()) return;
-        request_.tick(next_ - children_.size(), longest->piece);
+        const auto time = std::chrono::floor<std::chrono::seconds>(lastTick_ - longest->start);
+        request_.tick(next_ - children_.size(), longest->piece, time.count());
     }
 
     const ApartRequest& request_;

@@ -28,8 +28,9 @@ struct ApartRequest {
     std::function<std::string(std::size_t)> work;  // one of them, in a process of its own
     int jobs = 1;                                  // processes at a time
     std::chrono::milliseconds time{10'000};        // for each
-    // Called about each second: how many are done, and which has been under way for longest.
-    std::function<void(std::size_t done, std::size_t longest)> tick;
+    // Called about each second: how many are done, which has been under way for longest, and for
+    // how many seconds.
+    std::function<void(std::size_t done, std::size_t longest, long long seconds)> tick;
 };
 
 // One answer for each piece. The work may write no file. What it prints is lost.

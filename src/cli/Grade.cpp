@@ -42,10 +42,10 @@ std::vector<Findings> JudgeApart(const Sheet& sheet, const std::vector<std::stri
     apart.jobs = request.jobs;
     apart.time = std::chrono::seconds(request.seconds);
     apart.work = [&](std::size_t i) { return Packed(JudgeFile(sheet, files[i])); };
-    apart.tick = [&](std::size_t done, std::size_t longest) {
-        err << done << " of " << files.size() << " judged, now at " << OnOneLine(files[longest])
-            << '\n'
-            << std::flush;
+    apart.tick = [&](std::size_t done, std::size_t longest, long long seconds) {
+        err << done << " of " << files.size() << " judged";
+        if (seconds > 0) err << ", " << seconds << " s at " << OnOneLine(files[longest]);
+        err << '\n' << std::flush;
     };
     std::vector<Findings> all;
     for (const Answered& answer : DoApart(apart)) {

@@ -116,6 +116,7 @@ double Row::Points(const Sheet& sheet) const {
 
 std::string PointsText(double points) {
     std::ostringstream text;
+    text.precision(12);
     text << points;
     return text.str();
 }

@@ -65,7 +65,7 @@ TEST(Apart, EachPieceEndsForItself) {
     std::string ticks;
     const ApartRequest request = {
         rows.size(), [&](std::size_t i) { return rows[i].work(); }, 3, 2500ms,
-        [&](std::size_t done, std::size_t) { ticks += std::to_string(done) + ' '; }};
+        [&](std::size_t done, std::size_t, long long) { ticks += std::to_string(done) + ' '; }};
     const std::vector<Answered> answers = DoApart(request);
     for (std::size_t i = 0; i < rows.size(); ++i) {
         EXPECT_EQ(answers[i].ending, rows[i].ending) << rows[i].what;
