@@ -11,6 +11,7 @@
 #include "cli/ScriptRunner.h"
 #include "cli/Submissions.h"
 #include "document/ProofFile.h"
+#include "platform/InputFile.h"
 
 namespace tessaryn {
 
@@ -202,10 +203,10 @@ Findings JudgeProof(const Sheet& sheet, const check::CheckedProof& proof) {
 }
 
 Findings JudgeFile(const Sheet& sheet, const std::string& path) {
-    auto bytes = ReadBeginning(path, MaxProofFile + 1);
+    if (InputFile(path).Size() > MaxProofFile) return AtFault(sheet, "the file is too large", true);
+    auto bytes = ReadBeginning(path, MaxProofFile);
     if (!bytes) return AtFault(sheet, "the file can't be read", false);
     if (bytes->empty()) return AtFault(sheet, "the file is empty", true);
-    if (bytes->size() > MaxProofFile) return AtFault(sheet, "the file is too large", true);
     OpenNoMoreFiles();
     if (IsProofFile(path, *bytes)) return JudgeProof(sheet, check::CheckProof(std::move(*bytes)));
     return JudgeScript(sheet, *bytes);

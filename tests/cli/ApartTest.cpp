@@ -61,6 +61,12 @@ TEST(Apart, EachPieceEndsForItself) {
              return std::string(std::ifstream("/dev/null").good() ? "" : "x");
          },
          Ending::Done},
+        {"writes a file",
+         [] {
+             std::ofstream file(testing::TempDir() + "apart");
+             return std::string(file << "!" << std::flush ? "" : "x");
+         },
+         Ending::Done},
     };
     std::string ticks;
     const ApartRequest request = {

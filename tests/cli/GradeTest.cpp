@@ -194,15 +194,19 @@ TEST_F(GradeTest, CheatsGetNothingAndTouchNoOtherRow) {
     HandIn("also honest/a.proof", ProofOf({"Axiom: 1 @ n", "Induction: " + Inductive}));
     HandIn("also honest/sub/b.proof", HonestSwap);
     HandIn("also honest/sub/.c.proof", "");
+    HandIn("in parts/a.proof", ProofOf({"Premise: P"}));
+    HandIn("in parts/b.script", "click 1\n");
     fs::create_symlink("honest.proof", Path("class/link.proof"));
     HandIn("huge.proof", "Tessaryn 1");
     fs::resize_file(Path("class/huge.proof"), 20ULL << 30);  // sparse
     ASSERT_EQ(mkfifo(Path("class/pipe.proof").c_str(), 0600), 0);
-    cheats.insert(cheats.end(), {{"link.proof", "", "0: it is a link to some other place"},
-                                 {"huge.proof", "", "0: the file is too large"},
-                                 {"pipe.proof", "", "0: it is no file"},
-                                 {"honest.proof", "", "1: no line is the goal"},
-                                 {"also honest", "", "3.5: none of its 2 files has the goal"}});
+    cheats.insert(cheats.end(),
+                  {{"link.proof", "", "0: it is a link to some other place"},
+                   {"huge.proof", "", "0: the file is too large"},
+                   {"pipe.proof", "", "0: it is no file"},
+                   {"in parts", "", "0: b.script: the proof has no lines; the script stops"},
+                   {"honest.proof", "", "1: no line is the goal"},
+                   {"also honest", "", "3.5: none of its 2 files has the goal"}});
     const Outcome outcome = GradeClass();
     EXPECT_EQ(outcome.status, 1);
     EXPECT_NE(outcome.error.find(" judged, 1 s at "), outcome.error.npos) << outcome.error;
