@@ -1,11 +1,11 @@
 #include "SpeedTable.h"
 
 #include <sys/resource.h>
-#include <ctime>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <ctime>
 
 namespace tessaryn {
 
