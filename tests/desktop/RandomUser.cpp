@@ -335,12 +335,7 @@ void RandomUser::UseMouse(QWidget& target, int width, std::size_t kind) {
         QApplication::sendEvent(&target, &wheel);
         return;
     }
-    const QPointer<QWidget> alive = &target;
     QTest::mouseClick(window, button, held, there);
-    if (button == Qt::RightButton && alive) {
-        QContextMenuEvent menu(QContextMenuEvent::Mouse, place, target.mapToGlobal(place));
-        QApplication::sendEvent(&target, &menu);
-    }
 }
 
 void RandomUser::ChangeWindow(QWidget& window) {
