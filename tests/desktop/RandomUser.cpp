@@ -48,6 +48,7 @@ const char* const Entries[] = {"P",
                                "x",
                                "u",
                                "3",
+                               "Set(s)",
                                "a b",
                                "x+1",
                                "(",
@@ -74,7 +75,7 @@ std::vector<MenuItem*> UsualCommands() {
         &Proof.optSpec,    &Proof.optUGen,       &Proof.optEGen,          &Proof.optRename,
         &Proof.optReorder, &Proof.optInsert,     &Proof.optUndo,          &Proof.optRedo,
         &Proof.optAxiom,   &Proof.optArbOrRight, &Proof.optCopyStatement, &Proof.optSubstitution,
-        &Proof.optSave,    &Proof.optOpen};
+        &Proof.optSave,    &Proof.optOpen,       &Proof.optSubset};
     return items;
 }
 
@@ -196,14 +197,14 @@ void RandomUser::WorkIn(QWidget& window) {
         case 1:
         case 2:
             target = OneOf(ShownIn(window));
-            return UseMouse(*target, target->width(), Below(5));
+            return UseMouse(*target, PlaceIn(*target), Below(5));
         case 3:
             if (Below(4) == 0) return ChangeWindow(window);
             if (Below(2) == 0) return ChangeFile();
             return CopyElsewhere();
         default:
             if (!isProof) return AnswerBox(window);
-            return what < 12 ? Command() : ClickInProof();
+            return what < (RuleMode == 0 ? 12U : 6U) ? Command() : ClickInProof();
     }
 }
 
@@ -222,9 +223,10 @@ void RandomUser::Command() {
 
 void RandomUser::ClickInProof() {
     QWidget* display = ShownProof().viewport();
-    // Most of the text stands to the left.
-    UseMouse(*display, Below(3) == 0 ? display->width() : std::min(display->width(), 250),
-             Below(30));
+    if (Below(3) == 0) return UseMouse(*display, PlaceIn(*display), Below(30));
+    const auto position = static_cast<int>(Below(Proof.RTB.GetText().size() + 1));
+    ShownProof().EnsureVisible(position);
+    UseMouse(*display, PlaceInProof(position), Below(30));
 }
 
 // A form of the program, a message, a menu, the manual.
@@ -306,13 +308,17 @@ void RandomUser::PressAnyKey(QWidget& window) {
     }
 }
 
+int RandomUser::Between(int first, int last) {
+    return first + static_cast<int>(Below(static_cast<std::size_t>(last - first + 1)));
+}
+
+QPoint RandomUser::PlaceIn(const QWidget& target) {
+    return {Between(0, std::max(0, target.width() - 1)),
+            Between(0, std::max(0, target.height() - 1))};
+}
+
 // Kind 0: a double click, 1: a drag, 2: the wheel, else a click.
-void RandomUser::UseMouse(QWidget& target, int width, std::size_t kind) {
-    if (width <= 0 || target.height() <= 0) return;
-    const auto between = [this](int first, int last) {
-        return first + static_cast<int>(Below(static_cast<std::size_t>(last - first + 1)));
-    };
-    const QPoint place(between(0, width - 1), between(0, target.height() - 1));
+void RandomUser::UseMouse(QWidget& target, const QPoint& place, std::size_t kind) {
     const QPoint there = target.mapTo(target.window(), place);
     QWindow* window = target.window()->windowHandle();
     const Qt::MouseButton button = Below(8) == 0 ? Qt::RightButton : Qt::LeftButton;
@@ -323,14 +329,14 @@ void RandomUser::UseMouse(QWidget& target, int width, std::size_t kind) {
     if (window == nullptr) return;
     if (kind == 0) return QTest::mouseDClick(window, button, held, there);
     if (kind == 1) {
-        const QPoint end = there + QPoint(between(-100, 100), between(-20, 20));
+        const QPoint end = there + QPoint(Between(-100, 100), Between(-20, 20));
         QTest::mousePress(window, button, held, there);
         QTest::mouseMove(window, there + QPoint(5, 1));
         QTest::mouseMove(window, end);
         return QTest::mouseRelease(window, button, held, end);
     }
     if (kind == 2) {
-        QWheelEvent wheel(place, target.mapToGlobal(place), {}, {0, between(-2, 2) * 120},
+        QWheelEvent wheel(place, target.mapToGlobal(place), {}, {0, Between(-2, 2) * 120},
                           Qt::NoButton, held, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&target, &wheel);
         return;

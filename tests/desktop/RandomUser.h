@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QPoint>
 #include <QString>
 #include <QTimer>
 #include <cstdlib>
@@ -43,6 +44,7 @@ class RandomUser {
 
   private:
     std::size_t Below(std::size_t limit);
+    int Between(int first, int last);
     template <class Items>
     const auto& OneOf(const Items& items) {
         return *std::next(std::begin(items), static_cast<std::ptrdiff_t>(Below(std::size(items))));
@@ -58,7 +60,8 @@ class RandomUser {
     void Enter(QWidget& box);
     void AnswerFileDialogue(QWidget& window);
     void PressAnyKey(QWidget& window);
-    void UseMouse(QWidget& target, int width, std::size_t kind);
+    QPoint PlaceIn(const QWidget& target);
+    void UseMouse(QWidget& target, const QPoint& place, std::size_t kind);
     void ChangeWindow(QWidget& window);
     void ChangeFile();
     void CopyElsewhere();
