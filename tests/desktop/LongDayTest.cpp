@@ -63,12 +63,6 @@ std::string DisplayFault() {
     ProofDisplay fresh(Proof.RTB);
     fresh.setAttribute(Qt::WA_DontShowOnScreen);
     fresh.resize(live.size());
-    QPalette palette = live.palette();
-    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText}) {
-        const auto group = live.hasFocus() ? QPalette::Active : QPalette::Inactive;
-        palette.setBrush(QPalette::Inactive, role, palette.brush(group, role));
-    }
-    fresh.setPalette(palette);
     fresh.show();
     for (ProofDisplay* display : {&live, &fresh}) {  // each shows its scroll bars late
         QCoreApplication::sendPostedEvents(display, QEvent::MetaCall);
@@ -80,6 +74,13 @@ std::string DisplayFault() {
     fresh.horizontalScrollBar()->setMaximum(live.horizontalScrollBar()->maximum());
     fresh.verticalScrollBar()->setValue(live.verticalScrollBar()->value());
     fresh.horizontalScrollBar()->setValue(live.horizontalScrollBar()->value());
+    // Only now is it settled which of them has the focus.
+    QPalette palette = live.palette();
+    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText}) {
+        const auto group = live.hasFocus() ? QPalette::Active : QPalette::Inactive;
+        palette.setBrush(QPalette::All, role, palette.brush(group, role));
+    }
+    fresh.setPalette(palette);
     const QRect caret = live.CaretRect(live.Caret());
     const QImage shown = PictureOf(live, caret);
     const QImage expected = PictureOf(fresh, caret);
