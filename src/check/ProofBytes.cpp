@@ -75,6 +75,9 @@ ProofBytes ReadProofBytes(std::string_view file) {
     proof.records.resize(1);
     for (int i = 0; i < count && !bytes.Short(); ++i) proof.records.push_back(TakeRecord(bytes));
     proof.text = bytes.String();
+    // Without statements the text is an introduction, with the two line ends behind it.
+    const bool ends = proof.text.empty() || proof.text.ends_with("\r\n\r\n");
+    if (count == 0 && !ends) proof.error = "its introduction has no end";
     if (count < 0) proof.error = "its number of statements is negative";
     if (bytes.Short()) proof.error = "bytes are missing";
     return proof;

@@ -155,6 +155,8 @@ TEST(CheckedFiles, AFileThatIsCutIsRefused) {
     EXPECT_EQ(Summary(check::CheckProof("Tessaryn 1" + std::string(6, '\0'))), "no statement");
     EXPECT_EQ(check::CheckProof("Tessaryn 1\xFF\xFF" + std::string(4, '\0')).sentence,
               "its number of statements is negative");
+    EXPECT_EQ(check::CheckProof("Tessaryn 1" + std::string("\0\0\0\0\3\0abc", 9)).sentence,
+              "its introduction has no end");
 }
 
 TEST(CheckedFiles, WhatGoesBeyondALimitIsDeclined) {
