@@ -37,8 +37,13 @@ class ByteWriter {
     std::string Take() { return std::move(out_); }
 
   private:
-    void LittleEndian(std::uint32_t value, int bytes) {
-        for (int i = 0; i < bytes; ++i) out_ += static_cast<char>((value >> (8 * i)) & 0xFF);
+    void LittleEndian(std::uint32_t value, std::size_t count) {
+        char bytes[4];
+        for (char& byte : bytes) {
+            byte = static_cast<char>(value & 0xFF);
+            value >>= 8;
+        }
+        out_.append(bytes, count);
     }
     std::string out_;
 };
