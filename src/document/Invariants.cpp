@@ -78,8 +78,9 @@ void CheckReferences(Complaint& complaint, int line, const StatementTable& table
     }
     complaint.Unless(IsBackward(stmt.Arg1, line), line, "Arg1 does not point backward");
     if (complaint.Any() || !IsConclusion(stmt)) return;
-    complaint.Unless(table[stmt.Arg1].Rule == Rule::Premise && table[stmt.Arg1].Arg1 == line, line,
-                     "Conclusion without its Premise");
+    complaint.Unless(
+        stmt.Arg1 > 0 && table[stmt.Arg1].Rule == Rule::Premise && table[stmt.Arg1].Arg1 == line,
+        line, "Conclusion without its Premise");
 }
 
 // The blocks follow each other from the introduction to the end of the text. A block written later

@@ -161,6 +161,7 @@ TEST_F(ProofFileTest, DamageIsRefused) {
         {"premise closed outside the table", [] { EditAt(1).Arg1 = 99; }},
         {"premise closed backward", [] { EditAt(5).Arg1 = 4; }},
         {"Conclusion without premise", [] { EditAt(4).Arg1 = 0; }},
+        {"Conclusion without premise, which is open", [] { EditAt(4).Arg1 = EditAt(1).Arg1 = 0; }},
         {"Conclusion of another line", [] { EditAt(4).Arg1 = 2; }},
         {"Conclusion of an open premise", [] { EditAt(1).Arg1 = 0; }},
         {"first block ahead of the text", [] { EditAt(1).StartLine = 0; }},
