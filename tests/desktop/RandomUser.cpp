@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
 #include <QTest>
 #include <QTextEdit>
 #include <QThread>
@@ -294,7 +295,8 @@ void RandomUser::PressAnyKey(QWidget& window) {
                                                Qt::ControlModifier,
                                                Qt::AltModifier,
                                                Qt::ControlModifier | Qt::ShiftModifier};
-    for (std::size_t keys = 1 + Below(5); keys > 0; --keys) {
+    const QPointer<QWidget> alive = &window;  // a key may close it
+    for (std::size_t keys = 1 + Below(5); keys > 0 && alive; --keys) {
         int key = OneOf(special);
         if (Below(3) == 0) key = Qt::Key_F1 + static_cast<int>(Below(12));
         if (Below(3) == 0) key = Qt::Key_Space + static_cast<int>(Below(95));
