@@ -76,7 +76,7 @@ std::vector<MenuItem*> UsualCommands() {
         &Proof.optSpec,    &Proof.optUGen,       &Proof.optEGen,          &Proof.optRename,
         &Proof.optReorder, &Proof.optInsert,     &Proof.optUndo,          &Proof.optRedo,
         &Proof.optAxiom,   &Proof.optArbOrRight, &Proof.optCopyStatement, &Proof.optSubstitution,
-        &Proof.optSave,    &Proof.optOpen,       &Proof.optSubset};
+        &Proof.optSave,    &Proof.optOpen,       &Proof.optSubset,        &Proof.DeleteAllRef};
     return items;
 }
 
