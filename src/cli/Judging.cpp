@@ -10,6 +10,7 @@
 #include "cli/OnOneLine.h"
 #include "cli/ScriptRunner.h"
 #include "cli/Submissions.h"
+#include "document/Bytes.h"
 #include "document/ProofFile.h"
 #include "platform/InputFile.h"
 
@@ -153,7 +154,7 @@ class Examiner {
 };
 
 bool IsProofFile(const std::string& path, const std::string& bytes) {
-    return EndingOf(path) == ".proof" || bytes.starts_with("Tessaryn 1");
+    return EndingOf(path) == ".proof" || bytes.starts_with(FileMagic);
 }
 
 // A stream that drops what is written to it.

@@ -33,7 +33,7 @@ void WriteRecord(ByteWriter& out, const Statement& stmt) {
     out.Bool(stmt.Highlight);
 }
 
-// Names that are hardly ever others than the likely ones need not be looked up.
+// A list that is the likely one, as most are, need not be looked up among all lists.
 KeptText ReadNames(ByteReader& in, const KeptText& likely = {}) {
     std::string names = in.String();
     return names == likely.Text() ? likely : KeptText(ToUtf8(std::move(names)));

@@ -64,7 +64,7 @@ void ShiftIndexes(Statement& stmt, int shift);
 // "Join, 3, 4": the annotation of a statement with that rule and those references.
 std::string RuleAnnotation(int rule, int arg1, int arg2);
 void AppendRuleAnnotation(std::string& text, int rule, int arg1, int arg2);
-void AppendNumber(std::string& text, int number);
+void AppendNumber(std::string& text, int number);  // in decimal
 
 inline bool IsClosedPremise(const Statement& stmt) {
     return stmt.Rule == 1 && stmt.Arg1 > 0;

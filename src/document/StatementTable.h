@@ -76,7 +76,7 @@ class StatementTable {
         const std::size_t index = static_cast<std::size_t>(line) - 1;
         std::size_t skipped = index % PageSize;
         for (std::size_t page = index / PageSize; page < pages_.size(); ++page, skipped = 0) {
-            const std::uint64_t edges = BlocksOf(*pages_[page], page).edges >> skipped;
+            const std::uint64_t edges = BlocksOf(page).edges >> skipped;
             if (edges == 0) continue;
             return LineAt(page, skipped + static_cast<std::size_t>(std::countr_zero(edges)));
         }
@@ -88,8 +88,7 @@ class StatementTable {
         const std::size_t index = static_cast<std::size_t>(line) - 1;
         std::size_t last = index % PageSize;
         for (std::size_t page = index / PageSize + 1; page-- > 0; last = PageSize - 1) {
-            const std::uint64_t edges = BlocksOf(*pages_[page], page).edges
-                                        << (PageSize - 1 - last);
+            const std::uint64_t edges = BlocksOf(page).edges << (PageSize - 1 - last);
             if (edges == 0) continue;
             return LineAt(page, last - static_cast<std::size_t>(std::countl_zero(edges)));
         }
@@ -99,7 +98,7 @@ class StatementTable {
     // The Conclusion that closes the block of a Premise; 0 if none does, or `line` is no Premise.
     int BlockEnd(int line) const {
         const std::size_t index = static_cast<std::size_t>(line) - 1;
-        return BlocksOf(*pages_[index / PageSize], index / PageSize).ends[index % PageSize];
+        return BlocksOf(index / PageSize).ends[index % PageSize];
     }
 
     // Does the walk past closed blocks, from line 1 on, come by this line?
@@ -108,7 +107,7 @@ class StatementTable {
         int at = 1;
         while (at <= line) {
             const std::size_t index = static_cast<std::size_t>(at) - 1;
-            const Blocks& blocks = BlocksOf(*pages_[index / PageSize], index / PageSize);
+            const Blocks& blocks = BlocksOf(index / PageSize);
             if (index / PageSize < page) {
                 at = blocks.exits[index % PageSize];
             } else if (at == line) {
@@ -177,7 +176,9 @@ class StatementTable {
         std::optional<Blocks> blocks;  // kept once it has been asked for
     };
 
-    static const Blocks& BlocksOf(Page& page, std::size_t number) {
+    // Of the page with that number, 0-based.
+    const Blocks& BlocksOf(std::size_t number) const {
+        Page& page = *pages_[number];
         if (page.blocks) return *page.blocks;
         Blocks& blocks = page.blocks.emplace(Blocks{});
         const int behind = LineAt(number + 1, 0);
@@ -221,6 +222,7 @@ class StatementTable {
         if (kept % PageSize > 0) OwnPage(pages_.size() - 1).statements.resize(kept % PageSize);
         return whole;
     }
+
     std::vector<std::shared_ptr<Page>> pages_;
     int count_ = 0;
 };

@@ -75,21 +75,9 @@ class Introductions {
     std::vector<std::size_t> seenFrom_;  // by line from first_: the length of names_ there
 };
 
-// The lines behind the insertion that may bring a name in.
-std::vector<int> LaterIntroductions() {
-    std::vector<int> lines;
-    for (int j = InsertLine; j <= StmtCount; ++j) {
-        const Statement& stmt = At(j);
-        const bool premise = stmt.Rule == Rule::Premise && stmt.FreeVars != stmt.FixedVars;
-        if (premise || stmt.Rule == Rule::ESpec) lines.push_back(j);
-    }
-    return lines;
-}
-
 std::string CheckEntryAgainstLaterLines() {
-    const std::vector<int> lines = LaterIntroductions();
     for (const std::string& name : FreeNames()) {
-        for (const int j : lines) {
+        for (int j = InsertLine; j <= StmtCount; ++j) {
             if (IsIntroducedByESpec(name, j)) {
                 return "Variable '" + name + "' is introduced by E Spec on line " + Line(j) +
                        ". Consider using another name.";
