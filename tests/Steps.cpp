@@ -5,8 +5,6 @@
 #include <cctype>
 #include <sstream>
 
-#include "cli/ScriptRunner.h"
-
 namespace tessaryn {
 namespace {
 
@@ -118,14 +116,20 @@ std::string ScriptOf(std::string_view steps) {
     return translator.Script();
 }
 
-std::string Do(std::string_view steps) {
+ScriptResult Replay(const std::string& script, bool showHidden) {
     ScriptOptions options;
     options.checkDocument = true;
     options.checkLines = true;
-    options.showHidden = true;
-    const std::string script = ScriptOf(steps);
-    const std::string error = RunScript(script, "script", options).error;
-    return error.empty() ? "" : LineOf(script, error) + ": " + error;
+    options.showHidden = showHidden;
+    ScriptResult result = RunScript(script, "script", options);
+    if (!result.error.empty()) {
+        result.error = LineOf(script, result.error) + ": " + result.error;
+    }
+    return result;
+}
+
+std::string Do(std::string_view steps) {
+    return Replay(ScriptOf(steps), true).error;
 }
 
 }  // namespace tessaryn

@@ -19,10 +19,15 @@
 #include <string>
 #include <string_view>
 
+#include "cli/ScriptRunner.h"
+
 namespace tessaryn {
 
 // The script that does these steps.
 std::string ScriptOf(std::string_view steps);
+
+// Runs a script with all checks. Ahead of the error stands the line of the script that it is about.
+ScriptResult Replay(const std::string& script, bool showHidden);
 
 // Does them from a new start, hidden menu items shown, and leaves the document that they built in
 // the globals. "" or what went wrong, behind the script's line.

@@ -25,6 +25,13 @@ QString ContentOf(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
+// The comments are for the tests, and the reader would lose what follows them.
+QString WithoutComments(QString content) {
+    static const QRegularExpression comment(QStringLiteral("<!--.*?-->\n"),
+                                            QRegularExpression::DotMatchesEverythingOption);
+    return content.remove(comment);
+}
+
 ManualPage ReadPage(const QString& path, const QString& content) {
     static const QRegularExpression heading(QStringLiteral("^# +(.*\\S)"),
                                             QRegularExpression::MultilineOption);
@@ -117,7 +124,7 @@ QTextDocument& TextOf(Manual& manual, int page) {
     shown.text->setDefaultFont(manual.font);
     shown.text->setDocumentMargin(Margin);
     shown.text->setBaseUrl(QUrl::fromLocalFile(shown.path));
-    shown.text->setMarkdown(ContentOf(shown.path));
+    shown.text->setMarkdown(WithoutComments(ContentOf(shown.path)));
     DropEscapes(*shown.text);
     SetOffCells(*shown.text);
     PaintLinks(*shown.text, manual.linkColour);

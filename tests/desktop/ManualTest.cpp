@@ -52,7 +52,12 @@ TEST(Manual, EveryLinkLeadsSomewhereAndTheContentsToEveryPage) {
     }
 }
 
-TEST(Manual, BarInTheCodeOfATableHasNoBackslash) {
+TEST(Manual, PagesAreReadToTheirEndWithoutBackslashesAndComments) {
     Manual manual{ReadPages(QStringLiteral(TESSARYN_SOURCE_DIR "/docs/manual")), {}, {}};
     EXPECT_TRUE(FindInManual(manual, QStringLiteral("\\|")).empty());
+    EXPECT_TRUE(FindInManual(manual, QStringLiteral("replay:")).empty());
+    for (std::size_t page = 1; page < manual.pages.size(); ++page) {
+        EXPECT_TRUE(TextOf(manual, static_cast<int>(page)).toPlainText().endsWith("Contents"))
+            << manual.pages[page].title.toStdString();
+    }
 }
