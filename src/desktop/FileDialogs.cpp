@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <utility>
 
+#include "desktop/DataFolder.h"
 #include "desktop/Desktop.h"
 #include "desktop/HelpViewer.h"
 #include "desktop/PaintedText.h"
@@ -44,8 +45,17 @@ class OpenDialogue : public QFileDialog {
           lastMode_(dialog.FileMustExist ? ExistingFile : AnyFile) {
         setAcceptMode(AcceptOpen);
         setFileMode(AnyFile);
-        if (RecoveryDir.empty()) return;
-        setSidebarUrls(sidebarUrls() << QUrl::fromLocalFile(ToQt(RecoveryDir)));
+        for (const QString& place : {ExamplesFolder(), ToQt(RecoveryDir)}) {
+            if (!place.isEmpty()) ownPlaces_ << QUrl::fromLocalFile(place);
+        }
+        setSidebarUrls(sidebarUrls() << ownPlaces_);
+    }
+
+    // The toolkit keeps what stands there for the dialogues of all programs.
+    ~OpenDialogue() override {
+        QList<QUrl> places = sidebarUrls();
+        places.removeIf([this](const QUrl& place) { return ownPlaces_.contains(place); });
+        setSidebarUrls(places);
     }
 
     void accept() override {
@@ -60,6 +70,7 @@ class OpenDialogue : public QFileDialog {
   private:
     QString suffix_;
     FileMode lastMode_;
+    QList<QUrl> ownPlaces_;  // examples and recovered proofs
 };
 
 // The dialogue of a desktop environment asks about the name as it was typed, which gets its ending

@@ -2,10 +2,8 @@
 #include "desktop/HelpViewer.h"
 
 #include <QApplication>
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDialog>
-#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -22,6 +20,7 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "desktop/DataFolder.h"
 #include "desktop/Desktop.h"
 #include "desktop/Layouts.h"
 #include "desktop/Manual.h"
@@ -38,21 +37,6 @@ namespace {
 constexpr QSize NaturalSize(1000, 700);
 constexpr int StartRole = Qt::UserRole + 1;
 constexpr int LengthRole = Qt::UserRole + 2;
-
-// The installed manual, or that of the source tree that the program was built in; "" if none.
-QString ManualDir() {
-    QDir dir(QCoreApplication::applicationDirPath());
-    do {
-        for (const char* place : {"share/tessaryn/manual", "docs/manual"}) {
-            const QDir manual(dir.filePath(QLatin1String(place)));
-            if (!manual.entryList({QStringLiteral("*.md")}, QDir::Files).isEmpty()) {
-                return manual.absolutePath();
-            }
-        }
-    } while (dir.cdUp());
-    const QString sources = QStringLiteral(TESSARYN_MANUAL_DIR);
-    return QDir(sources).exists() ? sources : QString();
-}
 
 QColor LinkColour(const QPalette& palette) {
     const bool dark = palette.color(QPalette::Base).lightness() < 128;
@@ -436,7 +420,7 @@ class BoxWatch : public QObject {
 bool ShowHelpFile(const std::string&) {
     QPointer<HelpWindow>& window = Window();
     if (!window) {
-        const QString directory = ManualDir();
+        const QString directory = ManualFolder();
         if (directory.isEmpty()) return false;
         window = new HelpWindow(directory);
     }

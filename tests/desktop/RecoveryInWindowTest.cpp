@@ -61,16 +61,22 @@ TEST(RecoveryInWindow, ACopyOfALongProofHoldsNobodyUp) {
     EndKeepingCopies();
 }
 
-TEST(RecoveryInWindow, OpenShowsTheFolderAmongItsPlaces) {
+// And leaves it to the dialogues of no other program.
+TEST(RecoveryInWindow, OpenShowsTheFolderAmongItsPlacesAndThatOfTheExamples) {
     StartProgram();
     const QTemporaryDir home;
     RecoveryDir = home.path().toStdString();
-    QTimer::singleShot(0, qApp, [&home] {
+    const QList<QUrl> places{QUrl::fromLocalFile(home.path()),
+                             QUrl::fromLocalFile(QStringLiteral(TESSARYN_SOURCE_DIR "/examples"))};
+    QTimer::singleShot(0, qApp, [&places] {
         const auto* box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
-        EXPECT_TRUE(box->sidebarUrls().contains(QUrl::fromLocalFile(home.path())));
+        for (const QUrl& place : places) EXPECT_TRUE(box->sidebarUrls().contains(place));
     });
     AnswerFileDialogue(QString());
     EXPECT_TRUE(SendChoose(Proof.optOpen));
     AwaitAnswer();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const QList<QUrl> kept = QFileDialog().sidebarUrls();
+    for (const QUrl& place : places) EXPECT_FALSE(kept.contains(place));
 }
