@@ -2,7 +2,6 @@
 
 #include <map>
 #include <nlohmann/json.hpp>
-#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -11,10 +10,9 @@
 #include "document/RuleNames.h"
 #include "expr/Operands.h"
 #include "expr/Parse.h"
-#include "expr/PrintExpression.h"
 #include "expr/Same.h"
 #include "inference/Connectives.h"
-#include "menu/ClickTable.h"
+#include "menu/Fits.h"
 #include "view/InsertMode.h"
 
 namespace tessaryn {
@@ -28,34 +26,31 @@ struct Line {
     Expression statement;
 };
 
-// The texts as the writer would bring them into the proof; nothing if one of them does not parse.
-std::optional<std::vector<std::string>> Canonical(const Outcome& outcome) {
-    std::vector<std::string> texts;
-    for (const std::string& text : outcome.texts) {
-        const Expression parsed = ParseExpression(text);
-        if (!parsed.error.empty()) return std::nullopt;
-        texts.push_back(PrintExpression(parsed));
-    }
-    return texts;
-}
-
-void PrintFit(Json fit, const Outcome& outcome, std::ostream& out) {
-    if (!outcome.Applies()) return;
-    const auto texts = Canonical(outcome);
-    if (!texts) return;
-    fit["texts"] = *texts;
+void PrintFit(Json fit, const std::vector<std::string>& texts, std::ostream& out) {
+    if (texts.empty()) return;
+    fit["texts"] = texts;
     out << fit.dump() << '\n';
 }
 
-void PrintSignFits(const char* rule, const SignClick& click, const Line& line, std::ostream& out) {
-    std::map<std::string, int> places;  // of each token so far
-    for (int k = 1; k < static_cast<int>(line.statement.tokens.size()); ++k) {
-        const TokenRec& token = TokenAt(line.statement, k);
-        if (token.Position == 0) continue;
-        const int place = ++places[token.Token];
-        PrintFit({{"rule", rule}, {"line", line.number}, {"sign", token.Token}, {"place", place}},
-                 click.infer(line.statement, k), out);
+// Which of the written tokens with the same text it is, from 1 on.
+int PlaceOf(const Expression& statement, int sign) {
+    int place = 0;
+    for (int k = 1; k <= sign; ++k) {
+        const TokenRec& token = TokenAt(statement, k);
+        if (token.Position != 0 && token.Token == TokenAt(statement, sign).Token) ++place;
     }
+    return place;
+}
+
+void PrintOneClickFits(const Line& line, std::ostream& out) {
+    ForEachFit(line.statement, [&](const Fit& fit) {
+        Json told = {{"rule", RuleName(fit.row.ruleMode)}, {"line", line.number}};
+        if (fit.sign > 0) {
+            told["sign"] = TokenAt(line.statement, fit.sign).Token;
+            told["place"] = PlaceOf(line.statement, fit.sign);
+        }
+        PrintFit(std::move(told), fit.texts, out);
+    });
 }
 
 // The active lines by what they say, up to the names of bound variables.
@@ -70,7 +65,7 @@ void PrintDetachments(const Line& implication, const LinesByMeaning& lines, std:
         PrintFit({{"rule", RuleName(Rule::Detach)},
                   {"line", implication.number},
                   {"second", line->second->number}},
-                 Detach(implication.statement, line->second->statement), out);
+                 CanonicalTexts(Detach(implication.statement, line->second->statement)), out);
     }
 }
 
@@ -86,15 +81,7 @@ void PrintFits(int onlyLine, std::ostream& out) {
     for (const Line& line : lines) byMeaning.emplace(NamelessForm(line.statement.text), &line);
     for (const Line& line : lines) {
         if (onlyLine > 0 && line.number != onlyLine) continue;
-        for (const ClickRow& row : ClickTable()) {
-            const char* rule = RuleName(row.ruleMode);
-            if (const auto* click = std::get_if<LineClick>(&row.click)) {
-                PrintFit({{"rule", rule}, {"line", line.number}}, click->infer(line.statement),
-                         out);
-            } else if (const auto* sign = std::get_if<SignClick>(&row.click)) {
-                PrintSignFits(rule, *sign, line, out);
-            }
-        }
+        PrintOneClickFits(line, out);
         PrintDetachments(line, byMeaning, out);
     }
 }

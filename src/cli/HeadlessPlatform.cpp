@@ -165,8 +165,8 @@ bool PointerBeyondRightEdge(const Control&) {
 
 void PopupMenu(MenuItem&) {}
 
-bool ShowHelpFile(const std::string& path) {
-    Headless.PagesOpened.push_back(path);
+bool ShowHelpFile(const std::string& path, const std::string& page) {
+    Headless.PagesOpened.push_back(page.empty() ? path : page);
     return Headless.HasHelpViewer;
 }
 

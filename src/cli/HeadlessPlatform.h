@@ -32,7 +32,7 @@ struct HeadlessState {
     std::vector<std::string> Beeps;  // their reasons
     std::vector<std::string> Notes;  // without a beep
     std::vector<MessageShown> Messages;
-    std::vector<std::string> PagesOpened;   // help files and web addresses
+    std::vector<std::string> PagesOpened;   // help files, pages of them, web addresses
     std::vector<CommonDialog> FileDialogs;  // as they were asked
     std::vector<std::string> Pages;         // of the last print
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "cli/FormState.h"
+#include "menu/HelpHere.h"
+#include "output/Help.h"
 #include "platform/Events.h"
 #include "platform/Platform.h"
 #include "text/TextSteps.h"
@@ -161,6 +163,14 @@ void PressButton(Form& form, Control* focus) {
     if (button != nullptr) SendChoose(*button);
 }
 
+void GiveHelp(const Help& help) {
+    if (help.note.empty()) {
+        ShowManual(help.page);
+    } else {
+        Tell(help.note);
+    }
+}
+
 // A handler may leave text behind the caret ("e " for a typed "@" in a comment). Where the whole
 // content is being replaced there must be none. What is typed next keeps its format.
 void CutBehindCaret(RichTextBox& box) {
@@ -207,7 +217,7 @@ bool KeyFromName(const std::string& name, KeyEvent& key) {
     if (name == "Esc") key.key = Key::Esc;
     if (name == "Enter") key.key = Key::Enter;
     if (name == "Del") key.key = Key::Del;
-    for (int number = 2; number <= 12; ++number) {
+    for (int number = 1; number <= 12; ++number) {
         if (name != "F" + std::to_string(number)) continue;
         key.key = Key::Function;
         key.number = number;
@@ -222,6 +232,9 @@ bool KeyFromName(const std::string& name, KeyEvent& key) {
 void PressKey(Form& form, const KeyEvent& key) {
     if (PressShortcut(form, key)) return;
     Control* focus = FocusOf(form);
+    if (key.key == Key::Function && key.number == 1 && focus != nullptr) {
+        return GiveHelp(HelpHere(form, focus));
+    }
     if (SendKey(form, focus, key)) return;
     if (key.key == Key::Enter && !TakesEnter(focus)) {
         PressButton(form, focus);

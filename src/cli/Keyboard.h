@@ -15,7 +15,7 @@ Control* FocusOf(const Form& form);
 // it.
 KeyEvent TakeKey(const std::string& text, std::size_t& at);
 
-// "Esc", "Enter", "Del", "F2" to "F12", "Ctrl+A" to "Ctrl+Z". False: no such key.
+// "Esc", "Enter", "Del", "F1" to "F12", "Ctrl+A" to "Ctrl+Z". False: no such key.
 bool KeyFromName(const std::string& name, KeyEvent& key);
 
 // One key pressed in a form.

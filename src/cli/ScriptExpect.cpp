@@ -109,6 +109,19 @@ void ExpectMessage(ScriptRun& run, Arguments& arguments) {
     RequireText("the message", wanted, Headless.Messages.back().text);
 }
 
+// The last note so far that came without a beep.
+void ExpectNote(ScriptRun&, Arguments& arguments) {
+    const std::string wanted = TakeText(arguments);
+    RequireText("the note", wanted, Headless.Notes.empty() ? "" : Headless.Notes.back());
+}
+
+// The page of the manual, or the address, that was opened last.
+void ExpectPage(ScriptRun&, Arguments& arguments) {
+    const std::string wanted = TakeText(arguments);
+    RequireText("the page", wanted,
+                Headless.PagesOpened.empty() ? "" : Headless.PagesOpened.back());
+}
+
 void ExpectNo(ScriptRun& run, Arguments& arguments) {
     const std::string what = arguments.Word();
     arguments.End();
@@ -136,6 +149,8 @@ constexpr std::array Expectations = std::to_array<ActionRow>({
     {"control", ExpectControl},
     {"beep", ExpectBeep},
     {"message", ExpectMessage},
+    {"note", ExpectNote},
+    {"page", ExpectPage},
     {"no", ExpectNo},
 });
 

@@ -100,7 +100,7 @@ void Run(QFileDialog& dialogue, const CommonDialog& dialog,
                          }
                          Dispatch([&] { reply(chosen); });
                      });
-    LeaveManualUsable(dialogue);
+    LeaveManualUsable(dialogue, "files");
     dialogue.open();
 }
 

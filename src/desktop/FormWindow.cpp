@@ -344,9 +344,9 @@ bool FormWindow::KeyPressed(QObject* watched, QKeyEvent& event) {
     const auto found = controls_.find(watched);
     if (found == controls_.end() && window_->focusWidget() != nullptr) return false;
     Control* focus = found == controls_.end() ? nullptr : found->second;
-    // F1 is for the manual, but where any key will do.
+    // F1 is for help, but where any key will do.
     if (focus != nullptr && event.key() == Qt::Key_F1 && event.modifiers() == Qt::NoModifier) {
-        OpenManual();
+        GiveHelp(form_, *focus);
         return true;
     }
     auto key = KeyOf(event);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -27,6 +28,7 @@
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
 #include "desktop/ShownText.h"
+#include "menu/HelpHere.h"
 #include "output/Help.h"
 #include "platform/Platform.h"
 
@@ -68,6 +70,14 @@ class HelpWindow : public QWidget {
     // The text size may have changed since the window was opened.
     void TakeSize() {
         if (font() != TellingFont()) setFont(TellingFont());
+    }
+
+    // Its file is `name`.md. Without such a page, stays where it is.
+    void GoToPage(const QString& name) {
+        for (int page = 0; page < static_cast<int>(manual_.pages.size()); ++page) {
+            const QString& path = manual_.pages[static_cast<std::size_t>(page)].path;
+            if (QFileInfo(path).completeBaseName() == name) Visit({page, 0, 0});
+        }
     }
 
   protected:
@@ -417,7 +427,7 @@ class BoxWatch : public QObject {
 
 }  // namespace
 
-bool ShowHelpFile(const std::string&) {
+bool ShowHelpFile(const std::string&, const std::string& page) {
     QPointer<HelpWindow>& window = Window();
     if (!window) {
         const QString directory = ManualFolder();
@@ -425,6 +435,7 @@ bool ShowHelpFile(const std::string&) {
         window = new HelpWindow(directory);
     }
     window->TakeSize();
+    window->GoToPage(QString::fromStdString(page));
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();
     window->raise();
@@ -432,15 +443,23 @@ bool ShowHelpFile(const std::string&) {
     return true;
 }
 
-void OpenManual() {
-    Dispatch([] { ShowManual(); });
+void GiveHelp(const Form& form, const Control& focus) {
+    Dispatch([&] {
+        const Help help = HelpHere(form, &focus);
+        const bool wantsMore = NoteShown() == ShownText(help.note);
+        if (help.note.empty() || wantsMore) return ShowManual(help.page);
+        Tell(help.note);
+    });
 }
 
-void LeaveManualUsable(QDialog& box) {
+void LeaveManualUsable(QDialog& box, std::string page) {
     box.setWindowModality(Qt::WindowModal);
     // A box that is being shown has a window, which learns of no second thought.
     if (QWindow* shown = box.windowHandle()) shown->setModality(Qt::WindowModal);
-    QObject::connect(new QShortcut(Qt::Key_F1, &box), &QShortcut::activated, &box, OpenManual);
+    QObject::connect(new QShortcut(Qt::Key_F1, &box), &QShortcut::activated, &box,
+                     [page = std::move(page)] {
+                         Dispatch([&] { ShowManual(page.empty() ? PageOfPendingRule() : page); });
+                     });
     box.installEventFilter(new BoxWatch(&box));
 }
 

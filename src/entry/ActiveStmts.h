@@ -21,7 +21,9 @@ void SelectToken(int& stmt, int& token);
 // The same for a selection: the tokens at its start and its end.
 void SelectTokenRange(int& stmt, int& first, int& last);
 
-// The beep for a click that GetActiveStmt finds no statement for; says what lies there.
+// What lies at a caret that GetActiveStmt finds no statement for, in a sentence; the beep for a
+// click there.
+std::string WhyNoActiveStmt();
 void BeepNoActiveStmt();
 
 // "Line 4 is no implication" style reasons: the beep for a clicked statement that a rule can't use.

@@ -88,17 +88,21 @@ void SelectTokenRange(int& stmt, int& first, int& last) {
     if (!found) ParseWithoutTabs();
 }
 
-void BeepNoActiveStmt() {
+std::string WhyNoActiveStmt() {
     const int line = ShownStmtAt(Proof.RTB.SelStart + 1);
     if (line >= InsertionLimit()) {
-        return Beep("Line " + std::to_string(line) + " is not above the insert line " +
-                    std::to_string(InsertLine) + ": click a line above it.");
+        return "Line " + std::to_string(line) + " is not above the insert line " +
+               std::to_string(InsertLine) + ": click a line above it.";
     }
     if (line > 0) {
-        return Beep("Line " + std::to_string(line) +
-                    " lies in a closed premise block: click an active line.");
+        return "Line " + std::to_string(line) +
+               " lies in a closed premise block: click an active line.";
     }
-    Beep("There is no statement at this place: click an active line.");
+    return "There is no statement at this place: click an active line.";
+}
+
+void BeepNoActiveStmt() {
+    Beep(WhyNoActiveStmt());
 }
 
 void BeepAtLine(int line, const std::string& whatIsWrong) {

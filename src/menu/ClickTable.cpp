@@ -13,6 +13,7 @@
 #include "inference/Connectives.h"
 #include "inference/Equality.h"
 #include "inference/Quantifiers.h"
+#include "inference/Subset.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "mainwindow/RuleModes.h"
@@ -34,7 +35,8 @@ bool OnRight() {
 
 const ClickRow ClickRows[] = {
     {DeleteAllRefMode, "Delete All References: Click statement", Conversation(DeleteAllRef)},
-    {Rule::Spec, "Specify:  Click any active quantified statement", Conversation(Spec)},
+    {Rule::Spec, "Specify:  Click any active quantified statement", Conversation(Spec), nullptr,
+     SpecifyFrom},
     {Rule::EGen, "E Gen: Click a free variable or highlight an expression in an active statement",
      Conversation(ExistGenSelect)},
     {Rule::DeleteAtSub, "Delete All Subsequent Lines: Click statement", Conversation(DeleteAllSub)},
@@ -49,7 +51,8 @@ const ClickRow ClickRows[] = {
                 "Detach:  Click any active statement that matches LHS of line %1"}},
     {Rule::IffAnd, "Iff - And:  Click on any <=> or equivalent & in any active statement",
      SignClick{IffAnd, IffAndNeeds}},
-    {Rule::Subset, "Subset:  Click any active SET-statement", Conversation(Subset)},
+    {Rule::Subset, "Subset:  Click any active SET-statement", Conversation(Subset), nullptr,
+     SubsetFrom},
     {Rule::ImplyAnd, "Implies - And:  Click on => or & in any active statement",
      SignClick{ImplyAnd, ImplyAndNeeds, StayPending}},
     {Rule::Contra, "Contra:  Click on => in any active statement", SignClick{Contra, ContraNeeds}},
@@ -71,7 +74,7 @@ const ClickRow ClickRows[] = {
                      StayPending}},
     {Rule::Substitute,
      "Subst:  Select SOURCE expression. Click LHS or RHS of in any active EQUALS-statement...",
-     TwoClicks(Subsitute)},
+     TwoClicks(Subsitute), nullptr, SubstituteFrom},
     {Rule::Sym, "Symmetry:  Click = sign in any active statement",
      SignClick{Sym, SymNeeds, StayPending}},
     {ToggleHighlightMode, "Toggle Highlight:  Click any statement number but that on a Premise"},
@@ -83,10 +86,10 @@ const ClickRow ClickRows[] = {
                 StayPending, false}},
     {Rule::SetInsertMode, SetInsertModePrompt, Conversation(GetInsertLineNo)},
     {Rule::Rename, "Rename:  Click any active universally quantified statement",
-     Conversation(Rename)},
+     Conversation(Rename), nullptr, RenameFrom},
     {Rule::Reorder,
      "Reorder:  Click any active statement beginning with 2 or more universally quantifiers",
-     Conversation(Reorder)},
+     Conversation(Reorder), nullptr, ReorderFrom},
     {Rule::Copy, "Make Copy:  Click on any active statement", LineClick{Copy, StayPending}},
 };
 

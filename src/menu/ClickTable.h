@@ -20,6 +20,7 @@ struct ClickRow {
     const char* prompt;
     ClickTarget click = std::monostate();
     bool (*applies)() = nullptr;  // of several rows for one rule, which one; nullptr: the only one
+    Outcome (*takes)(const Expression&) = nullptr;  // of a conversation: does the first line fit?
 };
 std::span<const ClickRow> ClickTable();
 

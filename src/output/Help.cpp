@@ -6,8 +6,8 @@
 
 namespace tessaryn {
 
-void ShowManual() {
-    if (!ShowHelpFile(AppPath + "\\Tessaryn.chm")) {
+void ShowManual(const std::string& page) {
+    if (!ShowHelpFile(AppPath + "\\Tessaryn.chm", page)) {
         MsgBox({"Help file \"Tessaryn.chm\" not found", "SYSTEM ERROR"});
     }
 }

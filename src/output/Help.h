@@ -1,10 +1,13 @@
 // The manual and the web site.
 #pragma once
 
+#include <string>
+
 namespace tessaryn {
 
-// Opens the manual; a message box tells if there is none. HelpCommand ends the prompt before.
-void ShowManual();
+// Opens the manual at a page, as "rule-join", or as it was left; a message box tells if there is
+// none. HelpCommand ends the prompt before.
+void ShowManual(const std::string& page = "");
 void HelpCommand();
 void WebSiteCommand();
 

@@ -87,8 +87,9 @@ bool PointerBeyondRightEdge(const Control& box);
 // Pops up a menu title's items at the pointer.
 void PopupMenu(MenuItem& menu);
 
-// Opens the manual under the name of its help file. False if the viewer gives no window.
-bool ShowHelpFile(const std::string& path);
+// Opens the manual under the name of its help file, at a page ("rule-join") or, with "", as it was
+// left. False if the viewer gives no window.
+bool ShowHelpFile(const std::string& path, const std::string& page);
 void OpenWebSite(const std::string& address);
 
 }  // namespace tessaryn

@@ -20,11 +20,15 @@
 
 #include "ShownForm.h"
 #include "desktop/Manual.h"
+#include "desktop/Messages.h"
 #include "entry/TestParser.h"
+#include "expr/Parse.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
+#include "menu/ClickTable.h"
 #include "menu/StartProgram.h"
 #include "view/Display.h"
+#include "view/PutStmt.h"
 
 using namespace tessaryn;
 
@@ -45,7 +49,7 @@ QWidget* ManualWindow() {
 struct Viewer {
     Viewer() : window(Opened()) {}
     static QWidget& Opened() {
-        ShowHelpFile("");
+        ShowHelpFile("", "");
         EXPECT_TRUE(BecomesActive(*ManualWindow()));
         return *ManualWindow();
     }
@@ -181,6 +185,40 @@ TEST(HelpViewer, SearchLeadsToEachPlaceOfEveryPage) {
     EXPECT_EQ(viewer.Count(), QStringLiteral("%1 of %1").arg(found));
     viewer.list.setCurrentItem(viewer.list.topLevelItem(1)->child(0));
     EXPECT_EQ(viewer.Selected().toLower(), QStringLiteral("insert line"));
+}
+
+TEST(HelpViewer, F1TellsWhatFitsTheLineAndPressedAgainOpensThePage) {
+    StartProgram();
+    ShowMainWindow(Proof);
+    Dispatch([] {
+        NewStmtText = "P & Q";
+        RuleMode = 1;
+        Parse();
+        WriteStatement();
+        RuleMode = 0;
+    });
+    QWidget& main = WindowOf(Proof).Window();
+    main.activateWindow();
+    ASSERT_TRUE(BecomesActive(main));
+    WidgetOf(Proof.RTB)->setFocus();
+    const auto press = [&] { QTest::keyClick(main.windowHandle(), Qt::Key_F1); };
+    ForgetManual();
+    press();
+    EXPECT_TRUE(QTest::qWaitFor([] { return NoteShown().startsWith("Line 1 fits Split. "); }));
+    EXPECT_EQ(ManualWindow(), nullptr);
+    press();
+    EXPECT_NE(ManualWindow(), nullptr);
+    // Each rule that waits for a click has its page.
+    for (const ClickRow& row : ClickTable()) {
+        main.activateWindow();
+        ASSERT_TRUE(BecomesActive(main));
+        RuleMode = row.ruleMode;
+        press();
+        const QString title = Viewer().list.currentItem()->text(0);
+        EXPECT_NE(title, QStringLiteral("Tessaryn: user manual")) << row.prompt;
+        ForgetManual();
+    }
+    RuleMode = 0;
 }
 
 TEST(HelpViewer, IsOpenToUseWhileABoxWaits) {

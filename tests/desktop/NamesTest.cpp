@@ -41,7 +41,7 @@ TEST(Names, EveryControlThatTakesTheFocusHasOne) {
         }
         EXPECT_EQ(NamelessIn(WindowOf(*form).Window()), "") << form->Name;
     }
-    ASSERT_TRUE(ShowHelpFile(""));
+    ASSERT_TRUE(ShowHelpFile("", ""));
     QApplication::processEvents();
     for (QWidget* window : QApplication::topLevelWidgets()) {
         EXPECT_EQ(window->isVisible() ? NamelessIn(*window) : "", "");
