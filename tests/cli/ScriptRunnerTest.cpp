@@ -58,7 +58,7 @@ TEST(ScriptRunner, RefusesWhatItCannotRead) {
                            {"expect count two", "expected a number, not two"},
                            {"expect count 99999999999", "expected a number"},
                            {"expect the best", "can't expect the"},
-                           {"key F1", "there is no key F1"},
+                           {"key F13", "there is no key F13"},
                            {"answer Maybe", "an answer is"},
                            {"# fine\necho \"\"\nclick", "a word is missing"},
                        });
