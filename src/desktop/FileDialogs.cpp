@@ -1,8 +1,10 @@
 // The dialogues for opening and saving files.
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QListView>
 #include <QRegularExpression>
 #include <QStringList>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/DataFolder.h"
@@ -15,6 +17,8 @@
 namespace tessaryn {
 
 namespace {
+
+constexpr int PlacesWidth = 200;  // of the list of places at the most, in pixels, unless by hand
 
 // "Proofs (*.proof)|*.proof|..." as a list of "Proofs (*.proof)".
 QStringList Filters(const std::string& filter) {
@@ -49,6 +53,10 @@ class OpenDialogue : public QFileDialog {
             if (!place.isEmpty()) ownPlaces_ << QUrl::fromLocalFile(place);
         }
         setSidebarUrls(sidebarUrls() << ownPlaces_);
+        if (auto* places = findChild<QListView*>(QStringLiteral("sidebar"))) {
+            const int width = places->sizeHintForColumn(0) + 2 * places->frameWidth();
+            places->setMinimumWidth(std::min(width, PlacesWidth));
+        }
     }
 
     // The toolkit keeps what stands there for the dialogues of all programs.

@@ -98,13 +98,14 @@ TEST_F(Library, CirclesAndForgeriesAreNoTheorems) {
               "2\nnowhere: there is no such directory\n");
 }
 
-// Each proof of the examples is what its script leaves, tells its reader what it is about, and
-// rests on nothing but axioms of the menus, some by way of each other.
+// Each proof of the examples is what its script leaves, tells its reader what it is about, has its
+// place in the manual, and rests on nothing but axioms of the menus, some by way of each other.
 TEST_F(Library, ExamplesStandBesideTheirScripts) {
     namespace fs = std::filesystem;
     const fs::path examples = fs::path(TESSARYN_SOURCE_DIR) / "examples";
     const fs::path before = fs::current_path();
     fs::current_path(directory);
+    const std::string page = *ReadWholeFile((examples / "../docs/manual/examples.md").string());
     std::set<std::string> proofs{"sub"};
     for (const auto& entry : fs::directory_iterator(examples)) {
         const std::string name = entry.path().stem().string() + ".proof";
@@ -112,6 +113,7 @@ TEST_F(Library, ExamplesStandBesideTheirScripts) {
         EXPECT_EQ(RunScript(*ReadWholeFile(entry.path().string())).error, "") << entry.path();
         EXPECT_TRUE(ReadWholeFile(name) == ReadWholeFile((examples / name).string()))
             << name << ": packaging/examples builds it";
+        EXPECT_NE(page.find("| `" + entry.path().stem().string() + "` |"), page.npos) << name;
         proofs.insert(name);
         const Document proof = *ReadProof(*ReadWholeFile(name));
         EXPECT_NE(proof.ProofCaption, "") << name;
