@@ -65,9 +65,8 @@ std::string SetAxiom(const Step& step) {
 }
 
 std::string Definition(const Step& step) {
-    const std::string sign = step.schemes.DefinedSign(step.result);
-    if (sign.empty()) return "it is none of the definitions";
-    return NewNameBut(step, sign == "+" ? "next" : "");
+    if (step.schemes.DefinedSign(step.result).empty()) return "it is none of the definitions";
+    return NewNameBut(step, "next");  // which only that of + speaks of
 }
 
 // From Set(x): EXIST(s):[Set(s) & ALL(a):[a @ s <=> a @ x & P]], where P does not speak of s. For
@@ -98,7 +97,8 @@ std::string Subset(const Step& step) {
     if (selected.kind != Kind::And || selected.a != terms.Make(Kind::Element, tuple, given.b)) {
         return otherwise;
     }
-    if (Mentions(terms, selected.b, n)) return "its criterion speaks of the subset itself";
+    // The subset is bound by the outermost of all quantifiers.
+    if (terms[selected.b].loose > n) return "its criterion speaks of the subset itself";
     return NewName(step);
 }
 

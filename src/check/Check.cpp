@@ -125,8 +125,7 @@ std::vector<std::string> MenuAxioms() {
 std::string MenuAxiomThatReads(std::string_view text) {
     Terms terms;
     Schemes schemes(terms);
-    const Term term = StatementReader(terms).ReadLoosely(text).term;
-    return term == 0 ? "" : schemes.GroupAxiom(term);
+    return schemes.GroupAxiom(StatementReader(terms).ReadLoosely(text).term);
 }
 
 std::string Worded(const Ground& ground) {

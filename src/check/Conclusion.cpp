@@ -24,8 +24,7 @@ Term Bind(Terms& terms, Term term, const Levels& levels, int depth) {
     }
     const int inner = depth + (IsQuantifier(node.kind) ? 1 : 0);
     const Term a = Bind(terms, node.a, levels, inner);
-    const Term b = IsBinary(node.kind) ? Bind(terms, node.b, levels, inner) : 0;
-    return terms.Make(node.kind, a, b);
+    return terms.Make(node.kind, a, Bind(terms, node.b, levels, inner));
 }
 
 Term Quantify(Terms& terms, Kind kind, Term term, int count) {

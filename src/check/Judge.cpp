@@ -142,7 +142,7 @@ std::string Judge::LineFault() {
     if (!fault.empty()) return fault;
     if (Own().rule == static_cast<int>(Rule::Conclusion)) scope_.Close(Own().arg1);
     fault = ColourFault();
-    if (fault.empty()) Enter();
+    Enter();
     return fault;
 }
 
@@ -260,9 +260,8 @@ std::string Judge::ColourFault() const {
 
 void Judge::Enter() {
     const std::vector<int>& names = reader_.Last().freeNames;
-    const int newWitness = Own().rule == static_cast<int>(Rule::ESpec) && !Own().specName.empty()
-                               ? terms_.NameNumber(Own().specName)
-                               : -1;
+    // Of a U Spec the name is in use already.
+    const int newWitness = Own().specName.empty() ? -1 : terms_.NameNumber(Own().specName);
     scope_.Enter(names, reds_);
     if (Own().rule == static_cast<int>(Rule::Premise)) scope_.OpenPremise();
     for (const int name : names) {

@@ -30,9 +30,7 @@ class Judge {
 
   private:
     const Record& Own() const { return proof_.records[static_cast<std::size_t>(line_)]; }
-    Term TermOf(int line) const {
-        return line == 0 ? 0 : lineTerms_[static_cast<std::size_t>(line)];
-    }
+    Term TermOf(int line) const { return lineTerms_[static_cast<std::size_t>(line)]; }
 
     std::string BlockFault();
     std::string LineFault();

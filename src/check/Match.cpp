@@ -14,7 +14,7 @@ bool InstanceAt(const Terms& terms, Term body, Term target, int depth,
     if (other.kind != pattern.kind) return false;
     const int inner = depth + (IsQuantifier(pattern.kind) ? 1 : 0);
     return InstanceAt(terms, pattern.a, other.a, inner, fits) &&
-           (!IsBinary(pattern.kind) || InstanceAt(terms, pattern.b, other.b, inner, fits));
+           InstanceAt(terms, pattern.b, other.b, inner, fits);
 }
 
 }  // namespace
@@ -32,22 +32,13 @@ bool IsInstanceOfOne(const Terms& terms, Term body, Term target, Term& instance)
     });
 }
 
-bool Mentions(const Terms& terms, Term term, int index) {
-    const Node node = terms[term];
-    if (node.loose <= index) return false;
-    if (node.kind == Kind::Bound) return node.a == index;
-    const int inner = index + (IsQuantifier(node.kind) ? 1 : 0);
-    return Mentions(terms, node.a, inner) ||
-           (IsBinary(node.kind) && Mentions(terms, node.b, inner));
-}
-
 bool DiffersInOnePlace(const Terms& terms, Term from, Term to,
                        const std::function<bool(Term from, Term to)>& changes) {
+    if (from == 0) return false;
     if (changes(from, to)) return true;
     const Node a = terms[from];
     const Node b = terms[to];
-    if (a.kind != b.kind || a.kind == Kind::Bound || a.kind == Kind::Name) return false;
-    if (!IsBinary(a.kind)) return DiffersInOnePlace(terms, a.a, b.a, changes);
+    if (a.kind != b.kind || IsLeaf(a.kind)) return false;
     return (a.b == b.b && DiffersInOnePlace(terms, a.a, b.a, changes)) ||
            (a.a == b.a && DiffersInOnePlace(terms, a.b, b.b, changes));
 }
@@ -81,8 +72,7 @@ bool Replacement::Leads(Term from, Term to) {
 bool Replacement::OperandsLead(Term from, Term to) {
     const Node a = terms_[from];
     const Node b = terms_[to];
-    if (a.kind != b.kind || a.kind == Kind::Bound || a.kind == Kind::Name) return false;
-    return Leads(a.a, b.a) && (!IsBinary(a.kind) || Leads(a.b, b.b));
+    return a.kind == b.kind && !IsLeaf(a.kind) && Leads(a.a, b.a) && Leads(a.b, b.b);
 }
 
 // Replacements inside a term may make it one that can be replaced.

@@ -16,9 +16,6 @@ bool IsInstance(const Terms& terms, Term body, Term target,
 // term, or 0 if the body does not hold the variable.
 bool IsInstanceOfOne(const Terms& terms, Term body, Term target, Term& instance);
 
-// Whether a variable that `index` quantifiers bind out of the term's reach stands in it.
-bool Mentions(const Terms& terms, Term term, int index);
-
 // Whether `to` is `from` with one part changed, and that in the way that `changes` accepts.
 bool DiffersInOnePlace(const Terms& terms, Term from, Term to,
                        const std::function<bool(Term from, Term to)>& changes);

@@ -15,9 +15,7 @@ bool IsSmallName(std::string_view text) {
     StatementReader reader(terms);
     // A name is what can be an argument, and prints as it stands.
     const std::string statement = "P(" + std::string(text) + ")";
-    const Statement& read = reader.Read(statement, 0);
-    return read.error.empty() && read.freeNames.size() == 1 &&
-           terms.KindOf(terms[read.term].b) == Kind::Name;
+    return terms.KindOf(terms[reader.Read(statement, 0).term].b) == Kind::Name;
 }
 
 }  // namespace
@@ -111,7 +109,7 @@ class Reordered {
     bool Pairs(Term from, Term to, int depth) {
         const Node a = terms_[from];
         const Node b = terms_[to];
-        if (a.loose <= depth || b.loose <= depth) return from == to;
+        if (a.loose <= depth) return from == to;
         if (a.kind != b.kind) return false;
         if (a.kind == Kind::Bound) {
             int& there = there_[static_cast<std::size_t>(a.a - depth)];
@@ -123,7 +121,7 @@ class Reordered {
             return there == b.a - depth;
         }
         const int inner = depth + (IsQuantifier(a.kind) ? 1 : 0);
-        return Pairs(a.a, b.a, inner) && (!IsBinary(a.kind) || Pairs(a.b, b.b, inner));
+        return Pairs(a.a, b.a, inner) && Pairs(a.b, b.b, inner);
     }
 
   private:

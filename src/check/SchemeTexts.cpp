@@ -43,16 +43,15 @@ std::string CartesianProduct(int n) {
 }
 
 std::string PowerSet(int n) {
-    const std::string member = n == 1 ? "d" : Tuple('d', n);
+    const std::string member = Tuple('d', n);
     return "ALL(a):[" + Set(n) + "(a) => EXIST(b):[Set(b) & ALL(c):[c @ b <=> " + Set(n) +
-           "(c) & " + (n == 1 ? "ALL(d):" : Alls('d', n)) + "[" + member + " @ c => " + member +
-           " @ a]]]]";
+           "(c) & " + Alls('d', n) + "[" + member + " @ c => " + member + " @ a]]]]";
 }
 
 std::string SetEquality(int n) {
-    const std::string member = n == 1 ? "c" : Tuple('c', n);
-    return "ALL(a):ALL(b):[" + Set(n) + "(a) & " + Set(n) + "(b) => [a=b <=> " +
-           (n == 1 ? "ALL(c):" : Alls('c', n)) + "[" + member + " @ a <=> " + member + " @ b]]]";
+    const std::string member = Tuple('c', n);
+    return "ALL(a):ALL(b):[" + Set(n) + "(a) & " + Set(n) + "(b) => [a=b <=> " + Alls('c', n) +
+           "[" + member + " @ a <=> " + member + " @ b]]]";
 }
 
 // From a graph to its function: each argument has a value in the graph, and only one.
@@ -79,11 +78,10 @@ std::string FunctionSpace(int n) {
 }
 
 std::string FunctionEquality(int n) {
-    const std::string args = n == 1 ? "(a)" : Tuple('a', n);
+    const std::string args = Tuple('a', n);
     return "ALL(dom):ALL(cod):ALL(f1):ALL(f2):[" + Set(n) +
            "(dom) & Set(cod) & Function(f1,dom,cod) & Function(f2,dom,cod) => [f1=f2 <=> " +
-           (n == 1 ? "ALL(a):" : Alls('a', n)) + "[" + args + " @ dom => f1" + args + "=f2" + args +
-           "]]]";
+           Alls('a', n) + "[" + args + " @ dom => f1" + args + "=f2" + args + "]]]";
 }
 
 }  // namespace

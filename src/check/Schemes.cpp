@@ -11,8 +11,7 @@ Term Schemes::Read(std::string_view text) {
 
 std::size_t Schemes::Size(Term term) const {
     const Node node = terms_[term];
-    if (node.kind == Kind::Bound || node.kind == Kind::Name) return 1;
-    return 1 + Size(node.a) + (IsBinary(node.kind) ? Size(node.b) : 0);
+    return IsLeaf(node.kind) ? 1 : 1 + Size(node.a) + Size(node.b);
 }
 
 bool Schemes::IsSetAxiom(Rule rule, Term term) {
@@ -25,9 +24,8 @@ bool Schemes::IsSetAxiom(Rule rule, Term term) {
     for (int n = 1; n <= GreatestOrder; ++n) {
         const auto place = static_cast<std::size_t>(n - 1);
         if (place == known->terms.size()) {
-            const std::string text = SetAxiomText(rule, n);
-            known->terms.push_back(text.empty() ? 0 : Read(text));
-            known->sizes.push_back(text.empty() ? 0 : Size(known->terms.back()));
+            known->terms.push_back(Read(SetAxiomText(rule, n)));  // 0 if there is none
+            known->sizes.push_back(Size(known->terms.back()));
         }
         if (known->terms[place] == term) return true;
         if (known->sizes[place] > size) return false;

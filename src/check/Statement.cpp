@@ -99,10 +99,6 @@ bool StartsName(char c) {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || IsCapital(c);
 }
 
-bool IsConnective(Kind kind) {
-    return kind >= Kind::And && kind <= Kind::Iff;
-}
-
 }  // namespace
 
 StatementReader::Use& StatementReader::UseOf(int name) {
@@ -227,8 +223,8 @@ int StatementReader::Combine(Kind kind, int left, int right) {
     if (!Fits(kind, left, right)) return Fail("a sign stands beside what it does not go with");
     const Written& a = written_[static_cast<std::size_t>(left)];
     const Written& b = written_[static_cast<std::size_t>(right)];
-    const Term term = IsUnary(kind) ? terms_.Make(kind, a.term) : terms_.Make(kind, a.term, b.term);
-    return Add({kind, left, right, -1, term, std::max(a.depth, b.depth) + 1});
+    return Add(
+        {kind, left, right, -1, terms_.Make(kind, a.term, b.term), std::max(a.depth, b.depth) + 1});
 }
 
 // Reads operands and the signs between them as long as these bind no more loosely than told. All
@@ -437,7 +433,6 @@ void StatementReader::Print(int index, std::string& out, bool numbered, int leve
         case Kind::All:
         case Kind::Exist:
             out += written.kind == Kind::All ? "ALL(" : "EXIST(";
-            if (numbered) out += '#' + std::to_string(level);
             if (!numbered) out += terms_.NameText(written.name);
             out += "):";
             PrintOperand(written.a, looseness(written.a) <= own, "[]", out, numbered, level + 1);
@@ -445,7 +440,7 @@ void StatementReader::Print(int index, std::string& out, bool numbered, int leve
         default:
             break;
     }
-    const char* brackets = IsConnective(written.kind) ? "[]" : "()";
+    const char* brackets = written.kind >= Kind::And ? "[]" : "()";
     PrintOperand(written.a, looseness(written.a) <= own, brackets, out, numbered, level);
     out += Sign(written.kind);
     PrintOperand(written.b, looseness(written.b) < own, brackets, out, numbered, level);

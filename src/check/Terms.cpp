@@ -18,12 +18,8 @@ bool IsQuantifier(Kind kind) {
     return kind == Kind::All || kind == Kind::Exist;
 }
 
-bool IsUnary(Kind kind) {
-    return kind == Kind::Negative || kind == Kind::Not || IsQuantifier(kind);
-}
-
-bool IsBinary(Kind kind) {
-    return kind != Kind::Bound && kind != Kind::Name && !IsUnary(kind);
+bool IsLeaf(Kind kind) {
+    return kind == Kind::Bound || kind == Kind::Name;
 }
 
 Terms::Terms() : nodes_{{Kind::Bound, 0, 0, 0}}, table_(1024, 0) {}
@@ -37,8 +33,8 @@ Term Terms::Make(Kind kind, int a, int b) {
     }
     int loose = 0;
     if (kind == Kind::Bound) loose = a + 1;
-    if (IsUnary(kind)) loose = std::max(0, (*this)[a].loose - (IsQuantifier(kind) ? 1 : 0));
-    if (IsBinary(kind)) loose = std::max((*this)[a].loose, (*this)[b].loose);
+    if (!IsLeaf(kind)) loose = std::max((*this)[a].loose, (*this)[b].loose);
+    if (IsQuantifier(kind)) loose = std::max(0, loose - 1);
     const Term term = static_cast<Term>(nodes_.size());
     table_[place] = term;
     nodes_.push_back({kind, a, b, loose});

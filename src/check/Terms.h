@@ -52,9 +52,10 @@ struct Node {
     int loose;  // how many quantifiers would have to be put around it to bind all its Bounds
 };
 
+// A kind with one operand has 0 as its b. Term 0 binds nothing and holds nothing, so that a walk
+// over both operands needs not ask how many there are.
 bool IsQuantifier(Kind kind);
-bool IsUnary(Kind kind);   // a is its only operand
-bool IsBinary(Kind kind);  // a and b are its operands
+bool IsLeaf(Kind kind);  // has no operands
 
 class Terms {
   public:

@@ -131,7 +131,7 @@ class Writer {
         if (!line.comment.empty()) text_ += "\r\n\r\n";
         text_ += Field("Indent", tabs) + Field("Number", std::to_string(line_)) + '\t';
         Index("StartStmt");
-        text_ += Replaced(line.text, "\r\n", "\r\n\t" + tabs);
+        text_ += Replaced(line.text, "\r\n", Field("Break", "\r\n\t" + tabs));
         Index("EndStmt", -1);
         text_ += Field("Between", "\r\n\t" + tabs);
         Index("StartRule");

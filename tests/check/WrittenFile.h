@@ -15,7 +15,8 @@ struct WrittenLine {
     std::string text;  // of the statement; a line break is "\r\n"
     std::string comment;
     // Fields by their names in Statement.h, and "Number", "Annotation", "Indent" for what stands in
-    // the text, "Ahead" and "Behind" around the block, "Between" ahead of the annotation. Of an
+    // the text, "Ahead" and "Behind" around the block, "Between" ahead of the annotation,
+    // "Break" for a line break in the statement. Of an
     // index, how far it is off.
     std::map<std::string, std::string> fields;
 };

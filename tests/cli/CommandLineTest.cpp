@@ -125,6 +125,19 @@ TEST(CommandLine, CheckTellsWhatAProofRestsOn) {
                   "verdict":"accepted","statements":[{"inForce":true,"line":1,"rule":"Premise",
                   "text":"x @ s","restsOn":[{"kind":"premise","line":1,"text":"x @ s"}]}]})json"));
 
+    // A line of a closed block rests on its premise, and on no witness that comes later.
+    const std::string block = ::testing::TempDir() + "block.proof";
+    ASSERT_EQ(
+        Build(EnterAxiom("EXIST(x):P(x)") + EnterPremise("Q") + "choose optConclusion\n" +
+              "choose optSpec\nclick 1\nset Text1 \"w\"\nchoose Continue\nsave " + Quoted(block)),
+        "");
+    const std::string axiom = "rests on axiom EXIST(x):P(x) in line 1";
+    EXPECT_EQ(Call({"check", "--all", block}).output,
+              block + ": " + axiom + ", the choice of w in line 4\n" + block +
+                  ":1: EXIST(x):P(x): " + axiom + "\n" + block +
+                  ":2: Q: rests on premise Q in line 2\n" + block + ":3: Q => Q: proved\n" + block +
+                  ":4: P(w): " + axiom + ", the choice of w in line 4\n");
+
     std::string bytes = *ReadWholeFile(file);
     bytes[10 + 2 + 2] = 16;  // the rule, Detach
     const std::string forged = ::testing::TempDir() + "forged.proof";
