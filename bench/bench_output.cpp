@@ -1,4 +1,4 @@
-// What is put out of proofs of 100 to 32,000 statements: the page for a browser, and print.
+// What is put out of proofs of 100 to 32,000 statements: the page for a browser, LaTeX, and print.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
@@ -7,6 +7,7 @@
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
 #include "output/HTML.h"
+#include "output/LaTeX.h"
 #include "output/Printing.h"
 
 namespace tessaryn {
@@ -15,6 +16,12 @@ namespace {
 void PageForABrowser(benchmark::State& state) {
     MakeLargeProof(static_cast<int>(state.range(0)));
     for (auto _ : state) benchmark::DoNotOptimize(HTMLPage());
+    state.SetComplexityN(state.range(0));
+}
+
+void LaTeX(benchmark::State& state) {
+    MakeLargeProof(static_cast<int>(state.range(0)));
+    for (auto _ : state) benchmark::DoNotOptimize(LaTeXDocument());
     state.SetComplexityN(state.range(0));
 }
 
@@ -47,6 +54,7 @@ void Sizes(benchmark::internal::Benchmark* bench) {
 }
 
 BENCHMARK(PageForABrowser)->Apply(Sizes)->Complexity();
+BENCHMARK(LaTeX)->Apply(Sizes)->Complexity();
 BENCHMARK(SavedPage)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(PrintCopy)->Apply(Sizes)->Complexity();
 BENCHMARK(PrintedPages)->Apply(Sizes);

@@ -9,6 +9,8 @@ build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-private-dev
 test_packages=(xvfb xauth)
 package_packages=(dpkg-dev file)
 check_packages=(clang clang-format clang-tidy libclang-rt-14-dev)
+# With these the tests look at what others make of the documents; without them they skip that.
+document_packages=(texlive-latex-base chromium)
 wasm_packages=(emscripten nodejs)
 
 # install_missing PACKAGE...: leaves at once when all are there.

@@ -21,6 +21,7 @@
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "output/HTML.h"
+#include "output/LaTeX.h"
 #include "output/Printing.h"
 #include "output/ProofCommands.h"
 #include "platform/Files.h"
@@ -42,6 +43,7 @@ constexpr const char* Usage =
     "       tessaryn-cli same\n"
     "       tessaryn-cli dump FILE.proof\n"
     "       tessaryn-cli html IN.proof OUT.html\n"
+    "       tessaryn-cli latex IN.proof OUT.tex\n"
     "       tessaryn-cli print IN.proof OUT.txt\n"
     "       tessaryn-cli fits FILE.proof [LINE]\n"
     "       tessaryn-cli check [--json] [--all] [--library DIR] [--jobs N] FILE.proof...\n"
@@ -61,6 +63,7 @@ constexpr const char* Help =
     "same   reads pairs of expressions as JSON arrays, prints true or false\n"
     "dump   opens a proof and prints its state as JSON\n"
     "html   writes a proof as a page for a browser\n"
+    "latex  writes a proof as a LaTeX document\n"
     "print  writes a proof as it would be printed, a form feed between pages\n"
     "fits   prints the rules that fit the active lines of a proof, or one of them, and\n"
     "         what they would write, as JSON, one a line\n"
@@ -188,6 +191,12 @@ int HtmlCommand(const Words& words, const Streams& streams) {
     const std::string fault = SaveHTML(words[1]);
     for (const std::string& note : Headless.Notes) streams.err << words[0] << ": " << note << '\n';
     return ReportWriting(words[1], fault, streams);
+}
+
+int LatexCommand(const Words& words, const Streams& streams) {
+    if (words.size() != 2) return ReportWrongUse(streams);
+    if (!OpenProof(words[0], streams.err)) return 1;
+    return ReportWriting(words[1], SaveLaTeX(words[1]), streams);
 }
 
 int PrintCommand(const Words& words, const Streams& streams) {
@@ -325,6 +334,7 @@ constexpr std::array Commands = std::to_array<CommandRow>({
     {"same", SameCommand},
     {"dump", DumpCommand},
     {"html", HtmlCommand},
+    {"latex", LatexCommand},
     {"print", PrintCommand},
     {"fits", FitsCommand},
     {"check", CheckCommand},

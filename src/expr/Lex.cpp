@@ -52,6 +52,17 @@ size_t CompoundLength(std::string_view rest) {
     return 1;
 }
 
+// As TokenLength, for a text whose first character is of that class; of white space 1.
+size_t LengthOf(std::string_view text, CharClass start) {
+    size_t length = 1;
+    if (start == LowerStart || start == UpperStart) {
+        while (length < text.size() && ContinuesName(text[length], start)) length++;
+    } else if (start == Compound) {
+        length = CompoundLength(text);
+    }
+    return length;
+}
+
 // Calls take with the 0-based place and the length of each token; gives the 0-based place of an
 // illegal character, npos if there is none.
 template <class Take>
@@ -59,13 +70,8 @@ size_t ForEachToken(std::string_view source, Take take) {
     size_t i = 0;
     while (i < source.size()) {
         const CharClass start = ClassOf(source[i]);
-        size_t length = 1;
         if (start == Illegal) return i;
-        if (start == LowerStart || start == UpperStart) {
-            while (i + length < source.size() && ContinuesName(source[i + length], start)) length++;
-        } else if (start == Compound) {
-            length = CompoundLength(source.substr(i));
-        }
+        const size_t length = LengthOf(source.substr(i), start);
         if (start != White) take(i, length);
         i += length;
     }
@@ -135,6 +141,11 @@ void Lex(Expression& expression) {
     });
     error = "20. Unmatched bracket(s)";
     errorPos = lonely->Position;
+}
+
+size_t TokenLength(std::string_view text) {
+    const CharClass start = text.empty() ? White : ClassOf(text[0]);
+    return start == White || start == Illegal ? 0 : LengthOf(text, start);
 }
 
 bool Lexes(std::string_view text) {

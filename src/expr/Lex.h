@@ -1,6 +1,7 @@
 // From a text to its tokens.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,10 @@ void Lex(Expression& expression);
 
 // The same as a value.
 Expression LexExpression(std::string text);
+
+// Bytes of the token at the head of a text; 0 if white space, an illegal character or nothing is
+// there.
+std::size_t TokenLength(std::string_view text);
 
 // Does the text lex? Builds nothing.
 bool Lexes(std::string_view text);

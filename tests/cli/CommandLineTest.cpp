@@ -190,7 +190,7 @@ TEST(CommandLine, HtmlAndPrintWriteFiles) {
     const std::string paper = ::testing::TempDir() + "page.txt";
     EXPECT_EQ(Call({"print", proof, paper}).status, 0);
     EXPECT_EQ(ReadWholeFile(paper), "1\tx ε s\n\tPremise\n\n" + proof + "\n");
-    for (const char* command : {"html", "print"}) {
+    for (const char* command : {"html", "latex", "print"}) {
         EXPECT_EQ(Call({command, proof, ::testing::TempDir()}).status, 1);
         EXPECT_EQ(Call({command, "/nowhere/x.proof", page}).status, 1);
     }
