@@ -37,6 +37,7 @@ namespace tessaryn {
 namespace {
 
 constexpr QSize NaturalSize(1000, 700);
+constexpr int CharactersBesideList = 90;  // a window of fewer shows the page alone
 constexpr int StartRole = Qt::UserRole + 1;
 constexpr int LengthRole = Qt::UserRole + 2;
 
@@ -86,6 +87,8 @@ class HelpWindow : public QWidget {
         if (type == QEvent::FontChange || type == QEvent::PaletteChange) TakeLook();
         QWidget::changeEvent(event);
     }
+
+    void resizeEvent(QResizeEvent*) override { ShowListIfRoom(); }
 
     void mousePressEvent(QMouseEvent* event) override {
         if (event->button() == Qt::BackButton) back_->trigger();
@@ -168,6 +171,13 @@ class HelpWindow : public QWidget {
         text_.setDocument(nullptr);
         for (ManualPage& page : manual_.pages) page.text.reset();
         if (!stops_.empty()) Show(stops_[here_].page, scroll);
+    }
+
+    // A narrow window, beside that of the proof, leaves its room to the page, but for a search.
+    void ShowListIfRoom() {
+        const int needed = fontMetrics().averageCharWidth() * CharactersBesideList;
+        const bool room = width() >= std::min(needed, NaturalSize.width());
+        list_.setVisible(room || !search_.text().isEmpty());
     }
 
     // --- pages and the way through them
@@ -310,6 +320,7 @@ class HelpWindow : public QWidget {
                 ListHits();
             }
         }
+        ShowListIfRoom();
         SelectInList({stops_[here_].page, 0, 0});
         MarkHits();
         TellCount();

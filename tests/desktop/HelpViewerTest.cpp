@@ -154,7 +154,7 @@ TEST(HelpViewer, BackAndForwardAgreeWithTheList) {
     const int subset = viewer.page.verticalScrollBar()->value();
     expectPage("Working with sets", subset);
     viewer.Press(Qt::Key_Left, Qt::AltModifier);
-    expectPage("The window", 200);
+    expectPage("Lesson 2: not, or, cases", 200);
     viewer.Press(Qt::Key_Left, Qt::AltModifier);
     expectPage("Tessaryn: user manual", 0);
     viewer.Press(Qt::Key_Left, Qt::AltModifier);
@@ -165,8 +165,12 @@ TEST(HelpViewer, BackAndForwardAgreeWithTheList) {
 
 TEST(HelpViewer, SearchLeadsToEachPlaceOfEveryPage) {
     Viewer viewer;
+    EXPECT_TRUE(viewer.list.isVisible());
+    viewer.window.resize(560, 600);  // beside a proof
+    EXPECT_FALSE(viewer.list.isVisible());
     viewer.Press(Qt::Key_F, Qt::ControlModifier);
     viewer.Write("zzz");
+    EXPECT_TRUE(viewer.list.isVisible());
     EXPECT_EQ(viewer.Count(), QStringLiteral("Not found"));
     viewer.Press(Qt::Key_F, Qt::ControlModifier);
     viewer.Write("insert line");
