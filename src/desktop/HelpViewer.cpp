@@ -37,7 +37,7 @@ namespace tessaryn {
 namespace {
 
 constexpr QSize NaturalSize(1000, 700);
-constexpr int CharactersBesideList = 90;  // a window of fewer shows the page alone
+constexpr int CharactersBesideList = 120;  // a window of fewer shows the page alone
 constexpr int StartRole = Qt::UserRole + 1;
 constexpr int LengthRole = Qt::UserRole + 2;
 

@@ -19,6 +19,7 @@ constexpr int CharactersAhead = 24;  // of a place, in what a list shows around 
 constexpr int CharactersShown = 120;
 constexpr int Margin = 12;  // of a page, in pixels
 constexpr int CellPadding = 3;
+constexpr int HeadingMargin = 14;
 
 QString ContentOf(const QString& path) {
     QFile file(path);
@@ -82,6 +83,16 @@ void SetOffCells(const QTextDocument& text) {
     }
 }
 
+// Above a heading, where the reader leaves none behind lines of code.
+void SetOffHeadings(const QTextDocument& text) {
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        QTextBlockFormat format = block.blockFormat();
+        if (format.headingLevel() == 0 || block.position() == 0) continue;
+        format.setTopMargin(HeadingMargin);
+        QTextCursor(block).setBlockFormat(format);
+    }
+}
+
 // By which links name a heading: "Insert mode (F2)" is "insert-mode-f2".
 QString AnchorOf(const QString& heading) {
     static const QRegularExpression dropped(QStringLiteral("[^\\w\\- ]"),
@@ -127,6 +138,7 @@ QTextDocument& TextOf(Manual& manual, int page) {
     shown.text->setMarkdown(WithoutComments(ContentOf(shown.path)));
     DropEscapes(*shown.text);
     SetOffCells(*shown.text);
+    SetOffHeadings(*shown.text);
     PaintLinks(*shown.text, manual.linkColour);
     return *shown.text;
 }

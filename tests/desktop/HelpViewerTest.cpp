@@ -165,6 +165,7 @@ TEST(HelpViewer, BackAndForwardAgreeWithTheList) {
 
 TEST(HelpViewer, SearchLeadsToEachPlaceOfEveryPage) {
     Viewer viewer;
+    viewer.window.resize(1000, 600);
     EXPECT_TRUE(viewer.list.isVisible());
     viewer.window.resize(560, 600);  // beside a proof
     EXPECT_FALSE(viewer.list.isVisible());
