@@ -20,26 +20,25 @@
 
 namespace tessaryn {
 
-struct Statement {
-    int Rule = 0;        // rule number that made it
-    int Arg1 = 0;        // line references; 0 none. Of a closed Premise: the line of its Conclusion
-    int Arg2 = 0;        //
-    KeptText SpecName;   // rule 3: the name brought in; of rule 4 without meaning
-    KeptText FreeVars;   // name list: the free variables
+struct Statement {  // small members together: there are 32,000, and many walks over them all
+    int Rule = 0;   // rule number that made it
+    int Arg1 = 0;   // line references; 0 none. Of a closed Premise: the line of its Conclusion
+    int Arg2 = 0;
+    bool Visible = false;    // drawn in the display
+    bool Highlight = false;  // the number is bold
+    bool Flagged = false;    // scratch of deletion: doomed
+    int NewNumber = 0;       // scratch of deletion: number after it
+    int StartLine = 0;  // first byte of the block; this and the next five are 1-based in ProofText
+    int EndUserComment = 0;   // last byte of the comment; 0 none
+    int StartStmt = 0;        // first byte of the statement text
+    int EndStmt = 0;          // last byte of the statement text
+    int StartRule = 0;        // first byte of the annotation
+    int EndRule = 0;          // last byte of the annotation
+    int ViewerStartLine = 0;  // while Visible: first byte of the block in the display, 1-based
+    KeptText SpecName;        // rule 3: the name brought in; of rule 4 without meaning
+    KeptText FreeVars;        // name list: the free variables
     KeptText FixedVars;  // name list: those of them already in use outside the innermost premise
     KeptText SpareVars;  // name list: drawn bold; the writer leaves it ""
-    bool Visible = false;  // drawn in the display
-    int StartLine = 0;  // first byte of the block; this and the next five are 1-based in ProofText
-    int EndUserComment = 0;  // last byte of the comment; 0 none
-    int StartStmt = 0;       // first byte of the statement text
-    int EndStmt = 0;         // last byte of the statement text
-    int StartRule = 0;       // first byte of the annotation
-    int EndRule = 0;         // last byte of the annotation
-    int ViewerStartLine =
-        0;                 // while Visible: first byte of the block in the display's text, 1-based
-    bool Flagged = false;  // scratch of deletion: doomed
-    int NewNumber = 0;     // scratch of deletion: number after it
-    bool Highlight = false;  // the number is bold
 
     bool operator==(const Statement&) const = default;
 };
