@@ -81,25 +81,48 @@ std::vector<Ground> CheckedProof::RestsOn(int line) const {
     const auto add = [&](Ground ground) {
         if (told.emplace(ground.kind, ground.text).second) grounds.push_back(std::move(ground));
     };
-    auto next = content_->grounds.begin();
     for (const int from : Ancestry(content_->proof.records, line)) {
-        next = std::lower_bound(next, content_->grounds.end(), from,
-                                [](const Ground& ground, int at) { return ground.line < at; });
-        if (next == content_->grounds.end()) break;
-        if (next->line != from) continue;
-        const int end = content_->At(from).arg1;  // of a premise, where it was discharged
-        if (next->kind == Ground::Kind::Premise && end != 0 && end <= line) continue;
-        Ground ground = *next;
-        if (ground.kind != Ground::Kind::Menu) ground.text = Text(from);
-        add(std::move(ground));
+        const int end = DischargedIn(from);
+        if (end != 0 && end <= line) continue;
+        if (auto ground = OwnGround(from)) add(std::move(*ground));
     }
-    auto witness = std::lower_bound(content_->witnesses.begin(), content_->witnesses.end(),
-                                    std::pair(line, 0));
-    for (; witness != content_->witnesses.end() && witness->first == line; ++witness) {
-        const Record& record = content_->At(witness->second);
-        add({Ground::Kind::Witness, witness->second, std::string(record.specName)});
-    }
+    for (Ground& witness : WitnessesOf(line)) add(std::move(witness));
     return grounds;
+}
+
+std::vector<int> CheckedProof::Sources(int line) const {
+    std::vector<int> sources;
+    for (const int source : check::Sources(content_->proof.records, line)) {
+        if (source > 0) sources.push_back(source);
+    }
+    return sources;
+}
+
+std::optional<Ground> CheckedProof::OwnGround(int line) const {
+    const auto& grounds = content_->grounds;
+    const auto own =
+        std::lower_bound(grounds.begin(), grounds.end(), line,
+                         [](const Ground& ground, int at) { return ground.line < at; });
+    if (own == grounds.end() || own->line != line) return std::nullopt;
+    Ground ground = *own;
+    if (ground.kind != Ground::Kind::Menu) ground.text = Text(line);
+    return ground;
+}
+
+int CheckedProof::DischargedIn(int line) const {
+    const Record& record = content_->At(line);
+    return record.rule == static_cast<int>(Rule::Premise) ? record.arg1 : 0;
+}
+
+std::vector<Ground> CheckedProof::WitnessesOf(int line) const {
+    std::vector<Ground> witnesses;
+    const auto& all = content_->witnesses;
+    for (auto at = std::lower_bound(all.begin(), all.end(), std::pair(line, 0));
+         at != all.end() && at->first == line; ++at) {
+        const std::string_view name = content_->At(at->second).specName;
+        witnesses.push_back({Ground::Kind::Witness, at->second, std::string(name)});
+    }
+    return witnesses;
 }
 
 std::string StatementKey(std::string_view text) {

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -58,6 +59,15 @@ class CheckedProof {
     std::string Annotation(int line) const;
     // Of an accepted proof, in the order of the lines. Equal ones are told once.
     std::vector<Ground> RestsOn(int line) const;
+
+    // What RestsOn is made of, for those who walk from line to line themselves: the lines that a
+    // line was derived from,
+    std::vector<int> Sources(int line) const;
+    // what it is if it was not (a premise counts until the line of its Conclusion, 0 none),
+    std::optional<Ground> OwnGround(int line) const;
+    int DischargedIn(int line) const;
+    // and the choices that it speaks of.
+    std::vector<Ground> WitnessesOf(int line) const;
 
   private:
     friend CheckedProof CheckProof(std::string file);

@@ -6,6 +6,13 @@
 
 namespace tessaryn::check {
 
+std::array<int, 2> Sources(const std::vector<Record>& records, int line) {
+    const Record& record = records[static_cast<std::size_t>(line)];
+    if (record.rule == static_cast<int>(Rule::Conclusion)) return {line - 1, 0};
+    if (record.rule == static_cast<int>(Rule::Premise)) return {0, 0};
+    return {record.arg1, record.arg2};
+}
+
 std::vector<int> Ancestry(const std::vector<Record>& records, int line, int least) {
     std::vector<char> seen(static_cast<std::size_t>(line - least + 1), 0);
     std::vector<int> found;
@@ -16,14 +23,7 @@ std::vector<int> Ancestry(const std::vector<Record>& records, int line, int leas
     };
     reach(line);
     for (std::size_t i = 0; i < found.size(); ++i) {
-        const int at = found[i];
-        const Record& record = records[static_cast<std::size_t>(at)];
-        if (record.rule == static_cast<int>(Rule::Conclusion)) {
-            reach(at - 1);
-        } else if (record.rule != static_cast<int>(Rule::Premise)) {
-            reach(record.arg1);
-            reach(record.arg2);
-        }
+        for (const int source : Sources(records, found[i])) reach(source);
     }
     std::sort(found.begin(), found.end());
     return found;

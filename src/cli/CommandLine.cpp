@@ -12,6 +12,7 @@
 #include "cli/CheckFiles.h"
 #include "cli/ExpressionTables.h"
 #include "cli/Fits.h"
+#include "cli/FoldPage.h"
 #include "cli/FormState.h"
 #include "cli/Grade.h"
 #include "cli/HeadlessPlatform.h"
@@ -42,7 +43,7 @@ constexpr const char* Usage =
     "       tessaryn-cli parse\n"
     "       tessaryn-cli same\n"
     "       tessaryn-cli dump FILE.proof\n"
-    "       tessaryn-cli html IN.proof OUT.html\n"
+    "       tessaryn-cli html [--fold] IN.proof OUT.html\n"
     "       tessaryn-cli latex IN.proof OUT.tex\n"
     "       tessaryn-cli print IN.proof OUT.txt\n"
     "       tessaryn-cli fits FILE.proof [LINE]\n"
@@ -63,6 +64,7 @@ constexpr const char* Help =
     "same   reads pairs of expressions as JSON arrays, prints true or false\n"
     "dump   opens a proof and prints its state as JSON\n"
     "html   writes a proof as a page for a browser\n"
+    "         --fold          one that folds blocks, and tells what each line rests on\n"
     "latex  writes a proof as a LaTeX document\n"
     "print  writes a proof as it would be printed, a form feed between pages\n"
     "fits   prints the rules that fit the active lines of a proof, or one of them, and\n"
@@ -185,9 +187,12 @@ int ReportWriting(const std::string& file, const std::string& fault, const Strea
     return 1;
 }
 
-int HtmlCommand(const Words& words, const Streams& streams) {
+int HtmlCommand(const Words& arguments, const Streams& streams) {
+    Words words = arguments;
+    const bool folds = std::erase(words, "--fold") > 0;
     if (words.size() != 2) return ReportWrongUse(streams);
     if (!OpenProof(words[0], streams.err)) return 1;
+    if (folds) return ReportWriting(words[1], ReplaceFile(words[1], FoldPage()), streams);
     const std::string fault = SaveHTML(words[1]);
     for (const std::string& note : Headless.Notes) streams.err << words[0] << ": " << note << '\n';
     return ReportWriting(words[1], fault, streams);
