@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
+#include "cli/Ink.h"
 #include "cli/Library.h"
 #include "document/ProofFile.h"
 #include "platform/InputFile.h"
@@ -90,6 +91,11 @@ void PrintLines(const Report& report, std::ostream& out) {
     }
 }
 
+Ink InkOf(const Report& report, const std::string& circle) {
+    if (!circle.empty() || report.proof.verdict == check::Verdict::Refused) return Ink::Bad;
+    return report.proof.verdict == check::Verdict::Declined ? Ink::Doubtful : Ink::Good;
+}
+
 int Status(check::Verdict verdict) {
     switch (verdict) {
         case check::Verdict::Accepted:
@@ -133,7 +139,7 @@ int CheckFiles(const CheckRequest& request, std::ostream& out, std::ostream& err
     for (const std::string& file : request.files) {
         const auto proof = CheckFile(file);
         if (!proof) {
-            err << file << ": the file can't be read\n";
+            err << Ink::Bad << file << Ink::Plain << ": the file can't be read\n";
             status = Declined;
             continue;
         }
@@ -146,7 +152,8 @@ int CheckFiles(const CheckRequest& request, std::ostream& out, std::ostream& err
             out << AsJson(report, circle, request.allLines) << '\n';
             continue;
         }
-        out << file << ": " << InShort(report, circle) << '\n';
+        out << file << ": " << InkOf(report, circle) << InShort(report, circle) << Ink::Plain
+            << '\n';
         if (request.allLines && accepted && circle.empty()) PrintLines(report, out);
     }
     return refused ? Refused : status;

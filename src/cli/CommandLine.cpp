@@ -3,19 +3,24 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <climits>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <optional>
+#include <sstream>
 #include <thread>
 
 #include "cli/CheckFiles.h"
+#include "cli/CommandText.h"
 #include "cli/ExpressionTables.h"
 #include "cli/Fits.h"
 #include "cli/FoldPage.h"
 #include "cli/FormState.h"
 #include "cli/Grade.h"
 #include "cli/HeadlessPlatform.h"
+#include "cli/Ink.h"
+#include "cli/Nearest.h"
 #include "cli/ScriptRunner.h"
 #include "cli/StateDump.h"
 #include "document/ActiveLines.h"
@@ -34,90 +39,38 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-constexpr int WrongUse = 2;
+constexpr int StatusOfWrongUse = 2;
 constexpr int MostJobs = 256;  // at a time, of grade
 constexpr int MostSeconds = 86400;
 
-constexpr const char* Usage =
-    "usage: tessaryn-cli run [--settings DIR] [--hidden] [--check] [--no-files] FILE|-\n"
-    "       tessaryn-cli parse\n"
-    "       tessaryn-cli same\n"
-    "       tessaryn-cli dump FILE.proof\n"
-    "       tessaryn-cli html [--fold] IN.proof OUT.html\n"
-    "       tessaryn-cli latex IN.proof OUT.tex\n"
-    "       tessaryn-cli print IN.proof OUT.txt\n"
-    "       tessaryn-cli fits FILE.proof [LINE]\n"
-    "       tessaryn-cli check [--json] [--all] [--library DIR] [--jobs N] FILE.proof...\n"
-    "       tessaryn-cli check --rests-on DIR [--jobs N]\n"
-    "       tessaryn-cli grade [--csv | --json] [--jobs N] [--seconds N] SHEET SUBMISSION...\n"
-    "       tessaryn-cli grade --lint SHEET\n"
-    "       tessaryn-cli --version | --help\n";
-
-constexpr const char* Help =
-    "\n"
-    "run    runs a script of user actions, one a line\n"
-    "         --settings DIR  reads and writes the settings in DIR\n"
-    "         --hidden        hidden menu items can be chosen\n"
-    "         --check         checks the whole document after each action, each line of it too\n"
-    "         --no-files      an action that would open, save or print ends the run\n"
-    "parse  reads expressions as JSON strings, prints their tables, one a line\n"
-    "same   reads pairs of expressions as JSON arrays, prints true or false\n"
-    "dump   opens a proof and prints its state as JSON\n"
-    "html   writes a proof as a page for a browser\n"
-    "         --fold          one that folds blocks, and tells what each line rests on\n"
-    "latex  writes a proof as a LaTeX document\n"
-    "print  writes a proof as it would be printed, a form feed between pages\n"
-    "fits   prints the rules that fit the active lines of a proof, or one of them, and\n"
-    "         what they would write, as JSON, one a line\n"
-    "check  says whether each line of a proof follows, and what the last one rests on\n"
-    "         --json  as JSON, with all statements that are in force at the end\n"
-    "         --all   with all statements\n"
-    "         --library DIR   axioms that are proved in DIR count as theorems\n"
-    "         --rests-on DIR  tells of each theorem in DIR what it rests on\n"
-    "         --jobs N        reads DIR on N threads\n"
-    "grade  gives points for proofs and scripts (files, or all in a folder) by a sheet of\n"
-    "         exercises, and says why points are missing\n"
-    "         --csv, --json   for a spreadsheet, for a program\n"
-    "         --jobs N        judges N at a time\n"
-    "         --seconds N     gives each N seconds instead of 10\n"
-    "         --lint          says what is wrong with the sheet\n"
-    "\n"
-    "Exit status: 0 done; 1 refused, or an expectation failed, or grade could not judge all; 2\n"
-    "wrong use, a file that check can't read or judge, or a sheet that grade can't use.\n";
-
-int ReportWrongUse(const Streams& streams) {
-    streams.err << Usage;
-    return WrongUse;
-}
-
-struct RunRequest {
-    ScriptOptions options;
-    std::string file;  // "" if none is named
+// A command that has been told what to do.
+struct CommandCall {
+    const CommandWords& words;
+    const Streams& streams;
 };
 
-// Nothing if the words are no right use.
-std::optional<RunRequest> ReadRunRequest(const Words& words) {
-    RunRequest request;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        const std::string& word = words[i];
-        if (word == "--hidden") {
-            request.options.showHidden = true;
-        } else if (word == "--check") {
-            request.options.checkDocument = true;
-            request.options.checkLines = true;
-        } else if (word == "--no-files") {
-            request.options.noFiles = true;
-        } else if (word == "--settings" && i + 1 < words.size() && !words[i + 1].empty()) {
-            request.options.settingsDir = words[++i];
-        } else if (request.file.empty() && (word == "-" || !word.starts_with('-'))) {
-            request.file = word;
-        } else {
-            return std::nullopt;
-        }
+// Throws if there are not so many files.
+void RequireFiles(const CommandWords& words, std::size_t least, std::size_t most) {
+    if (words.files.size() < least) {
+        throw WrongUse{words.files.empty() ? "no file is named" : "a file is missing"};
     }
-    const bool contradicts = request.options.noFiles && !request.options.settingsDir.empty();
-    if (request.file.empty() || contradicts) return std::nullopt;
-    return request;
+    if (words.files.size() > most) {
+        throw WrongUse{"nothing may follow here: " + words.files[most]};
+    }
+    const bool unnamed = std::count(words.files.begin(), words.files.end(), "") > 0;
+    if (unnamed) throw WrongUse{"a name is empty"};
+}
+
+ScriptOptions RunOptions(const CommandWords& words) {
+    ScriptOptions options;
+    options.showHidden = words.Has("--hidden");
+    if (words.Has("--check")) options.checkDocument = options.checkLines = true;
+    options.noFiles = words.Has("--no-files");
+    options.settingsDir = words.ValueOf("--settings");
+    if (options.noFiles && !options.settingsDir.empty()) {
+        throw WrongUse{"--no-files leaves no settings to be read"};
+    }
+    return options;
 }
 
 constexpr std::size_t MaxScript = 1U << 26;  // what goes on for longer need not have an end
@@ -134,31 +87,31 @@ std::optional<std::string> ReadAll(std::istream& source) {
     return text;
 }
 
-std::optional<std::string> ReadScript(const std::string& file, std::istream& in) {
-    if (file == "-") return ReadAll(in);
+int RunCommand(const CommandCall& call) {
+    RequireFiles(call.words, 1, 1);
+    const std::string& file = call.words.files[0];
+    ScriptOptions options = RunOptions(call.words);
+    const auto& [words, streams] = call;
+    options.answersAtOnce = file == "-";
+    if (file == "-") return RunScript(streams.in, file, options, streams.out, streams.err);
     std::ifstream source(file, std::ios::binary);
-    return ReadAll(source);
-}
-
-int RunCommand(const Words& words, const Streams& streams) {
-    const auto request = ReadRunRequest(words);
-    if (!request) return ReportWrongUse(streams);
-    const auto script = ReadScript(request->file, streams.in);
-    if (!script) {
-        streams.err << request->file << ": the script can't be read\n";
+    const auto whole = ReadAll(source);
+    if (!whole) {
+        streams.err << Ink::Bad << file << Ink::Plain << ": the script can't be read\n";
         return 1;
     }
-    return RunScript(*script, request->file, request->options, streams.out, streams.err);
+    std::istringstream script(*whole);
+    return RunScript(script, file, options, streams.out, streams.err);
 }
 
-int ParseCommand(const Words& words, const Streams& streams) {
-    if (!words.empty()) return ReportWrongUse(streams);
-    return PrintParses(streams.in, streams.out, streams.err);
+int ParseCommand(const CommandCall& call) {
+    RequireFiles(call.words, 0, 0);
+    return PrintParses(call.streams.in, call.streams.out, call.streams.err);
 }
 
-int SameCommand(const Words& words, const Streams& streams) {
-    if (!words.empty()) return ReportWrongUse(streams);
-    return PrintComparisons(streams.in, streams.out, streams.err);
+int SameCommand(const CommandCall& call) {
+    RequireFiles(call.words, 0, 0);
+    return PrintComparisons(call.streams.in, call.streams.out, call.streams.err);
 }
 
 // Opens a proof as the window would. False: refused, with the reason on err.
@@ -166,55 +119,59 @@ bool OpenProof(const std::string& file, std::ostream& err) {
     StartHeadless();
     ReadProofFile(file);
     if (!OperationCancelled) return true;
-    err << file << ": " << BoxText(Proof.StatusLine);
+    err << Ink::Bad << file << Ink::Plain << ": " << BoxText(Proof.StatusLine);
     if (!Headless.Beeps.empty()) err << " (" << Headless.Beeps.back() << ')';
     err << '\n';
     return false;
 }
 
-int DumpCommand(const Words& words, const Streams& streams) {
-    if (words.size() != 1) return ReportWrongUse(streams);
-    if (!OpenProof(words[0], streams.err)) return 1;
+int DumpCommand(const CommandCall& call) {
+    RequireFiles(call.words, 1, 1);
+    if (!OpenProof(call.words.files[0], call.streams.err)) return 1;
     Proof.RTB.SelStart = 0;
-    WriteState(0, 0, streams.out);
+    WriteState(0, 0, call.streams.out);
     return 0;
 }
 
 // fault: as ReplaceFile has it. The exit status.
 int ReportWriting(const std::string& file, const std::string& fault, const Streams& streams) {
     if (fault.empty()) return 0;
-    streams.err << file << ": the file can't be written (" << fault << ")\n";
+    streams.err << Ink::Bad << file << Ink::Plain << ": the file can't be written (" << fault
+                << ")\n";
     return 1;
 }
 
-int HtmlCommand(const Words& arguments, const Streams& streams) {
-    Words words = arguments;
-    const bool folds = std::erase(words, "--fold") > 0;
-    if (words.size() != 2) return ReportWrongUse(streams);
-    if (!OpenProof(words[0], streams.err)) return 1;
-    if (folds) return ReportWriting(words[1], ReplaceFile(words[1], FoldPage()), streams);
-    const std::string fault = SaveHTML(words[1]);
-    for (const std::string& note : Headless.Notes) streams.err << words[0] << ": " << note << '\n';
-    return ReportWriting(words[1], fault, streams);
+// Opens the first of two files and writes the second.
+int Convert(const CommandCall& call, std::string (*write)(const std::string& path)) {
+    RequireFiles(call.words, 2, 2);
+    const std::string& from = call.words.files[0];
+    const std::string& to = call.words.files[1];
+    if (!OpenProof(from, call.streams.err)) return 1;
+    const std::string fault = write(to);
+    for (const std::string& note : Headless.Notes) call.streams.err << from << ": " << note << '\n';
+    return ReportWriting(to, fault, call.streams);
 }
 
-int LatexCommand(const Words& words, const Streams& streams) {
-    if (words.size() != 2) return ReportWrongUse(streams);
-    if (!OpenProof(words[0], streams.err)) return 1;
-    return ReportWriting(words[1], SaveLaTeX(words[1]), streams);
+int HtmlCommand(const CommandCall& call) {
+    return Convert(call, call.words.Has("--fold") ? SaveFoldPage : SaveHTML);
 }
 
-int PrintCommand(const Words& words, const Streams& streams) {
-    if (words.size() != 2) return ReportWrongUse(streams);
-    if (!OpenProof(words[0], streams.err)) return 1;
+int LatexCommand(const CommandCall& call) {
+    return Convert(call, SaveLaTeX);
+}
+
+int PrintCommand(const CommandCall& call) {
+    RequireFiles(call.words, 2, 2);
+    const auto& [words, streams] = call;
+    if (!OpenProof(words.files[0], streams.err)) return 1;
     if (ProofText.empty()) {
-        streams.err << words[0] << ": Print:  Nothing to print\n";
+        streams.err << words.files[0] << ": Print:  Nothing to print\n";
         return 1;
     }
     PrintStatements(1, StmtCount, [](PrintResult) {});
     std::string pages;
     for (const std::string& page : Headless.Pages) pages += (pages.empty() ? "" : "\f") + page;
-    return ReportWriting(words[1], ReplaceFile(words[1], pages + "\n"), streams);
+    return ReportWriting(words.files[1], ReplaceFile(words.files[1], pages + "\n"), streams);
 }
 
 // The number that the word is, 0 if it is none above 0.
@@ -224,16 +181,17 @@ int PositiveNumber(const std::string& word) {
     return error == std::errc() && *end == '\0' ? std::max(number, 0) : 0;
 }
 
-int FitsCommand(const Words& words, const Streams& streams) {
-    if (words.empty() || words.size() > 2) return ReportWrongUse(streams);
-    const int line = words.size() == 2 ? PositiveNumber(words[1]) : 0;
-    if (words.size() == 2 && line == 0) return ReportWrongUse(streams);
-    if (!OpenProof(words[0], streams.err)) return 1;
+int FitsCommand(const CommandCall& call) {
+    RequireFiles(call.words, 1, 2);
+    const std::vector<std::string>& files = call.words.files;
+    const int line = files.size() == 2 ? PositiveNumber(files[1]) : 0;
+    if (files.size() == 2 && line == 0) throw WrongUse{"there is no line " + files[1]};
+    if (!OpenProof(files[0], call.streams.err)) return 1;
     if (line > 0 && !IsActive(line, InsertionLimit())) {
-        streams.err << words[0] << ": line " << line << " is no active line\n";
+        call.streams.err << files[0] << ": line " << line << " is no active line\n";
         return 1;
     }
-    PrintFits(line, streams.out);
+    PrintFits(line, call.streams.out);
     return 0;
 }
 
@@ -241,122 +199,115 @@ int CountCores() {
     return static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
 }
 
-// Nothing if the words are no right use.
-std::optional<CheckRequest> ReadCheckRequest(const Words& words) {
+// The value of an option that takes a number up to some limit, or what holds without it.
+int NumberOf(const CommandWords& words, const char* option, int most, int otherwise) {
+    if (!words.Has(option)) return otherwise;
+    const int number = PositiveNumber(words.ValueOf(option));
+    if (number >= 1 && number <= most) return number;
+    throw WrongUse{std::string(option) + " takes a number from 1 to " + std::to_string(most) +
+                   ", not " + words.ValueOf(option)};
+}
+
+CheckRequest ReadCheckRequest(const CommandWords& words) {
     CheckRequest request;
-    request.jobs = CountCores();
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        const std::string& word = words[i];
-        const bool hasValue = i + 1 < words.size() && !words[i + 1].empty();
-        if (word == "--json") {
-            request.asJson = true;
-        } else if (word == "--all") {
-            request.allLines = true;
-        } else if ((word == "--library" || word == "--rests-on") && hasValue) {
-            request.theorems = word == "--rests-on";
-            request.library = words[++i];
-        } else if (word == "--jobs" && hasValue) {
-            request.jobs = PositiveNumber(words[++i]);
-        } else if (word.empty() || word.starts_with('-')) {
-            return std::nullopt;
-        } else {
-            request.files.push_back(word);
-        }
-    }
-    if (request.jobs < 1 || request.files.empty() != request.theorems) return std::nullopt;
+    request.asJson = words.Has("--json");
+    request.allLines = words.Has("--all");
+    request.theorems = words.Has("--rests-on");
+    request.library = words.ValueOf(request.theorems ? "--rests-on" : "--library");
+    request.jobs = NumberOf(words, "--jobs", INT_MAX, CountCores());
+    RequireFiles(words, request.theorems ? 0 : 1, request.theorems ? 0 : words.files.size());
+    request.files = words.files;
     return request;
 }
 
-int CheckCommand(const Words& words, const Streams& streams) {
-    const auto request = ReadCheckRequest(words);
-    if (!request) return ReportWrongUse(streams);
+int CheckCommand(const CommandCall& call) {
+    const auto& [words, streams] = call;
+    const CheckRequest request = ReadCheckRequest(words);
     std::error_code error;
-    if (!request->library.empty() && !std::filesystem::is_directory(request->library, error)) {
-        streams.err << request->library << ": there is no such directory\n";
-        return WrongUse;
+    if (!request.library.empty() && !std::filesystem::is_directory(request.library, error)) {
+        streams.err << request.library << ": there is no such directory\n";
+        return StatusOfWrongUse;
     }
-    return request->theorems ? ListTheorems(*request, streams.out, streams.err)
-                             : CheckFiles(*request, streams.out, streams.err);
+    return request.theorems ? ListTheorems(request, streams.out, streams.err)
+                            : CheckFiles(request, streams.out, streams.err);
 }
 
-// Nothing if the words are no right use.
-std::optional<GradeRequest> ReadGradeRequest(const Words& words) {
+GradeRequest ReadGradeRequest(const CommandWords& words) {
     GradeRequest request;
-    request.jobs = CountCores();
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        const std::string& word = words[i];
-        if (word == "--csv") {
-            request.form = GradeRequest::Form::Csv;
-        } else if (word == "--json") {
-            request.form = GradeRequest::Form::Json;
-        } else if (word == "--lint") {
-            request.lint = true;
-        } else if ((word == "--jobs" || word == "--seconds") && i + 1 < words.size()) {
-            (word == "--jobs" ? request.jobs : request.seconds) = PositiveNumber(words[++i]);
-        } else if (word.empty() || word.starts_with("--")) {
-            return std::nullopt;
-        } else if (request.sheet.empty()) {
-            request.sheet = word;
-        } else {
-            request.submissions.push_back(word);
-        }
+    for (const CommandWords::Option& option : words.options) {
+        if (option.name == "--csv") request.form = GradeRequest::Form::Csv;
+        if (option.name == "--json") request.form = GradeRequest::Form::Json;
     }
-    const bool limited = request.jobs >= 1 && request.jobs <= MostJobs && request.seconds >= 1 &&
-                         request.seconds <= MostSeconds;
-    if (!limited || request.sheet.empty() || request.lint != request.submissions.empty()) {
-        return std::nullopt;
-    }
+    request.lint = words.Has("--lint");
+    request.jobs = NumberOf(words, "--jobs", MostJobs, CountCores());
+    request.seconds = NumberOf(words, "--seconds", MostSeconds, request.seconds);
+    RequireFiles(words, request.lint ? 1 : 2, request.lint ? 1 : words.files.size());
+    request.sheet = words.files[0];
+    request.submissions.assign(words.files.begin() + 1, words.files.end());
     return request;
 }
 
-int GradeCommand(const Words& words, const Streams& streams) {
-    const auto request = ReadGradeRequest(words);
-    if (!request) return ReportWrongUse(streams);
-    return request->lint ? LintSheet(*request, streams.out, streams.err)
-                         : Grade(*request, streams.out, streams.err);
+int GradeCommand(const CommandCall& call) {
+    const GradeRequest request = ReadGradeRequest(call.words);
+    return request.lint ? LintSheet(request, call.streams.out, call.streams.err)
+                        : Grade(request, call.streams.out, call.streams.err);
 }
 
-int VersionCommand(const Words& words, const Streams& streams) {
-    if (!words.empty()) return ReportWrongUse(streams);
-    streams.out << "tessaryn-cli " TESSARYN_VERSION "\n";
-    return 0;
+using Command = int (*)(const CommandCall& call);
+
+// In the order of their texts.
+constexpr std::array<Command, 10> Commands = {RunCommand,   ParseCommand, SameCommand,  DumpCommand,
+                                              HtmlCommand,  LatexCommand, PrintCommand, FitsCommand,
+                                              CheckCommand, GradeCommand};
+
+int ReportWrongUse(const std::string& reason, const std::string& usage, const Streams& streams) {
+    streams.err << Ink::Bad << "tessaryn-cli: " << Ink::Plain << reason << '\n' << usage;
+    return StatusOfWrongUse;
 }
 
-int HelpCommand(const Words& words, const Streams& streams) {
-    if (!words.empty()) return ReportWrongUse(streams);
-    streams.out << Usage << Help;
-    return 0;
+int RunCommandOf(const CommandText& text, Command command, const Words& arguments,
+                 const Streams& streams) {
+    try {
+        const CommandWords words = SortWords(text, arguments);
+        if (!words.wantsHelp) return command({words, streams});
+        streams.out << HelpOf(text);
+        return 0;
+    } catch (const WrongUse& wrong) {
+        return ReportWrongUse(wrong.reason, UsageOf(text), streams);
+    }
 }
 
-struct CommandRow {
-    const char* name;
-    int (*run)(const Words& words, const Streams& streams);
-};
-
-constexpr std::array Commands = std::to_array<CommandRow>({
-    {"run", RunCommand},
-    {"parse", ParseCommand},
-    {"same", SameCommand},
-    {"dump", DumpCommand},
-    {"html", HtmlCommand},
-    {"latex", LatexCommand},
-    {"print", PrintCommand},
-    {"fits", FitsCommand},
-    {"check", CheckCommand},
-    {"grade", GradeCommand},
-    {"--version", VersionCommand},
-    {"--help", HelpCommand},
-});
+int ReportUnknown(const std::string& name, const Streams& streams) {
+    std::vector<std::string_view> names = {"help", "--help", "--version"};
+    for (const CommandText& text : CommandTexts()) names.emplace_back(text.name);
+    return ReportWrongUse("there is no command " + name + DidYouMean(name, names), UsageOfAll(),
+                          streams);
+}
 
 }  // namespace
 
 int RunCommandLine(const Words& arguments, const Streams& streams) {
-    if (arguments.empty()) return ReportWrongUse(streams);
-    for (const CommandRow& command : Commands) {
-        if (command.name != arguments[0]) continue;
-        return command.run(Words(arguments.begin() + 1, arguments.end()), streams);
+    if (arguments.empty()) return ReportWrongUse("no command is given", UsageOfAll(), streams);
+    Words words = arguments;
+    if (words[0] == "help" && words.size() > 1) {
+        words.erase(words.begin());
+        words.insert(words.begin() + 1, "--help");
     }
-    return ReportWrongUse(streams);
+    const bool isAlone = words[0] == "help" || words[0] == "--help" || words[0] == "--version";
+    if (isAlone && words.size() > 1) {
+        return ReportWrongUse("nothing may follow here: " + words[1], UsageOfAll(), streams);
+    }
+    if (isAlone) {
+        streams.out << (words[0] == "--version" ? "tessaryn-cli " TESSARYN_VERSION "\n"
+                                                : HelpOfAll());
+        return 0;
+    }
+    for (std::size_t i = 0; i < Commands.size(); ++i) {
+        const CommandText& text = CommandTexts()[i];
+        if (text.name != words[0]) continue;
+        return RunCommandOf(text, Commands[i], Words(words.begin() + 1, words.end()), streams);
+    }
+    return ReportUnknown(words[0], streams);
 }
 
 }  // namespace tessaryn

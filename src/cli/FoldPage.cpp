@@ -11,6 +11,7 @@
 #include "cli/Sha256.h"
 #include "document/Document.h"
 #include "document/ProofFile.h"
+#include "platform/Files.h"
 #include "text/Encoding.h"
 
 namespace tessaryn {
@@ -210,6 +211,10 @@ class Page {
 
 std::string FoldPage() {
     return Page().Take();
+}
+
+std::string SaveFoldPage(const std::string& path) {
+    return ReplaceFile(path, FoldPage());
 }
 
 }  // namespace tessaryn

@@ -9,4 +9,7 @@ namespace tessaryn {
 // The page of the open proof, folded as that is. Nothing that the proof holds is markup in it.
 std::string FoldPage();
 
+// Writes it to a file: "", or why it failed, as ReplaceFile has it.
+std::string SaveFoldPage(const std::string& path);
+
 }  // namespace tessaryn

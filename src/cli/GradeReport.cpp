@@ -6,6 +6,7 @@
 #include <sstream>
 #include <utility>
 
+#include "cli/Ink.h"
 #include "cli/OnOneLine.h"
 #include "text/Utf8.h"
 
@@ -40,6 +41,14 @@ std::string Padded(const std::string& text, int width, bool right) {
     return right ? blanks + text : text + blanks;
 }
 
+// Of a cell: all points, some, none. A heading has no stroke in it.
+Ink InkOf(const std::string& cell) {
+    const std::size_t stroke = cell.find('/');
+    if (stroke == cell.npos) return Ink::Plain;
+    const std::string points = cell.substr(0, stroke);
+    return points == cell.substr(stroke + 1) ? Ink::Good : points == "0" ? Ink::Bad : Ink::Doubtful;
+}
+
 // Names to the left, the rest to the right.
 void PrintAligned(const std::vector<std::vector<std::string>>& lines, std::ostream& out) {
     std::vector<int> widths;
@@ -51,7 +60,8 @@ void PrintAligned(const std::vector<std::vector<std::string>>& lines, std::ostre
     }
     for (const auto& line : lines) {
         for (std::size_t i = 0; i < line.size(); ++i) {
-            out << (i == 0 ? "" : "  ") << Padded(line[i], widths[i], i > 0);
+            const Ink ink = i == 0 ? Ink::Plain : InkOf(line[i]);
+            out << (i == 0 ? "" : "  ") << ink << Padded(line[i], widths[i], i > 0) << Ink::Plain;
         }
         out << '\n';
     }

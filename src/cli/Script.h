@@ -2,6 +2,7 @@
 // action says that it can't be done.
 #pragma once
 
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -19,12 +20,15 @@ struct ActionFailed {
 struct ScriptRun {
     explicit ScriptRun(std::ostream& output) : out(output) {}
 
+    std::istream* in = nullptr;  // where the lines come from
     std::ostream& out;
-    std::vector<std::string> lines;
-    std::size_t line = 0;        // number of the line last begun, 1-based; 0 ahead of the first
-    std::string typing;          // the text of a `type`
-    std::size_t typed = 0;       // bytes of it whose keys have been pressed
-    bool checkDocument = false;  // after each action
+    std::function<void()> acted;  // called behind each action
+    std::string text;             // the line last begun
+    bool again = false;           // its turn is still to come
+    std::size_t line = 0;         // number of the line last begun, 1-based; 0 ahead of the first
+    std::string typing;           // the text of a `type`
+    std::size_t typed = 0;        // bytes of it whose keys have been pressed
+    bool checkDocument = false;   // after each action
     bool checkLines = false;
     std::string checked;  // the bytes of the document that was checked last
     std::string failure;  // "" as long as all is well; then the run is over
@@ -77,6 +81,7 @@ Action FindAction(const Table& table, std::string_view name) {
 }
 
 Action FindScriptAction(std::string_view name);
+std::string NoAction(std::string_view name);  // that there is none of that name
 void Expect(ScriptRun& run, Arguments& arguments);
 
 // The control of that name in the form on top, or in the main window while the form on top leaves

@@ -8,6 +8,7 @@
 #include "cli/FormState.h"
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
+#include "cli/Nearest.h"
 #include "cli/Script.h"
 #include "cli/ScriptTargets.h"
 #include "cli/StateDump.h"
@@ -205,12 +206,20 @@ Action FindScriptAction(std::string_view name) {
     return FindAction(Actions, name);
 }
 
+std::string NoAction(std::string_view name) {
+    std::vector<std::string_view> names;
+    for (const ActionRow& row : Actions) names.emplace_back(row.name);
+    return "there is no action " + std::string(name) + DidYouMean(name, names);
+}
+
 Control& FindControl(const std::string& name) {
     Form& top = TopForm();
     Control* control = top.Find(name);
     if (control == nullptr && !ModalFormOpen()) control = Proof.Find(name);
-    if (control == nullptr) throw ActionFailed{top.Name + " has no " + name};
-    return *control;
+    if (control != nullptr) return *control;
+    std::vector<std::string_view> names;
+    for (const Control* one : top.Controls) names.emplace_back(one->Name);
+    throw ActionFailed{top.Name + " has no " + name + DidYouMean(name, names)};
 }
 
 }  // namespace tessaryn

@@ -1,11 +1,13 @@
 #include "cli/ScriptRunner.h"
 
 #include <exception>
-#include <ostream>
+#include <ios>
 #include <sstream>
+#include <utility>
 
 #include "check/Check.h"
 #include "cli/HeadlessPlatform.h"
+#include "cli/Ink.h"
 #include "cli/Keyboard.h"
 #include "cli/OnOneLine.h"
 #include "cli/Script.h"
@@ -17,14 +19,26 @@ namespace tessaryn {
 
 namespace {
 
-std::vector<std::string> SplitLines(const std::string& script) {
-    std::vector<std::string> lines;
-    std::istringstream stream(script.starts_with("\xEF\xBB\xBF") ? script.substr(3) : script);
-    for (std::string line; std::getline(stream, line);) {
-        if (line.ends_with('\r')) line.pop_back();
-        lines.push_back(line);
+constexpr std::size_t LongestLine = 1U << 26;  // what goes on for longer need not have an end
+
+// Reads the next line of the script into run.text. False at its end.
+bool ReadLine(ScriptRun& run) {
+    constexpr std::streambuf::int_type end = std::streambuf::traits_type::eof();
+    run.text.clear();
+    try {
+        std::streambuf& source = *run.in->rdbuf();
+        auto byte = source.sbumpc();
+        if (byte == end) return false;
+        for (; byte != end && byte != '\n'; byte = source.sbumpc()) {
+            if (run.text.size() == LongestLine) throw ActionFailed{"the line does not end"};
+            run.text += static_cast<char>(byte);
+        }
+    } catch (const std::ios_base::failure&) {
+        throw ActionFailed{"the script can't be read"};
     }
-    return lines;
+    if (run.text.ends_with('\r')) run.text.pop_back();
+    if (run.line++ == 0 && run.text.starts_with("\xEF\xBB\xBF")) run.text.erase(0, 3);
+    return true;
 }
 
 bool IsAction(const std::string& line) {
@@ -36,7 +50,7 @@ void DoLine(ScriptRun& run, const std::string& line) {
     Arguments arguments(line);
     const std::string name = arguments.Word();
     const Action action = FindScriptAction(name);
-    if (action == nullptr) throw ActionFailed{"there is no action " + name};
+    if (action == nullptr) throw ActionFailed{NoAction(name)};
     if (name != "expect") {
         run.beepsBefore = Headless.Beeps.size();
         run.messagesBefore = Headless.Messages.size();
@@ -68,14 +82,13 @@ bool DoNext(ScriptRun& run) {
         PressKey(TopForm(), TakeKey(run.typing, run.typed));
         return true;
     }
-    while (run.line < run.lines.size()) {
-        const std::string& line = run.lines[run.line++];
-        if (!IsAction(line)) continue;
-        if (ClosesStartForm(line)) {
-            --run.line;  // its turn comes when the form is gone
-            return true;
+    while (std::exchange(run.again, false) || ReadLine(run)) {
+        if (!IsAction(run.text)) continue;
+        if (ClosesStartForm(run.text)) {
+            run.again = true;  // its turn comes when the form is gone
+        } else {
+            DoLine(run, run.text);
         }
-        DoLine(run, line);
         return true;
     }
     return false;
@@ -103,6 +116,7 @@ bool Step(ScriptRun& run) {
     if (!DoNext(run)) return false;
     CheckState(run);
     CheckLines(run);
+    if (run.acted) run.acted();
     return true;
 }
 
@@ -126,10 +140,11 @@ std::string LastBeep() {
 
 }  // namespace
 
-ScriptFailure PlayScript(const std::string& script, const ScriptOptions& options,
-                         std::ostream& out) {
+ScriptFailure PlayScript(std::istream& script, const ScriptOptions& options, std::ostream& out,
+                         std::function<void()> acted) {
     ScriptRun run(out);
-    run.lines = SplitLines(script);
+    run.in = &script;
+    run.acted = std::move(acted);
     run.checkDocument = options.checkDocument;
     run.checkLines = options.checkLines;
     RunToEnd(run, options);
@@ -137,12 +152,27 @@ ScriptFailure PlayScript(const std::string& script, const ScriptOptions& options
     return {run.line, OnOneLine(run.failure + LastBeep())};
 }
 
-int RunScript(const std::string& script, const std::string& name, const ScriptOptions& options,
+ScriptFailure PlayScript(const std::string& script, const ScriptOptions& options,
+                         std::ostream& out) {
+    std::istringstream in(script);
+    return PlayScript(in, options, out, {});
+}
+
+int RunScript(std::istream& script, const std::string& name, const ScriptOptions& options,
               std::ostream& out, std::ostream& err) {
-    const ScriptFailure failure = PlayScript(script, options, out);
-    for (const std::string& note : Headless.Notes) err << name << ": " << OnOneLine(note) << '\n';
+    std::size_t told = 0;
+    const auto tellNotes = [&] {
+        for (; told < Headless.Notes.size(); ++told) {
+            err << name << ": " << OnOneLine(Headless.Notes[told]) << '\n';
+        }
+    };
+    const ScriptFailure failure = PlayScript(script, options, out, [&] {
+        tellNotes();
+        if (options.answersAtOnce) out.flush();
+    });
+    tellNotes();
     if (failure.reason.empty()) return 0;
-    err << name << ':' << failure.line << ": " << failure.reason << '\n';
+    err << Ink::Bad << name << ':' << failure.line << ": " << Ink::Plain << failure.reason << '\n';
     return 1;
 }
 
@@ -150,7 +180,8 @@ ScriptResult RunScript(const std::string& script, const std::string& name,
                        const ScriptOptions& options) {
     std::ostringstream out;
     std::ostringstream err;
-    const int status = RunScript(script, name, options, out, err);
+    std::istringstream in(script);
+    const int status = RunScript(in, name, options, out, err);
     return {status, out.str(), err.str()};
 }
 

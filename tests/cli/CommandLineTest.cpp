@@ -5,45 +5,88 @@
 
 #include <fstream>
 #include <nlohmann/json.hpp>
+#include <regex>
+#include <set>
 
 #include "Workbench.h"
+#include "cli/CommandText.h"
 #include "platform/Files.h"
 
 namespace tessaryn {
 namespace {
 
-TEST(CommandLine, WrongUseShowsTheUsage) {
-    const std::vector<std::vector<std::string>> rows = {
-        {},
-        {""},
-        {"--nonsense"},
-        {"run"},
-        {"run", "a", "b"},
-        {"run", "--fast", "a"},
-        {"run", "--settings", ""},
-        {"run", ""},
-        {"parse", "x"},
-        {"same", "x"},
-        {"dump"},
-        {"--help", "me"},
-        {"html", "a"},
-        {"print", "a", "b", "c"},
-        {"check", "--json"},
-        {"check", "--every", "a"},
-        {"run", "--no-files", "--settings", "d", "a"},
-        {"grade", "a"},
-        {"grade", "--lint", "a", "b"},
-        {"grade", "--jobs", "0", "a", "b"},
-        {"grade", "--seconds", "x", "a", "b"},
+TEST(CommandLine, WrongUseIsToldWithWhatWasMeant) {
+    struct Row {
+        std::vector<std::string> words;
+        std::string reason;
     };
-    for (const auto& row : rows) {
-        const Outcome outcome = Call(row);
-        EXPECT_EQ(outcome.status, 2) << (row.empty() ? "" : row[0]);
+    const std::vector<Row> rows = {
+        {{}, "no command is given"},
+        {{""}, "there is no command "},
+        {{"--nonsense"}, "there is no command --nonsense"},
+        {{"--hlep"}, "there is no command --hlep; did you mean --help?"},
+        {{"chekc", "a"}, "there is no command chekc; did you mean check?"},
+        {{"help", "gade"}, "there is no command gade; did you mean grade?"},
+        {{"--help", "me"}, "nothing may follow here: me"},
+        {{"run"}, "no file is named"},
+        {{"run", "a", "b"}, "nothing may follow here: b"},
+        {{"run", "--fast", "a"}, "there is no option --fast"},
+        {{"run", "-check", "a"}, "there is no option -check; did you mean --check?"},
+        {{"run", "--settings", ""}, "--settings needs a value, DIR"},
+        {{"run", ""}, "a name is empty"},
+        {{"run", "--no-files", "--settings", "d", "a"}, "--no-files leaves no settings to be read"},
+        {{"parse", "x"}, "nothing may follow here: x"},
+        {{"html", "a"}, "a file is missing"},
+        {{"html", "--Flod", "a", "b"}, "there is no option --Flod; did you mean --fold?"},
+        {{"print", "a", "b", "c"}, "nothing may follow here: c"},
+        {{"fits", "a", "0"}, "there is no line 0"},
+        {{"check", "--json"}, "no file is named"},
+        {{"check", "--rests-on", "d", "a"}, "nothing may follow here: a"},
+        {{"grade", "--lint", "a", "b"}, "nothing may follow here: b"},
+        {{"grade", "--jobs", "0", "a", "b"}, "--jobs takes a number from 1 to 256, not 0"},
+        {{"grade", "a", "b", "--seconds"}, "--seconds needs a value, N"},
+    };
+    for (const auto& [words, reason] : rows) {
+        const Outcome outcome = Call(words);
+        EXPECT_EQ(outcome.status, 2) << reason;
         EXPECT_EQ(outcome.output, "");
-        EXPECT_TRUE(outcome.error.starts_with("usage: tessaryn-cli run")) << outcome.error;
+        EXPECT_TRUE(outcome.error.starts_with("tessaryn-cli: " + reason + "\nusage: tessaryn-cli "))
+            << outcome.error;
     }
+    EXPECT_EQ(Call({"dump", "--", "--help"}).error.substr(0, 7), "--help:");  // is a file there
+    EXPECT_EQ(Call({"run", "-"}, "chose optJoin").error,
+              "-:1: there is no action chose; did you mean choose?\n");
+    EXPECT_EQ(Call({"run", "-"}, "choose optjion").error,
+              "-:1: Proof has no optjion; did you mean optJoin?\n");
+}
+
+// The words that begin with a prefix.
+std::set<std::string> WordsIn(const std::string& text, const std::string& pattern) {
+    const std::regex words(pattern);
+    std::set<std::string> found;
+    for (std::sregex_iterator at(text.begin(), text.end(), words), end; at != end; ++at) {
+        found.insert((*at)[1]);
+    }
+    return found;
+}
+
+TEST(CommandLine, HelpAndManualPageNameTheSameCommandsAndOptions) {
     EXPECT_EQ(Call({"--version"}).output, "tessaryn-cli 2.0\n");
-    EXPECT_EQ(Call({"--help"}).status, 0);
+    const std::string page =
+        std::regex_replace(*ReadWholeFile(TESSARYN_SOURCE_DIR "/packaging/man/tessaryn-cli.1.in"),
+                           std::regex("\\\\-"), "-");
+    const std::string help = Call({"help"}).output;
+    EXPECT_EQ(help, Call({"--help"}).output);
+    EXPECT_EQ(WordsIn(page, "(--[a-z][a-z-]+)"), WordsIn(help, "(--[a-z][a-z-]+)"));
+    EXPECT_EQ(WordsIn(page, "\n\\.TP\n\\.BI? ([a-z]+)"), WordsIn(help, "tessaryn-cli ([a-z]+)"));
+    for (const CommandText& command : CommandTexts()) {
+        const std::string one = Call({command.name, "--help"}).output;
+        EXPECT_EQ(one, Call({"help", command.name}).output);
+        EXPECT_NE(one.find("\nExample:\n  "), one.npos);
+        std::set<std::string> options;
+        for (const OptionText& option : command.options) options.insert(option.name);
+        EXPECT_EQ(WordsIn(UsageOf(command), "(--[a-z][a-z-]+)"), options) << command.name;
+    }
 }
 
 TEST(CommandLine, RunTakesAFileOrStandardInput) {

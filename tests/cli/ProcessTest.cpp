@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "Workbench.h"
+#include "cli/CommandText.h"
 
 namespace tessaryn {
 namespace {
@@ -99,6 +100,41 @@ TEST_F(ProcessTest, EndsWithAStatusOfItsOwn) {
     };
     for (const auto& [command, status] : rows) {
         EXPECT_EQ(Shell(command), status) << command << "\n" << Errors();
+    }
+}
+
+TEST_F(ProcessTest, ExamplesOfTheHelpWorkAsPrinted) {
+    for (const CommandText& command : CommandTexts()) {
+        const std::string whole = "tessaryn-cli() { cli \"$@\"; }; " + std::string(command.example);
+        EXPECT_EQ(Shell(whole + " >output"), 0) << command.name << "\n" << Errors();
+    }
+    EXPECT_EQ(Shell("grep -q '^first.proof  *1/1' output || ! cat output >&2"), 0) << Errors();
+}
+
+// A program that waits for each answer before it goes on.
+TEST_F(ProcessTest, RunAnswersEachLineAsItComes) {
+    const std::string driver =
+        "coproc { cli run -; echo status $?; };"
+        "ask() { echo \"$1\" >&${COPROC[1]}; read -t 60 answer <&${COPROC[0]}; };"
+        "ask 'echo \"one\"' && [ \"$answer\" = one ] &&"
+        "ask dump && [[ $answer == *'\"statements\":[]'* ]] &&"
+        "echo 'choose optPremise' >&${COPROC[1]} && ask dump && [[ $answer == *TestParser* ]] &&"
+        "ask 'expect count 5' && [ \"$answer\" = 'status 1' ]";
+    EXPECT_EQ(Shell(driver), 0) << Errors();
+    EXPECT_NE(Errors().find("-:5: the number of lines is 0, expected 5"), std::string::npos);
+}
+
+TEST_F(ProcessTest, ColoursAreForTerminals) {
+    const std::string terminal =
+        "script -qec \"'" TESSARYN_CLI "' check small.proof gone\" /dev/null";
+    const std::pair<std::string, bool> rows[] = {
+        {"TERM=xterm " + terminal, true},
+        {"TERM=dumb " + terminal, false},
+        {"NO_COLOR=1 TERM=xterm " + terminal, false},
+        {"TERM=xterm cli check small.proof gone 2>&1", false},
+    };
+    for (const auto& [command, coloured] : rows) {
+        EXPECT_EQ(Shell(command + " | grep -q $'\\e'"), coloured ? 0 : 1) << command;
     }
 }
 
