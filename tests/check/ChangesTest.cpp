@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <iostream>
 #include <utility>
 
 #include "check/Check.h"
@@ -112,8 +111,6 @@ TEST(CheckedChanges, WhatIsAcceptedHolds) {
     }
     EXPECT_GT(accepted, ChangeCount() / 100) << "some changes are harmless";
     EXPECT_LT(accepted, ChangeCount() / 2);
-    RecordProperty("accepted", accepted);
-    std::cout << accepted << " of " << ChangeCount() << " changes accepted\n";
 }
 
 }  // namespace

@@ -35,24 +35,14 @@ class Library : public OwnDirectory {
 };
 
 TEST_F(Library, TheoremsCountByWhatTheySay) {
-    Write(
-        "sub/one.proof",
-        {"Pw Union: ALL(a):ALL(b):[Set(a) & Set(b) => EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ a "
-         "| d @ b]]]",
-         "Axiom: Q(k)",
-         "Arb Ante 1: Q(k) => ALL(a):ALL(b):[Set(a) & Set(b) => EXIST(c):[Set(c) & "
-         "ALL(d):[d @ c <=> d @ a | d @ b]]]",
-         "Detach 3 2: ALL(x):ALL(y):[Set(x) & Set(y) => "
-         "EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ x | d @ y]]]",
-         "Join 4 2: ALL(x):ALL(y):[Set(x) "
-         "& Set(y) => EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ x | d @ y]]] & Q(k)",
-         "Split 5: ALL(x):ALL(y):[Set(x) & Set(y) => EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ x | "
-         "d @ y]]]"});
-    Write(
-        "two.proof",
-        {"Axiom: ALL(p):ALL(q):[Set(p) & Set(q) => EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ p | d "
-         "@ q]]]",
-         "Axiom: S", "Arb Or 2: S | T"});
+    const auto unions = [](const std::string& one, const std::string& other) {
+        return "ALL(" + one + "):ALL(" + other + "):[Set(" + one + ") & Set(" + other +
+               ") => EXIST(c):[Set(c) & ALL(d):[d @ c <=> d @ " + one + " | d @ " + other + "]]]";
+    };
+    Write("sub/one.proof",
+          {"Pw Union: " + unions("a", "b"), "Axiom: Q(k)",
+           "Arb Ante 1: Q(k) => " + unions("a", "b"), "Detach 3 2: " + unions("x", "y")});
+    Write("two.proof", {"Axiom: " + unions("p", "q"), "Axiom: S", "Arb Or 2: S | T"});
     Write("three.proof", {"Axiom: S | T", "Join 1 1: [S | T] & [S | T]"});
     Write("four.proof", {"Axiom: [S | T] & [S | T]", "Arb Or 1: [S | T] & [S | T] | S"});
     Write("premise.proof", {"Premise: R", "Copy 1: R"});
@@ -60,16 +50,18 @@ TEST_F(Library, TheoremsCountByWhatTheySay) {
     Write("assumes.proof", {"Axiom: R", "Copy 1: R"});
     Write("user.proof", {"Axiom: R", "Axiom: W(w)", "Axiom: S | T", "Join 1 2: R & W(w)",
                          "Join 4 3: R & W(w) & [S | T]"});
-    EXPECT_EQ(Check({"--rests-on", directory.string()}),
-              "0\n"
-              "four.proof: [S | T] & [S | T] | S: rests on theorem three.proof, theorem two.proof, "
-              "axiom S\n"
-              "sub/one.proof: ALL(x):ALL(y):[Set(x) & Set(y) => EXIST(c):[Set(c) & ALL(d):[d @ c "
-              "<=> d @ x | d @ y]]]: rests on Pw Union, axiom Q(k) in line 2\n"
-              "three.proof: [S | T] & [S | T]: rests on theorem two.proof, axiom S\n"
-              "two.proof: S | T: rests on axiom S in line 2\n"
-              "user.proof: R & W(w) & [S | T]: rests on axiom R in line 1, axiom W(w) in line 2, "
-              "theorem two.proof, axiom S\n");
+    EXPECT_EQ(
+        Check({"--rests-on", directory.string()}),
+        "0\n"
+        "four.proof: [S | T] & [S | T] | S: rests on theorem three.proof, theorem two.proof, "
+        "axiom S\n"
+        "sub/one.proof: " +
+            unions("x", "y") +
+            ": rests on Pw Union, axiom Q(k) in line 2\n"
+            "three.proof: [S | T] & [S | T]: rests on theorem two.proof, axiom S\n"
+            "two.proof: S | T: rests on axiom S in line 2\n"
+            "user.proof: R & W(w) & [S | T]: rests on axiom R in line 1, axiom W(w) in line 2, "
+            "theorem two.proof, axiom S\n");
     EXPECT_EQ(Check({"--library", directory.string(), "--jobs", "3", Path("user.proof")}),
               "0\nuser.proof: rests on axiom R in line 1, axiom W(w) in line 2, theorem two.proof, "
               "axiom S\n");

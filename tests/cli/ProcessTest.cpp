@@ -4,9 +4,8 @@
 #include <sys/wait.h>
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 
+#include "OwnDirectory.h"
 #include "Workbench.h"
 #include "cli/CommandText.h"
 
@@ -21,30 +20,22 @@ constexpr bool MemoryCanBeLimited = false;  // the sanitizer needs far more than
 constexpr bool MemoryCanBeLimited = true;
 #endif
 
-class ProcessTest : public testing::Test {
+class ProcessTest : public OwnDirectory {
   protected:
     void SetUp() override {
-        directory = fs::path(testing::TempDir()) / ("process-" + std::to_string(::getpid()));
-        fs::create_directories(directory);
         ASSERT_EQ(Build(EnterPremise("P & Q") + "save " + Quoted(Path("small.proof")) + "\n"), "");
         // An introduction of 5 million bytes.
-        Write("large.proof", std::string("Tessaryn 1\0\0\0\0\xFF\xFF\x44\x4B\x4C\0", 20) +
-                                 std::string(5000000, 'x') + "\r\n\r\n");
-        Write("empty-head", std::string("Tessaryn 1\1\0", 12));
-        Write("long-caption", std::string("Tessaryn 1\1\0\xFF\xFF\xF0\xFF\xFF\xFF", 18));
-        Write("long-name", std::string("Tessaryn 1\1\0\0\0\1\0\0\0\0\0\xFF\xFF\0\0\0\x7F", 26));
-        Write("no-proof", "");
+        WriteFile("large.proof", std::string("Tessaryn 1\0\0\0\0\xFF\xFF\x44\x4B\x4C\0", 20) +
+                                     std::string(5000000, 'x') + "\r\n\r\n");
+        WriteFile("empty-head", std::string("Tessaryn 1\1\0", 12));
+        WriteFile("long-caption", std::string("Tessaryn 1\1\0\xFF\xFF\xF0\xFF\xFF\xFF", 18));
+        WriteFile("long-name", std::string("Tessaryn 1\1\0\0\0\1\0\0\0\0\0\xFF\xFF\0\0\0\x7F", 26));
+        WriteFile("no-proof", "");
         fs::copy_file(Path("small.proof"), Path("padded.proof"));
         for (const char* name :
              {"empty-head", "long-caption", "long-name", "no-proof", "padded.proof"}) {
             fs::resize_file(Path(name), 20ULL << 30);  // sparse
         }
-    }
-    void TearDown() override { fs::remove_all(directory); }
-
-    std::string Path(const std::string& name) const { return (directory / name).string(); }
-    void Write(const std::string& name, const std::string& content) const {
-        std::ofstream(Path(name), std::ios::binary) << content;
     }
     // The exit status of a shell command in the test's directory, in which "cli" is the program;
     // that of a signal is above 128.
@@ -58,8 +49,6 @@ class ProcessTest : public testing::Test {
         std::ifstream file(Path("errors"));
         return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     }
-
-    fs::path directory;
 
   private:
     static std::string Escaped(const std::string& text) {
@@ -150,10 +139,10 @@ TEST_F(ProcessTest, LargeFilesAreRefusedInLittleMemory) {
 // Wherever the memory runs out: the one proof is open or the other, name and title with it.
 TEST_F(ProcessTest, ShortMemoryLeavesTheOpenProof) {
     if (!MemoryCanBeLimited) GTEST_SKIP();
-    Write("script",
-          "open \"small.proof\"\nopen \"large.proof\"\n"
-          "expect title \" Tessaryn 2.0  -  small.proof\"\nexpect count 1\nexpect beep\n"
-          "expect status \"Open: Unable to open proof file\"\n");
+    WriteFile("script",
+              "open \"small.proof\"\nopen \"large.proof\"\n"
+              "expect title \" Tessaryn 2.0  -  small.proof\"\nexpect count 1\nexpect beep\n"
+              "expect status \"Open: Unable to open proof file\"\n");
     int refused = 0;
     for (int limit = 10000; limit <= 30000; limit += 1000) {
         const int status = Shell("ulimit -v " + std::to_string(limit) + " && cli run script");

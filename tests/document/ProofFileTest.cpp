@@ -112,9 +112,7 @@ TEST_F(ProofFileTest, LongTextGetsALongLength) {
     const std::string bytes = WriteProof();
     const std::string length("\xFF\xFF\x85\x11\x01\x00", 6);  // 70,021
     EXPECT_NE(bytes.find(length + "ccc"), std::string::npos);
-    const std::optional<Document> read = ReadProof(bytes);
-    ASSERT_TRUE(read);
-    EXPECT_EQ(read->ProofText, ProofText.View());
+    EXPECT_EQ(ReadProof(bytes)->ProofText, ProofText.View());
 }
 
 TEST_F(ProofFileTest, OneByteTextIsConvertedWithItsIndexes) {
@@ -225,20 +223,15 @@ TEST_F(ProofFileTest, UnlexableTextIsShownUnformatted) {
     EXPECT_NE(Proof.RTB.GetText().find("R & S"), std::string::npos) << "the rest is drawn";
     EXPECT_TRUE(Proof.Enabled);
     EXPECT_FALSE(Headless.Beeps.empty());
-}
-
-TEST_F(ProofFileTest, FailureToSaveLosesNothing) {
-    ASSERT_EQ(Do("+ P"), "");
-    ProofFileName = Path("gone/a.proof");
-    Proof.Caption = "as before";
-    SendChoose(Proof.optSave);
-    ASSERT_EQ(Headless.Messages.size(), 1u);
-    EXPECT_EQ(Headless.Messages[0].title, "WARNING");
-    EXPECT_EQ(Headless.Messages[0].text, "Unable to save file");
-    EXPECT_EQ(Headless.Beeps.back(), "There is no directory \"" + Path("gone") + "\".");
-    EXPECT_TRUE(ProofChanged && OperationCancelled);
-    EXPECT_EQ(Proof.Caption, "as before");
-    EXPECT_EQ(Proof.MousePointer, Pointer::Default);
+    for (MenuItem* rule : {&Proof.optJoin, &Proof.optSplit, &Proof.optDetachment, &Proof.optRename,
+                           &Proof.optReorder, &Proof.optSpec}) {
+        SendChoose(*rule);
+        SetPrompt("");
+        SendClick(Proof.RTB, 2);
+        EXPECT_EQ(Proof.StatusLine.GetText(), "PARSER ERROR: 18. Illegal character $")
+            << rule->Name;
+        EXPECT_EQ(StmtCount, 2) << rule->Name;
+    }
 }
 
 TEST_F(ProofFileTest, WhatAnotherProgramWroteIsNotSavedOverUnasked) {

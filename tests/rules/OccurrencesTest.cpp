@@ -1,77 +1,15 @@
-// The fast search for occurrences against one that asks Same about each candidate, and the box in
-// which occurrences are replaced.
+// The search for occurrences of a term, and the box in which they are replaced.
 #include "expr/Occurrences.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "cli/HeadlessPlatform.h"
 #include "expr/Parse.h"
-#include "expr/RandomText.h"
-#include "expr/Same.h"
 #include "rules/OccurrenceBox.h"
 #include "view/Display.h"
 
 namespace tessaryn {
 namespace {
-
-// --- the search, step by step over the tokens
-
-struct Candidate {
-    Span span;
-    int last;  // its last written token
-    bool bracketed;
-};
-
-Candidate CandidateOf(const Expression& in, int open, int close) {
-    while (TokenAt(in, open).Position == 0) ++open;
-    while (TokenAt(in, close).Position == 0) --close;
-    Span span = WrittenSpan(in, open, close);
-    const std::string& first = TokenAt(in, open).Token;
-    const bool bracketed = (first == "(" || first == "[") && TokenAt(in, open).TPtr == close;
-    if (bracketed) span = {span.start + 1, span.end - 1};
-    return {span, close, bracketed};
-}
-
-bool IsOccurrence(const Expression& term, const Expression& in, Span span) {
-    return Same(Cut(in.text, span), term.text);
-}
-
-std::vector<Span> SlowAllOccurrences(const Expression& term, const Expression& in, Search search) {
-    std::vector<Span> spans;
-    int i = static_cast<int>(in.tokens.size()) - 1;
-    while (i > 0) {
-        const int open = TokenAt(in, i).TPtr;
-        const int node = TokenAt(in, i).DPtr;
-        if (open == 0 || open > i || NodeAt(in, node).Rule != Root(term).Rule) {
-            --i;
-            continue;
-        }
-        const Candidate candidate = CandidateOf(in, open, i);
-        const bool found = IsOccurrence(term, in, candidate.span);
-        const bool inside = !spans.empty() && candidate.span.end >= spans.back().start;
-        if (found && !inside) spans.push_back(candidate.span);
-        if (search == Search::AheadOfLastToken) {
-            i = candidate.last - (candidate.bracketed ? 2 : 1);
-        } else {
-            i = found ? open - 1 : i - 1;
-        }
-    }
-    std::reverse(spans.begin(), spans.end());
-    return spans;
-}
-
-std::optional<Span> SlowOccurrenceAt(const Expression& term, const Expression& in, int place) {
-    for (int i = 1; i < static_cast<int>(in.tokens.size()); ++i) {
-        const int close = TokenAt(in, i).TPtr;
-        if (close <= i) continue;
-        const Span span = CandidateOf(in, i, close).span;
-        if (place < span.start || place > span.end) continue;
-        if (IsOccurrence(term, in, span)) return span;
-    }
-    return std::nullopt;
-}
 
 std::string Shown(const std::vector<Span>& spans) {
     std::string shown;
@@ -79,44 +17,6 @@ std::string Shown(const std::vector<Span>& spans) {
         shown += std::to_string(span.start) + "-" + std::to_string(span.end) + " ";
     }
     return shown;
-}
-
-std::string Shown(const std::optional<Span>& span) {
-    return span ? Shown(std::vector<Span>{*span}) : "";
-}
-
-// A term of the formula, or one that differs from it by a sign.
-Expression SomeTermOf(const Expression& formula, Random& random) {
-    for (int attempt = 0; attempt < 20; ++attempt) {
-        const int node = 1 + static_cast<int>(random() % (formula.nodes.size() - 1));
-        if (!IsAlgebraic(NodeAt(formula, node).Rule)) continue;
-        std::string text = TextOfNode(formula, node);
-        if (random() % 4 == 0) std::replace(text.begin(), text.end(), '+', '*');
-        Expression term = ParseExpression(text);
-        if (term.error.empty()) return term;
-    }
-    return ParseExpression("x");
-}
-
-TEST(Occurrences, AreThoseThatSameFinds) {
-    Random random(20261122);
-    int found = 0;
-    for (int round = 0; round < 1500; ++round) {
-        const Expression formula = ParseExpression(RandomFormula(random, 5));
-        if (!formula.error.empty()) continue;
-        const Expression term = SomeTermOf(formula, random);
-        const std::string context = term.text + " in " + formula.text;
-        for (const Search search : {Search::OutermostOnly, Search::AheadOfLastToken}) {
-            const auto spans = AllOccurrences(term.nodes, formula, search);
-            found += static_cast<int>(spans.size());
-            ASSERT_EQ(Shown(spans), Shown(SlowAllOccurrences(term, formula, search))) << context;
-        }
-        const int place = 1 + static_cast<int>(random() % formula.text.size());
-        ASSERT_EQ(Shown(OccurrenceAt(term.nodes, formula, place)),
-                  Shown(SlowOccurrenceAt(term, formula, place)))
-            << context << " at " << place;
-    }
-    EXPECT_GT(found, 1000);
 }
 
 TEST(Occurrences, OfOneKindOfNodeDifferByHowTheSearchGoesOn) {

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "Steps.h"
 #include "mainwindow/Proof.h"
 #include "output/WrittenProof.h"
@@ -91,47 +89,6 @@ TEST(Display, HandsOnTheChangedRange) {
     EXPECT_LE(change.start + change.inserted, StmtTable[3].ViewerStartLine - 1);
     ResetFonts();
     EXPECT_FALSE(Proof.RTB.TakeChange().any);
-}
-
-TEST(Display, FollowsEveryFieldThatDecidesAFormat) {
-    const std::function<void()> changes[] = {
-        [] { EditAt(2).Highlight = false; },
-        [] { EditAt(2).FreeVars = ""; },
-        [] { EditAt(2).FixedVars = " x "; },
-        [] { EditAt(2).SpareVars = " x "; },
-        [] { StmtFontSize = 14; },
-        [] { EditAt(4).Rule = Rule::Premise; },
-        [] { EditAt(2).EndUserComment += 2; },
-    };
-    for (const auto& change : changes) {
-        ASSERT_EQ(Do("+ P ; + x=x ; click 2 ; set CommentBox \"why\" ; choose Continue ; + Q ;"
-                     " Conclusion"),
-                  "");
-        Proof.RTB.Runs();
-        change();
-        ResetFonts();
-        EXPECT_EQ(CheckDisplay(), "") << &change - changes;
-    }
-}
-
-TEST(Display, NamesInUseOutsideTheInnermostPremiseAreFixed) {
-    ASSERT_EQ(Do("+ P(x) ; + Q(y) ; Conclusion ; choose Continue ; + R(x,y,z)"), "");
-    EXPECT_EQ(StmtTable[4].FreeVars, " x y z ");
-    EXPECT_EQ(StmtTable[4].FixedVars, " x ") << "y occurs only inside a closed block";
-    EditAt(1).Flagged = true;  // as a file may have it
-    EXPECT_EQ(FixedNames(" x y z ", 4), " x ");
-}
-
-TEST(SurfaceText, ElementSignsGoToAndFro) {
-    StartHeadless();
-    RichTextBox& surface = WorkArea.RTB;
-    surface.SetText("the @ e\t@");
-    ConvertAmpersand(surface, 1, surface.TextLength());
-    EXPECT_EQ(surface.GetText(), "the e e\te");
-    EXPECT_EQ(ConvertEpsilon(surface), "the @ e\t@") << "a letter e stays one";
-    ReformatWA(Black);
-    EXPECT_EQ(surface.GetText(), "the e ee");
-    EXPECT_EQ(ConvertEpsilon(surface), "the @ e@");
 }
 
 }  // namespace
