@@ -211,30 +211,26 @@ TEST(EditBox, SelectionIsTheSameOnBothSides) {
 
 TEST(FormWindow, KeyboardAcceptsAndCancels) {
     EntryForm form;
-    EXPECT_EQ(form.Run([](QWidget& window) {
-        auto& entry = Find<QLineEdit>(window, "name");
-        entry.setFocus();
-        Type(entry, QStringLiteral("\u00E9x"));
-        QTest::keyClick(&entry, Qt::Key_Return);
-    }),
-              "accepted \xC3\xA9x");
-    EXPECT_EQ(form.Run([](QWidget& window) {
-        QTest::keyClick(&Find<QTextEdit>(window, "box"), Qt::Key_Escape);
-    }),
-              "cancelled");
-    EXPECT_EQ(form.Run([](QWidget& window) {
-        QTest::keyClick(&Find<QPushButton>(window, "cancel"), Qt::Key_Return);
-    }),
-              "cancelled");
-    form.tick.Value = false;
-    EXPECT_EQ(form.Run([](QWidget& window) {
-        auto& tick = Find<QCheckBox>(window, "tick");
-        tick.setFocus();
-        QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
-        QApplication::sendEvent(&tick, &held);
-        QTest::keyClick(&tick, Qt::Key_Return);
-    }),
-              "accepted \xC3\xA9x");
+    const struct {
+        const char* focus;
+        Qt::Key key;
+        const char* end;
+    } rows[] = {{"name", Qt::Key_Return, "accepted \xC3\xA9x"},
+                {"box", Qt::Key_Escape, "cancelled"},
+                {"cancel", Qt::Key_Return, "cancelled"},
+                {"tick", Qt::Key_Return, "accepted \xC3\xA9x"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(form.Run([&](QWidget& window) {
+            auto& widget = Find<QWidget>(window, row.focus);
+            widget.setFocus();
+            if (form.name.Text.empty()) Type(widget, QStringLiteral("\u00E9x"));
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
+            QApplication::sendEvent(&widget, &held);
+            QTest::keyClick(&widget, row.key);
+        }),
+                  row.end)
+            << row.focus;
+    }
     EXPECT_FALSE(form.tick.Value);
     EXPECT_EQ(form.Run([](QWidget& window) { window.close(); }), "closed");
 }

@@ -168,14 +168,6 @@ TEST_F(ProofFileTest, DamageIsRefused) {
              ProofText.Replace(0, 0, "abc");
              StmtTable.EditEach([](Statement& stmt) { ShiftIndexes(stmt, 3); });
          }},
-        {"gap between blocks", [] { EditAt(2).StartLine += 1; }},
-        {"text behind the last block", [] { ProofText += "\r\n"; }},
-        {"last block cut short", [] { EditAt(6).EndRule -= 1; }},
-        {"comment ahead of its block", [] { EditAt(3).EndUserComment = 1; }},
-        {"comment over the number", [] { EditAt(5).EndUserComment += 1; }},
-        {"text ahead of the number", [] { EditAt(3).StartStmt = StmtTable[3].StartLine; }},
-        {"empty text", [] { EditAt(3).EndStmt = StmtTable[3].StartStmt - 1; }},
-        {"annotation ahead of the text", [] { EditAt(3).StartRule = StmtTable[3].StartStmt; }},
         {"empty annotation", [] { EditAt(3).EndRule = StmtTable[3].StartRule - 1; }},
         {"behind the end", [] { EditAt(6).EndRule += 1; }},
         {"huge index", [] { EditAt(6).EndRule = 0x7FFFFFFF; }},

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "ParseLaws.h"
-#include "expr/NameList.h"
 
 namespace tessaryn {
 
@@ -88,24 +87,6 @@ TEST(Same, Pairs) {
         const bool alike = !form.empty() && form == NamelessForm(row.b);
         EXPECT_EQ(alike, row.same) << row.a << " / " << row.b;
     }
-}
-
-TEST(FreeVars, InOrderOfAppearance) {
-    const std::pair<const char*, const char*> rows[] = {
-        {"f(x)=2", " f x 2 "}, {"P & Q", ""}, {"ALL(x):[x@s & P(s,a)]", " s a "}};
-    for (const auto& [text, names] : rows) EXPECT_EQ(FreeVarsOf(ParseExpression(text)), names);
-}
-
-TEST(NameList, HoldsWholeNames) {
-    std::string list;
-    EXPECT_FALSE(HoldsName(list, "a"));
-    for (const char* name : {"ab", "b", "c"}) AppendName(list, name);
-    EXPECT_EQ(list, " ab b c ");
-    const NameSet set(list);
-    for (const char* name : {"ab", "b", "c"}) EXPECT_TRUE(HoldsName(list, name) && set.Holds(name));
-    for (const char* name : {"a", ""}) EXPECT_FALSE(HoldsName(list, name) || set.Holds(name));
-    EXPECT_FALSE(NameSet("a").Holds("a"));
-    EXPECT_EQ(NamesOf(list), (std::vector<std::string>{"ab", "b", "c"}));
 }
 
 }  // namespace tessaryn
