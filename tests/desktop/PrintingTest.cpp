@@ -72,7 +72,7 @@ TEST(Printing, PutsAllPagesIntoAPdf) {
     const QByteArray pdf = ContentOf(file);
     EXPECT_TRUE(pdf.contains(TitleEntry(QStringLiteral("S\u00E4tze"))));
 
-    EXPECT_NEAR(pdf.count("/Type /Page\n"), 11, 2);
+    EXPECT_NEAR(static_cast<int>(pdf.count("/Type /Page\n")), 11, 2);
 
     // The proof's name is suggested; a new proof begins in the default directory.
     ASSERT_TRUE(QDir(directory.path()).mkdir(QStringLiteral("begin")));
