@@ -196,7 +196,8 @@ struct Watch {
         const int rule = StmtCount > 0 ? StmtTable.back().Rule : 0;
         EXPECT_TRUE(SendChoose(Proof.optUndo)) << where;
         EXPECT_EQ(ProofText.View(), text) << where << ": Undo does not take it back";
-        ++written[rule];
+        ++written;
+        ++lastLines[rule];
         return true;
     }
 
@@ -208,7 +209,8 @@ struct Watch {
     int mode = 0;
     bool first = false;
     int forms = 0;
-    std::map<int, int> written;  // by rule of the last line
+    int written = 0;
+    std::map<int, int> lastLines;  // by rule
 };
 
 void Choose(Watch& watch, MenuItem& item) {
@@ -266,7 +268,7 @@ TEST_P(EveryClick, WritesOrTellsWhyNot) {
             TryItem(watch, *item, places);
             ASSERT_FALSE(HasFailure()) << "with " << item->Name;
         }
-        EXPECT_GT(watch.written.size(), accept ? 5U : 1U);
+        EXPECT_GT(watch.written, accept ? 100 : 5);
     }
 }
 
@@ -292,7 +294,7 @@ TEST(EveryFormula, BecomesNothingThatDoesNotFollow) {
     for (const int rule :
          {Rule::ImplyAnd, Rule::ImplyOr, Rule::Contra, Rule::DeMorgan, Rule::IffAnd, Rule::RemDNeg,
           Rule::Quant, Rule::Sym, Rule::EGen, Rule::Substitute}) {
-        EXPECT_GE(watch.written[rule], 10) << RuleName(rule);
+        EXPECT_GE(watch.lastLines[rule], 10) << RuleName(rule);
     }
 }
 
