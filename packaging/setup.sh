@@ -11,6 +11,7 @@ package_packages=(dpkg-dev)
 check_packages=(clang clang-format clang-tidy libclang-rt-14-dev)
 # With these the tests look at what others make of the documents; without them they skip that.
 document_packages=(texlive-latex-base chromium)
+picture_packages=(xvfb xauth openbox xdotool imagemagick)
 wasm_packages=(emscripten nodejs)
 
 # install_missing PACKAGE...: leaves at once when all are there.

@@ -46,6 +46,23 @@ QColor LinkColour(const QPalette& palette) {
     return dark ? QColor(0x8A, 0xB8, 0xFF) : QColor(0x00, 0x3C, 0xB4);
 }
 
+// A page, its pictures no wider than itself.
+class PageView : public QTextBrowser {
+  public:
+    // A bar that came and went would change the width that the pictures have.
+    PageView() { setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); }
+    void Fit() {
+        const auto margin = static_cast<int>(document()->documentMargin());
+        FitPictures(*document(), viewport()->width() - 2 * margin);
+    }
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override {
+        Fit();
+        QTextBrowser::resizeEvent(event);
+    }
+};
+
 class HelpWindow : public QWidget {
   public:
     explicit HelpWindow(const QString& directory) {
@@ -205,6 +222,7 @@ class HelpWindow : public QWidget {
 
     void Show(int page, int scroll) {
         text_.setDocument(&TextOf(manual_, page));
+        text_.Fit();
         text_.document()->size();  // lays out the whole, so that all of it can be scrolled to
         text_.verticalScrollBar()->setValue(scroll);
         back_->setEnabled(here_ > 0);
@@ -412,7 +430,7 @@ class HelpWindow : public QWidget {
     QLabel count_;
     QSplitter parts_;
     QTreeWidget list_;
-    QTextBrowser text_;
+    PageView text_;
 };
 
 QPointer<HelpWindow>& Window() {

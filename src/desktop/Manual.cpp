@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
 #include <QRegularExpression>
 #include <QStringList>
 #include <QTextBlock>
@@ -141,6 +142,27 @@ QTextDocument& TextOf(Manual& manual, int page) {
     SetOffHeadings(*shown.text);
     PaintLinks(*shown.text, manual.linkColour);
     return *shown.text;
+}
+
+void FitPictures(QTextDocument& text, int width) {
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        if (block.begin().atEnd()) continue;
+        const QTextFragment first = block.begin().fragment();  // a picture is a block of its own
+        QTextImageFormat picture = first.charFormat().toImageFormat();
+        if (!picture.isValid()) continue;
+        const QUrl place = text.baseUrl().resolved(QUrl(picture.name()));
+        QImage image(place.toLocalFile());
+        if (image.width() > width) image = image.scaledToWidth(width, Qt::SmoothTransformation);
+        if (image.width() == picture.width()) continue;
+        text.addResource(QTextDocument::ImageResource, place, image);
+        picture.setWidth(image.width());
+        picture.setHeight(image.height());
+        QTextCursor cursor(&text);
+        cursor.setPosition(first.position());
+        cursor.setPosition(first.position() + first.length(), QTextCursor::KeepAnchor);
+        cursor.setCharFormat(picture);
+        text.markContentsDirty(0, text.characterCount());  // tables below it, too
+    }
 }
 
 ManualPlace TargetOf(Manual& manual, int page, const QUrl& link) {

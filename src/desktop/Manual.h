@@ -37,6 +37,9 @@ std::vector<ManualPage> ReadPages(const QString& directory);
 // The text of a page, made when it is first asked for.
 QTextDocument& TextOf(Manual& manual, int page);
 
+// Gives the pictures of a text their size, or that width where they have more.
+void FitPictures(QTextDocument& text, int width);
+
 // Where a link on a page leads. Its page is -1 if the manual has no such page; start is -1 if the
 // page has no such heading.
 ManualPlace TargetOf(Manual& manual, int page, const QUrl& link);
