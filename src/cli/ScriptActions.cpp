@@ -208,6 +208,7 @@ Action FindScriptAction(std::string_view name) {
 
 std::string NoAction(std::string_view name) {
     std::vector<std::string_view> names;
+    names.reserve(Actions.size());
     for (const ActionRow& row : Actions) names.emplace_back(row.name);
     return "there is no action " + std::string(name) + DidYouMean(name, names);
 }
