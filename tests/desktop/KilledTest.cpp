@@ -15,6 +15,7 @@
 #include <iostream>
 #include <vector>
 
+#include "../Wanted.h"
 #include "RandomUser.h"
 #include "check/Check.h"
 #include "desktop/Desktop.h"

@@ -17,6 +17,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "../Wanted.h"
 #include "AllForms.h"
 #include "RandomUser.h"
 #include "UserHands.h"

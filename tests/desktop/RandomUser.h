@@ -5,7 +5,6 @@
 #include <QPoint>
 #include <QString>
 #include <QTimer>
-#include <cstdlib>
 #include <fstream>
 #include <random>
 #include <set>
@@ -16,12 +15,6 @@
 class QWidget;
 
 namespace tessaryn {
-
-// A number from the environment.
-inline int Wanted(const char* variable, int otherwise) {
-    const char* wanted = std::getenv(variable);
-    return wanted == nullptr ? otherwise : std::atoi(wanted);
-}
 
 // The program as main() starts it, with the user's directories below `home`.
 void StartAtHome(const QString& home);

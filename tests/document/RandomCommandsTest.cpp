@@ -1,9 +1,9 @@
 // Long random walks through the commands: whatever the user does, records, text and display agree.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <utility>
 
+#include "Wanted.h"
 #include "check/Check.h"
 #include "cli/HeadlessPlatform.h"
 #include "document/Document.h"
@@ -113,9 +113,7 @@ class OtherLaws {
 };
 
 TEST(RandomCommands, KeepTheDocumentInStep) {
-    // TESSARYN_WALKS=5000 makes a long run of it.
-    const char* wanted = std::getenv("TESSARYN_WALKS");
-    const int walks = wanted == nullptr ? 44 : std::atoi(wanted);
+    const int walks = Wanted("TESSARYN_WALKS", 44);
     int written = 0;
     for (int seed = 1; seed <= walks; ++seed) {
         StartHeadless();

@@ -7,7 +7,6 @@
 #include "cli/HeadlessPlatform.h"
 #include "cli/Keyboard.h"
 #include "entry/TestParser.h"
-#include "mainwindow/Proof.h"
 #include "platform/Events.h"
 #include "view/Display.h"
 
@@ -65,28 +64,6 @@ TEST(EntryBox, WhatIsPutInTakesThePlaceOfTheSelection) {
         SelectInBox(1, 2);
         putIn();
         EXPECT_EQ(Content(), content);
-    }
-}
-
-TEST(EntryBox, CopiesAndPastesInBothModes) {
-    for (const bool rich : {true, false}) {
-        OpenBox("a@b|");
-        Proof.optRichTextMode.Checked = rich;
-        SelectInBox(0, 3);
-        SendChoose(TestParser.Tools.Cut);
-        EXPECT_EQ(ClipboardContent().plain, "a@b");
-        EXPECT_EQ(ClipboardContent().rtf.empty(), !rich);
-        SendChoose(TestParser.Tools.Paste);
-        SelectInBox(4, 0);
-        SendChoose(TestParser.Tools.Paste);
-        EXPECT_EQ(Content(), "a@b|a@b") << rich;
-        EXPECT_EQ(TestParser.RTB.SelStart, 7);
-        SendChoose(TestParser.Tools.Undo);
-        EXPECT_EQ(Content(), "a@b|");
-        SendChoose(TestParser.Tools.Redo);
-        EXPECT_EQ(Content(), "a@b|a@b");
-        EXPECT_EQ(TestParser.RTB.SelStart, 7);
-        EXPECT_FALSE(TestParser.Tools.Redo.Enabled);
     }
 }
 

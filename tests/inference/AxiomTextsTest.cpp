@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "Steps.h"
-#include "cli/HeadlessPlatform.h"
 #include "cli/Script.h"
 #include "entry/EnteredNumber.h"
 #include "expr/Parse.h"
@@ -32,14 +31,6 @@ TEST(EnteredNumber, TakesTheLongestNumberAtTheHead) {
     for (const auto& [text, number] : rows) EXPECT_EQ(EnteredNumber(text), number) << text;
     for (const char* text : {"32768", "32767.5", "-32769", "99999999999999999999", "1e999"}) {
         EXPECT_EQ(EnteredNumber(text), std::nullopt) << text;
-    }
-}
-
-TEST(EnteredNumber, RefusalsTellWhatToEnter) {
-    for (const char* entry : {"40000", "100", "x"}) {
-        EXPECT_EQ(Do(std::string("PowerSet ; < ") + entry), "");
-        ASSERT_FALSE(Headless.Beeps.empty()) << entry;
-        EXPECT_EQ(Headless.Beeps.back(), "Enter a whole number from 1 to 99.") << entry;
     }
 }
 
