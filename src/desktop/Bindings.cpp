@@ -16,6 +16,9 @@
 #include "desktop/ProofDisplay.h"
 #include "desktop/ShownText.h"
 #include "desktop/SmallBoxes.h"
+#include "menu/MainWindow.h"
+#include "view/InsertMode.h"
+#include "view/NameStatus.h"
 
 namespace tessaryn {
 
@@ -124,9 +127,13 @@ Binding BindTextBox(TextBox& box, QWidget* parent) {
             NamedByLabel(box, *widget, [widget] { widget->Sync(); })};
 }
 
+void ZoomByUser(bool larger) {
+    Dispatch([larger] { Zoom(larger); });
+}
+
 Binding BindSurface(RichTextBox& box, QWidget* parent, WindowKind kind) {
     if (kind == WindowKind::Main && box.MultiLine) {
-        auto* widget = new ProofDisplay(box, parent);
+        auto* widget = new ProofDisplay(box, parent, {ZoomByUser, InsertMarkPlace, NameStatusAt});
         widget->setAccessibleName(QStringLiteral("Proof"));
         return {&box, widget, {}, [widget] { widget->Sync(); }};
     }

@@ -11,9 +11,11 @@
 #include <map>
 #include <string>
 
+#include "desktop/FileDrop.h"
 #include "desktop/FormWindow.h"
 #include "desktop/HelpViewer.h"
 #include "desktop/InputWatch.h"
+#include "desktop/WindowPlace.h"
 
 namespace tessaryn {
 
@@ -111,7 +113,9 @@ void ShowMainWindow(Form& form) {
     // Where no window manager does it, maximising alone would leave the window small.
     shown.setGeometry(shown.screen()->availableGeometry());
     shown.setWindowState(Qt::WindowMaximized);
+    TakeDroppedProofs(shown);
     State().main->Show(false);
+    KeepPlaceOf(shown);
     QTimer::singleShot(0, &shown, [&form] { Dispatch([&form] { form.Activated(); }); });
 }
 

@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QToolTip>
 
 #include "desktop/Desktop.h"
 #include "desktop/Messages.h"
@@ -51,7 +52,9 @@ class Watch : public QObject {
     static void Take(const QWidget* widget, const QKeyEvent& key) {
         if (key.key() != Qt::Key_Escape) {
             Run = {};
-        } else if (NoteStands() || (widget != nullptr && IsBesideTheProof(*widget))) {
+        } else if (NoteStands() || QToolTip::isVisible() ||
+                   (widget != nullptr && IsBesideTheProof(*widget))) {
+            QToolTip::hideText();
             EscHasClosedSomething();
         }
     }

@@ -8,6 +8,7 @@
 #include <QPropertyAnimation>
 #include <QScreen>
 #include <QTimer>
+#include <QToolTip>
 #include <algorithm>
 #include <utility>
 
@@ -57,6 +58,7 @@ class Note : public QLabel {
 
     void Tell(const QString& reason, const QWidget* box) {
         fade_.stop();
+        QToolTip::hideText();  // it would stand at the same place
         setWindowOpacity(1.0);
         setFont(TellingFont());
         setText(reason);

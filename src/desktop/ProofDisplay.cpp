@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 #include "desktop/AccessibleProof.h"
 #include "desktop/Sheet.h"
@@ -16,19 +17,19 @@ namespace tessaryn {
 
 namespace {
 
-constexpr int Margin = 6;         // pixels around the text
+const QColor MarkColour(0, 90, 200);
+
 constexpr int CaretWidth = 2;     // pixels
 constexpr int LayoutsKept = 500;  // more than any screen shows
 
-// To pixels; what lies further off than any text should reach is as far as that.
-int Round(double value) {
+}  // namespace
+
+int ProofDisplay::Round(double value) {
     return static_cast<int>(std::lround(std::clamp(value, -1e9, 1e9)));
 }
 
-}  // namespace
-
-ProofDisplay::ProofDisplay(RichTextBox& box, QWidget* parent)
-    : QAbstractScrollArea(parent), box_(box) {
+ProofDisplay::ProofDisplay(RichTextBox& box, QWidget* parent, DisplayExtras extras)
+    : QAbstractScrollArea(parent), box_(box), extras_(std::move(extras)) {
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setCursor(Qt::IBeamCursor);
     viewport()->setBackgroundRole(QPalette::Base);
@@ -54,6 +55,8 @@ void ProofDisplay::Sync() {
         caret_ = end;
         goalX_ = -1;
     }
+    const int mark = extras_.markPlace ? extras_.markPlace() : -1;
+    if (std::exchange(mark_, mark) != mark) viewport()->update();
     for (const int place : box_.TakePlacesToShow()) EnsureVisible(place);
     if (moved && dragging_) {
         // A selection that has come to take in a line's end still shows that line.
@@ -173,6 +176,7 @@ void ProofDisplay::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     const int last = LineAtY(event->rect().bottom());
     for (int line = LineAtY(event->rect().top()); line <= last; ++line) PaintLine(painter, line);
+    PaintMark(painter);
     if (caretShown_ && hasFocus()) painter.fillRect(CaretRect(caret_), palette().text());
 }
 
@@ -205,6 +209,28 @@ void ProofDisplay::PaintLine(QPainter& painter, int number) {
     if (width - viewport()->width() > bar->maximum()) {
         bar->setMaximum(width - viewport()->width());
     }
+}
+
+// In the empty line above, where there is one.
+QRect ProofDisplay::MarkRect() const {
+    if (mark_ < 0) return {};
+    const int line = index_.LineAt(std::min(mark_, box_.TextLength()));
+    const int middle = line > 0 ? LineTop(line) - lineHeight_ / 2 : LineTop(0) - Margin / 2;
+    const int thickness = std::max(2, lineHeight_ / 8);
+    return {0, middle - thickness / 2, viewport()->width(), thickness};
+}
+
+void ProofDisplay::PaintMark(QPainter& painter) const {
+    const QRect mark = MarkRect();
+    if (mark.isEmpty()) return;
+    painter.fillRect(mark, MarkColour);
+    const double reach = lineHeight_ / 3.0;
+    const QPointF middle = QRectF(mark).center();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(MarkColour);
+    painter.drawPolygon(
+        QPolygonF{{0, middle.y() - reach}, {1.5 * reach, middle.y()}, {0, middle.y() + reach}});
 }
 
 void ProofDisplay::RestartCaret() {

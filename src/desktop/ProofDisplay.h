@@ -6,18 +6,28 @@
 
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
+#include <functional>
 #include <map>
+#include <optional>
 
 #include "desktop/LineIndex.h"
 #include "desktop/LineLayout.h"
 #include "desktop/ProofNews.h"
 #include "platform/RichTextBox.h"
+#include "view/NameStatus.h"
 
 namespace tessaryn {
 
+// What the display of the proof does beside showing its surface. What is empty is not done.
+struct DisplayExtras {
+    std::function<void(bool larger)> zoom;  // Ctrl with a step of the wheel
+    std::function<int()> markPlace;  // start of the line ahead of which a mark stands; -1: none
+    std::function<std::optional<NameStatus>(int place)> nameAt;  // told where the pointer rests
+};
+
 class ProofDisplay : public QAbstractScrollArea {
   public:
-    explicit ProofDisplay(RichTextBox& box, QWidget* parent = nullptr);
+    explicit ProofDisplay(RichTextBox& box, QWidget* parent = nullptr, DisplayExtras extras = {});
 
     // Brings over what has changed in the surface.
     void Sync();
@@ -41,9 +51,12 @@ class ProofDisplay : public QAbstractScrollArea {
     RichTextBox& Box() const { return box_; }
     const LineIndex& Lines() const { return index_; }
     int LinesLaidOut() const { return linesLaidOut_; }  // since the start
+    // Where the mark stands in the viewport; empty while there is none.
+    QRect MarkRect() const;
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
   protected:
+    bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -51,6 +64,7 @@ class ProofDisplay : public QAbstractScrollArea {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -60,6 +74,11 @@ class ProofDisplay : public QAbstractScrollArea {
   private:
     enum class Unit { Character, Word };
 
+    static constexpr int Margin = 6;  // pixels around the text
+
+    // To pixels; what lies further off than any text should reach is as far as that.
+    static int Round(double value);
+
     // ProofDisplay.cpp: content, layout, painting
     void MeasureFont();
     void UpdateScrollBars();
@@ -68,7 +87,11 @@ class ProofDisplay : public QAbstractScrollArea {
     int LineAtY(int y) const;
     int PositionAt(const QPoint& place, QTextLine::CursorPosition kind);
     void PaintLine(QPainter& painter, int number);
+    void PaintMark(QPainter& painter) const;
     void RestartCaret();
+
+    // ProofDisplayHints.cpp: what is told where the pointer rests
+    void ShowHint(const QPoint& place);
 
     // ProofDisplayInput.cpp: caret and selection
     void MoveCaret(int position, bool extend);
@@ -78,10 +101,13 @@ class ProofDisplay : public QAbstractScrollArea {
     bool MoveByKey(const QKeyEvent& event);
     bool MoveSideways(int key, Unit unit, bool extend);
     void DragTo(const QPoint& place);
+    void ZoomAt(const QPointF& place, bool larger);
     void LeaveBlockEnd();
     void DoubleClickAtCaret();
 
     RichTextBox& box_;
+    DisplayExtras extras_;
+    int mark_ = -1;  // 0-based in the surface
     LineIndex index_;
     std::map<int, LineLayout> lines_;  // laid out, by number; dropped from a change on
     int linesLaidOut_ = 0;
@@ -105,6 +131,7 @@ class ProofDisplay : public QAbstractScrollArea {
     QPoint pressPlace_;
     int pressBoundary_ = 0;
     int formsAtPress_ = 0;
+    int wheelTurn_ = 0;  // with Ctrl, towards the next step; in the toolkit's units
 };
 
 }  // namespace tessaryn

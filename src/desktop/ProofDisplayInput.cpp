@@ -4,7 +4,9 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTimerEvent>
+#include <QWheelEvent>
 #include <algorithm>
+#include <cstdlib>
 
 #include "desktop/Clipboard.h"
 #include "desktop/Desktop.h"
@@ -18,6 +20,7 @@ namespace {
 constexpr int DragDistance = 4;      // pixels that the pointer may shake during a click
 constexpr int AutoScrollPause = 40;  // milliseconds
 constexpr int SettlePause = 100;     // milliseconds
+constexpr int WheelStep = 120;       // what one step of a wheel is in the toolkit's units
 
 }  // namespace
 
@@ -221,6 +224,31 @@ void ProofDisplay::mouseDoubleClickEvent(QMouseEvent* event) {
     Dispatch([this] {
         if (box_.DblClick) box_.DblClick();
     });
+}
+
+void ProofDisplay::wheelEvent(QWheelEvent* event) {
+    const bool zooms = (event->modifiers() & Qt::ControlModifier) != 0 && extras_.zoom;
+    if (!zooms) return QAbstractScrollArea::wheelEvent(event);
+    event->accept();
+    if (pressed_) return;
+    const int turn = event->angleDelta().y();
+    if ((turn > 0) != (wheelTurn_ > 0)) wheelTurn_ = 0;
+    wheelTurn_ += turn;
+    for (; std::abs(wheelTurn_) >= WheelStep; wheelTurn_ -= wheelTurn_ > 0 ? WheelStep : -WheelStep)
+        ZoomAt(event->position(), wheelTurn_ > 0);
+}
+
+// What lies under the pointer stays there, and the line starts stay in sight.
+void ProofDisplay::ZoomAt(const QPointF& place, bool larger) {
+    QScrollBar* vertical = verticalScrollBar();
+    QScrollBar* horizontal = horizontalScrollBar();
+    const double lines = (place.y() + vertical->value() - Margin) / lineHeight_;
+    const double columns = (place.x() + horizontal->value() - Margin) / style_.columnWidth;
+    const bool fromTheLeft = horizontal->value() == 0;
+    extras_.zoom(larger);
+    vertical->setValue(Round(lines * lineHeight_ + Margin - place.y()));
+    const double left = columns * style_.columnWidth + Margin - place.x();
+    horizontal->setValue(fromTheLeft ? 0 : Round(left));
 }
 
 // The right button's menu comes with its release; the menu key's comes here.

@@ -18,12 +18,14 @@
 #include "desktop/Messages.h"
 #include "desktop/PaintedText.h"
 #include "desktop/Picture.h"
+#include "desktop/WindowPlace.h"
 #include "mainwindow/ProgramState.h"
 #include "mainwindow/Proof.h"
 #include "menu/MainWindow.h"
 #include "menu/StartProgram.h"
 #include "output/Recovery.h"
 #include "output/Settings.h"
+#include "platform/Files.h"
 
 namespace {
 
@@ -120,6 +122,8 @@ int main(int argc, char* argv[]) {
     StartProgram();
     AppPath = FindAppPath(QApplication::applicationDirPath().toStdString());
     RecoveryDir = FindRecoveryDir();
+    WindowPlaceFile = UserDirectory("XDG_STATE_HOME", "/.local/state");
+    if (!WindowPlaceFile.empty()) WindowPlaceFile += "/tessaryn/window";
     const auto show = [&firstPaint] {
         ShowMainWindow(Proof);
         if (std::getenv("TESSARYN_MEASURE_START") == nullptr) return;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <vector>
 
 #include "document/Document.h"
@@ -13,6 +14,7 @@
 #include "mainwindow/Proof.h"
 #include "menu/Fits.h"
 #include "view/Display.h"
+#include "view/NameStatus.h"
 
 namespace tessaryn {
 namespace {
@@ -161,10 +163,12 @@ bool CaretIsAtStatement() {
 }
 
 std::string NoteAtCaret() {
+    const std::optional<NameStatus> name = NameStatusAt(Proof.RTB.SelStart);
     int line = 0;
     int token = 0;
     SelectToken(line, token);
-    return line > 0 ? RulesThatTake(line, InHand, token) : WhyNoActiveStmt();
+    return (line > 0 ? RulesThatTake(line, InHand, token) : WhyNoActiveStmt()) +
+           (name ? " " + name->words : "");
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // The events of the main window.
 #include "menu/MainWindow.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "document/Document.h"
@@ -16,6 +18,7 @@
 #include "output/Settings.h"
 #include "output/StartUp.h"
 #include "output/Tips.h"
+#include "platform/Events.h"
 #include "view/InsertMode.h"
 #include "view/Undo.h"
 
@@ -38,6 +41,29 @@ void EscInMainWindow(const KeyEvent& key) {
     } else if (!key.spent) {
         ExitCommand();
     }
+}
+
+// Keys that desktop programs share, beside those that the menus show.
+struct SharedKey {
+    const char* text;
+    MenuItem ProofForm::*item;
+};
+constexpr SharedKey SharedKeys[] = {
+    {"N", &ProofForm::optNew},   {"O", &ProofForm::optOpen}, {"S", &ProofForm::optSave},
+    {"P", &ProofForm::optPrint}, {"Q", &ProofForm::optExit},
+};
+
+bool PressSharedKey(const KeyEvent& key) {
+    if (key.key != Key::Char || !key.ctrl) return false;
+    const bool larger = key.text == "+" || key.text == "=";  // one key, with and without Shift
+    if (larger || key.text == "-") {
+        Zoom(larger);
+        return true;
+    }
+    const auto* shared =
+        std::find_if(std::begin(SharedKeys), std::end(SharedKeys),
+                     [&](const SharedKey& other) { return other.text == key.text; });
+    return shared != std::end(SharedKeys) && !key.shift && SendChoose(Proof.*shared->item);
 }
 
 void OpenNamedProof() {
@@ -94,10 +120,18 @@ void FillMainWindow() {
     Proof.WhenActivated = [] { RunHandler(Activate); };
     Proof.WhenClosed = [] { RunHandler(ExitCommand); };
     Proof.WhenKeyPressed = [](const KeyEvent& key) {
-        if (key.key != Key::Esc) return false;
+        if (key.key != Key::Esc) return PressSharedKey(key);
         RunHandler([&key] { EscInMainWindow(key); });
         return true;
     };
+}
+
+void Zoom(bool larger) {
+    RunHandler([larger] { StepTextSize(larger); });
+}
+
+void OpenFromElsewhere(const std::string& path) {
+    RunHandler([&path] { OpenProof(path); }, OpenFailed);
 }
 
 void LoadMainWindow(const std::string& commandLine, const EventHandler& then) {

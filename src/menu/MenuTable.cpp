@@ -54,8 +54,6 @@ void Instruction() {}
 
 using P = ProofForm;
 
-constexpr const char* OpenFailed = "Open: Unable to open proof file";
-
 const MenuRow MenuRows[] = {
     {0, &P::mnuFile, "mnuFile", "&File"},
     {1, &P::optNew, "optNew", "&New", "", NewCommand},

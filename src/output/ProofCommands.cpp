@@ -159,7 +159,7 @@ void ReadProofFile(const std::string& entered) {
     }
     OperationCancelled = true;
     Beep("\"" + fileName + "\"" + reason);
-    SetPrompt("Open: Unable to open proof file");
+    SetPrompt(OpenFailed);
 }
 
 namespace {
@@ -225,6 +225,12 @@ void OpenCommand() {
             if (path) OpenNow(*path);
         });
     }
+}
+
+void OpenProof(const std::string& path) {
+    RecentName = path;
+    RecentPicked = true;
+    OpenCommand();
 }
 
 void SaveAsCommand() {

@@ -30,6 +30,8 @@ void ReadProofFile(const std::string& entered);
 // Commands of the File menu. New, Open and Exit go by way of the save question.
 void NewCommand();
 void OpenCommand();
+void OpenProof(const std::string& path);  // Open, with the file already named
+inline constexpr const char* OpenFailed = "Open: Unable to open proof file";
 void SaveCommand();
 void SaveAsCommand();
 

@@ -182,12 +182,6 @@ void PutAtHead(Names& names, const std::string& name) {
     if (names.size() > MaxRecent) names.resize(MaxRecent);
 }
 
-void OpenRecent(const std::string& name) {
-    RecentName = name;
-    RecentPicked = true;
-    OpenCommand();
-}
-
 // --- default directory and options
 
 bool LoadDefaultDir() {
@@ -276,6 +270,17 @@ template void ChooseTextSize<10>();
 template void ChooseTextSize<12>();
 template void ChooseTextSize<14>();
 
+void StepTextSize(bool larger) {
+    constexpr std::pair<int, void (*)()> sizes[] = {
+        {10, ChooseTextSize<10>}, {12, ChooseTextSize<12>}, {14, ChooseTextSize<14>}};
+    void (*next)() = nullptr;
+    for (const auto& [size, choose] : sizes) {
+        if (larger && size > StmtFontSize && next == nullptr) next = choose;
+        if (!larger && size < StmtFontSize) next = choose;
+    }
+    if (next != nullptr) next();
+}
+
 void LoadRecentMenu(const EventHandler& then) {
     if (const std::optional<Names> names = StoredRecentFiles()) {
         FillRecentMenu(*names);
@@ -305,7 +310,7 @@ void OpenRecentFile() {
     static constexpr std::array items = {&ProofForm::optFile1, &ProofForm::optFile2,
                                          &ProofForm::optFile3, &ProofForm::optFile4,
                                          &ProofForm::optFile5};
-    OpenRecent((Proof.*items[place - 1]).Caption);
+    OpenProof((Proof.*items[place - 1]).Caption);
 }
 
 template void OpenRecentFile<1>();

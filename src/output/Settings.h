@@ -34,6 +34,8 @@ void GetFontSize(const EventHandler& then);
 void SaveFontSize();
 template <int size>
 void ChooseTextSize();  // the three sizes of the menu: 10, 12, 14
+// The same for the next one of them; nothing beyond the last.
+void StepTextSize(bool larger);
 
 void LoadRecentMenu(const EventHandler& then);
 // Puts ProofFileName at the head of the recent files, in the file and in the menu.

@@ -76,6 +76,14 @@ void GetInsertLineNo() {
     RuleMode = 0;
 }
 
+int InsertMarkPlace() {
+    if (!InsertMode) return -1;
+    for (int line = InsertLine; line <= StmtCount; ++line) {
+        if (At(line).Visible) return At(line).ViewerStartLine - 1;
+    }
+    return Proof.RTB.TextLength();
+}
+
 void PutCaretBehindInsertMark() {
     Proof.RTB.SelStart = 0;
     for (int line = InsertLine - 1; line >= 1; --line) {

@@ -25,6 +25,10 @@ void EndInsertMode();
 // Shows "^" and InsertLine in the label.
 void ShowInsertLine();
 
+// Where the display shows the place of the next statement: the start of the block that will follow
+// it, or the end. 0-based; -1 while the mode is off.
+int InsertMarkPlace();
+
 // Puts the caret behind the nearest visible statement above InsertLine, or at 0.
 void PutCaretBehindInsertMark();
 

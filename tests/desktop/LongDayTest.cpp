@@ -29,6 +29,7 @@
 #include "mainwindow/Proof.h"
 #include "output/Recovery.h"
 #include "view/Display.h"
+#include "view/InsertMode.h"
 
 #ifdef __SANITIZE_ADDRESS__
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // not all compilers declare it
@@ -61,7 +62,7 @@ QImage PictureOf(ProofDisplay& display, const QRect& caret) {
 std::string DisplayFault() {
     ProofDisplay& live = ShownProof();
     live.Sync();
-    ProofDisplay fresh(Proof.RTB);
+    ProofDisplay fresh(Proof.RTB, nullptr, {nullptr, InsertMarkPlace, nullptr});
     fresh.setAttribute(Qt::WA_DontShowOnScreen);
     fresh.resize(live.size());
     fresh.show();

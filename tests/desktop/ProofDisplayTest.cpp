@@ -3,9 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolTip>
+#include <QWheelEvent>
 #include <string>
 #include <vector>
 
@@ -19,6 +22,7 @@
 #include "mainwindow/RuleModes.h"
 #include "menu/StartProgram.h"
 #include "platform/Events.h"
+#include "view/Display.h"
 #include "view/PutStmt.h"
 
 using namespace tessaryn;
@@ -162,6 +166,66 @@ TEST(ProofWindow, ANumberIsToggledAtOnceAndADoubleClickFolds) {
     DoubleClickInProof(number);  // only the second press
     EXPECT_TRUE(At(3).Highlight);
     EXPECT_FALSE(At(2).Visible);
+}
+
+// Ctrl with the wheel, what is told where the pointer rests, and the mark of insert mode.
+TEST(ProofWindow, ZoomsUnderThePointerTellsAndMarks) {
+    StartProgram();
+    for (RuleMode = Rule::Premise; StmtCount < 60; RuleMode = Rule::Axiom) {
+        NewStmtText = StmtCount == 58 ? "x=" + std::string(300, 'y') : "x=y";
+        Parse();
+        ASSERT_TRUE(WriteStatement());
+    }
+    RuleMode = 0;
+    ShowMainWindow(Proof);
+    QApplication::processEvents();
+    ProofDisplay& display = ShownProof();
+    display.verticalScrollBar()->setValue(500);
+    const QPoint place(90, display.viewport()->height() / 2);
+    const int character = display.CharacterAt(place);
+    const auto turn = [&](int angle, Qt::KeyboardModifiers keys) {
+        QWheelEvent event(place, display.viewport()->mapToGlobal(place), {}, {0, angle}, {}, keys,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(display.viewport(), &event);
+        return StmtFontSize;
+    };
+    EXPECT_EQ(turn(-60, Qt::ControlModifier), 12);
+    EXPECT_EQ(turn(-60, Qt::ControlModifier), 10);
+    EXPECT_EQ(turn(240, Qt::ControlModifier), 14);
+    EXPECT_EQ(turn(120, Qt::ControlModifier), 14);
+    EXPECT_TRUE(Proof.optLargeText.Checked);
+    EXPECT_EQ(display.Lines().LineAt(display.CharacterAt(place)),
+              display.Lines().LineAt(character));
+    EXPECT_EQ(turn(120, {}), 14);
+    EXPECT_NE(display.CharacterAt(place), character) << "without Ctrl it scrolls";
+    QTest::keyClick(&display, Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(StmtFontSize, 12);
+
+    const auto told = [&](int position) {
+        display.EnsureVisible(position);
+        const QPoint at = PlaceInProof(position);
+        QHelpEvent event(QEvent::ToolTip, at, display.viewport()->mapToGlobal(at));
+        QApplication::sendEvent(display.viewport(), &event);
+        return QToolTip::text().toStdString();
+    };
+    const int first = PositionOf(1, At(1).StartStmt);
+    EXPECT_NE(told(first).find("x is green: "), std::string::npos);
+    QTest::keyClick(&display, Qt::Key_Escape);
+    EXPECT_FALSE(QuestionsOpen()) << "this Esc was for what is told";
+    told(first + 1);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 60000));
+    const int last = PositionOf(60, At(60).StartStmt);
+    EXPECT_NE(told(last).find("x is green: "), std::string::npos);
+    const int wide = PositionOf(59, At(59).StartStmt);
+    EXPECT_NE(told(wide + 1).find(std::string(300, 'y')), std::string::npos);
+
+    EXPECT_TRUE(display.MarkRect().isEmpty());
+    SendChoose(Proof.optInsert);
+    ClickInProof(first);
+    EXPECT_NEAR(display.MarkRect().center().y(), display.CaretRect(first).top(), 12);
+    SendChoose(Proof.optInsert);
+    Dispatch([] {});
+    EXPECT_TRUE(display.MarkRect().isEmpty());
 }
 
 TEST(ProofDisplay, KeyboardMovesSelectsAndClicks) {
