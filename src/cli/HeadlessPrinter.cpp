@@ -7,6 +7,7 @@
 
 #include "cli/FormState.h"
 #include "cli/HeadlessPlatform.h"
+#include "platform/LongWork.h"
 #include "platform/PageEnd.h"
 #include "platform/Platform.h"
 #include "text/Utf8.h"
@@ -146,6 +147,12 @@ bool NextPage() {
 std::string EndPrinting() {
     Headless.Pages = std::move(Job.pages);
     return "";
+}
+
+void DoInPieces(LongWork work) {
+    while (work.piece() < 1) {
+    }
+    work.then(true);
 }
 
 void CancelPrinting() {

@@ -26,6 +26,7 @@
 #include "output/Recovery.h"
 #include "output/Settings.h"
 #include "platform/Files.h"
+#include "platform/Platform.h"
 
 namespace {
 
@@ -140,5 +141,6 @@ int main(int argc, char* argv[]) {
     EndKeepingCopies();
     ForgetNote();
     ForgetWindows();
+    ReleasePrinter();  // of a job that the end has cut short
     return 0;
 }

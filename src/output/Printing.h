@@ -31,9 +31,10 @@ inline std::string PrintFault;  // why the last print failed, as a sentence for 
 // the width and height that the margins leave of a page.
 void WYSIWYG_RTF(RichTextBox& surface, int leftMargin, int rightMargin, int topMargin,
                  int bottomMargin, std::function<void(PrintResult, int width, int height)> then);
-// Prints what has been laid out, between the same margins.
-PrintResult PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int rightMargin,
-                     int bottomMargin);
+// Prints what has been laid out, between the same margins. The user may cancel while that takes
+// long; the surface must stay until `then` has been told how it ended.
+void PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int rightMargin,
+              int bottomMargin, std::function<void(PrintResult)> then);
 
 // Forgets the printer's page.
 void ResetPrinting();

@@ -143,13 +143,8 @@ std::string PrintTitle() {
 void PrintStatements(int first, int last, std::function<void(PrintResult)> then) {
     BuildPrintCopy(first, last);
     const auto print = [then = std::move(then)](PrintResult result, int, int) {
-        const auto printAll = [&] {
-            if (result == PrintResult::Done) {
-                result = PrintRTF(WorkArea.RTB, Inch, Inch, Inch, Inch);
-            }
-        };
-        RunHandler(printAll, [&](const char*) { result = PrintResult::Failed; });
-        then(result);
+        if (result != PrintResult::Done) return then(result);
+        PrintRTF(WorkArea.RTB, Inch, Inch, Inch, Inch, then);
     };
     WYSIWYG_RTF(WorkArea.RTB, Inch, Inch, Inch, Inch, print);
 }

@@ -1,7 +1,10 @@
 // The pages of a surface. The platform's printer measures in twips here, and does the drawing.
+#include <memory>
 #include <utility>
 
+#include "mainwindow/Proof.h"
 #include "output/Printing.h"
+#include "platform/LongWork.h"
 #include "platform/Platform.h"
 
 namespace tessaryn {
@@ -16,15 +19,27 @@ PageRect Between(int leftMargin, int topMargin, int rightMargin, int bottomMargi
             Page.Width - rightMargin - Page.OffsetX, Page.Height - bottomMargin - Page.OffsetY};
 }
 
-// Ends with the position where nothing went on the page any more; that of the end if all is well.
-int PrintPages(RichTextBox& surface, const PageRect& rect) {
-    int next = PrintRange(0, rect);
-    while (next < surface.TextLength() && NextPage()) {
-        const int printed = PrintRange(next, rect);
-        if (printed <= next) return next;
-        next = printed;
-    }
-    return next;
+struct Pages {
+    int next = 0;  // the position where the next one begins
+    bool stuck = false;
+};
+
+// Gives the share that is on paper; 1 also where nothing goes on the page any more.
+double PrintPage(RichTextBox& surface, const PageRect& rect, Pages& pages) {
+    const int length = surface.TextLength();
+    const int begin = pages.next;
+    if (begin == 0 || NextPage()) pages.next = PrintRange(begin, rect);
+    pages.stuck = pages.next <= begin && begin < length;
+    return pages.stuck || pages.next >= length ? 1 : double(pages.next) / length;
+}
+
+// The end of a job, whichever it comes to.
+PrintResult EndJob(bool whole, bool stuck) {
+    const bool good = whole && !stuck;
+    if (!good) CancelPrinting();
+    if (good) PrintFault = EndPrinting();
+    if (!whole) return PrintResult::Cancelled;
+    return good && PrintFault.empty() ? PrintResult::Done : PrintResult::Failed;
 }
 
 }  // namespace
@@ -46,18 +61,24 @@ void WYSIWYG_RTF(RichTextBox& surface, int leftMargin, int rightMargin, int topM
         });
 }
 
-PrintResult PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int rightMargin,
-                     int bottomMargin) {
-    bool good = StartPrinting();
-    if (good) {
-        const PageRect rect = Between(leftMargin, topMargin, rightMargin, bottomMargin);
-        const bool whole = PrintPages(surface, rect) >= surface.TextLength();
-        if (!whole) CancelPrinting();
-        if (whole) PrintFault = EndPrinting();
-        good = whole && PrintFault.empty();
-    }
-    ReleasePrinter();
-    return good ? PrintResult::Done : PrintResult::Failed;
+void PrintRTF(RichTextBox& surface, int leftMargin, int topMargin, int rightMargin,
+              int bottomMargin, std::function<void(PrintResult)> then) {
+    const PageRect rect = Between(leftMargin, topMargin, rightMargin, bottomMargin);
+    const auto pages = std::make_shared<Pages>();
+    const auto fail = [pages](const char*) { pages->stuck = true; };
+    RunHandler([pages] { pages->stuck = !StartPrinting(); }, fail);
+    const auto page = [=, &surface] {
+        double share = 1;
+        if (!pages->stuck) RunHandler([&] { share = PrintPage(surface, rect, *pages); }, fail);
+        return share;
+    };
+    const auto end = [=, then = std::move(then)](bool whole) {
+        PrintResult result = PrintResult::Failed;
+        RunHandler([&] { result = EndJob(whole, pages->stuck); }, fail);
+        ReleasePrinter();
+        then(result);
+    };
+    DoInPieces({"Printing...", page, end});
 }
 
 void ResetPrinting() {

@@ -5,11 +5,17 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QPrinterInfo>
+#include <QProgressBar>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
+#include <algorithm>
 #include <cerrno>
+#include <optional>
 
 #include "AnsweredFileBox.h"
 #include "Faults.h"
+#include "desktop/LongWorkBox.h"
 #include "document/Document.h"
 #include "mainwindow/ProgramState.h"
 #include "menu/StartProgram.h"
@@ -24,13 +30,15 @@ namespace {
 
 PrintResult PrintTo(const QString& path) {
     AnswerFileDialogue(path);
-    PrintResult result = PrintResult::Failed;
+    std::optional<PrintResult> result;
+    const auto keep = [&](PrintResult end) { result = end; };
     WYSIWYG_RTF(WorkArea.RTB, Inch, Inch, Inch, Inch, [&](PrintResult ready, int, int) {
-        result =
-            ready == PrintResult::Done ? PrintRTF(WorkArea.RTB, Inch, Inch, Inch, Inch) : ready;
+        if (ready != PrintResult::Done) return keep(ready);
+        PrintRTF(WorkArea.RTB, Inch, Inch, Inch, Inch, keep);
     });
     AwaitAnswer();
-    return result;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return result.has_value(); }, 60000));
+    return result.value_or(PrintResult::Failed);
 }
 
 void FillWorkArea(int lines) {
@@ -82,6 +90,34 @@ TEST(Printing, PutsAllPagesIntoAPdf) {
     ProofFileName = directory.filePath(QStringLiteral("sets.proof")).toStdString();
     EXPECT_EQ(PrintTo(QString()), PrintResult::Cancelled);
     EXPECT_EQ(FileBoxShown.name, directory.filePath(QStringLiteral("sets.pdf")));
+}
+
+// Behind its box long work goes on to the end, or until it is cancelled: then there is no file.
+TEST(Printing, ShowsHowFarItIsAndCanBeCancelled) {
+    if (!QPrinterInfo::defaultPrinter().isNull()) GTEST_SKIP() << "there is a printer";
+    StartProgram();
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("long.pdf"));
+    FillWorkArea(2000);
+    LongWorkShownAfter = 0;
+    int shown = 0;
+    bool cancels = true;
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, [&] {
+        QWidget* box = QApplication::activeModalWidget();
+        auto* bar = box == nullptr ? nullptr : box->findChild<QProgressBar*>();
+        if (bar == nullptr) return;
+        shown = std::max(shown, bar->value());
+        if (cancels && bar->value() > 100) box->findChild<QPushButton*>()->click();
+    });
+    user.start(1);
+    EXPECT_EQ(PrintTo(file), PrintResult::Cancelled);
+    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_LT(shown, 900);
+    cancels = false;
+    EXPECT_EQ(PrintTo(file), PrintResult::Done);
+    EXPECT_TRUE(ContentOf(file).startsWith("%PDF"));
+    LongWorkShownAfter = 1000;
 }
 
 TEST(Printing, APdfThatCannotBeWrittenLeavesTheOldOne) {
