@@ -149,7 +149,7 @@ std::string EndPrinting() {
     return "";
 }
 
-void DoInPieces(LongWork work) {
+void DoInPieces(const LongWork& work) {
     while (work.piece() < 1) {
     }
     work.then(true);

@@ -75,12 +75,12 @@ class LongWorkBox : public QDialog {
 
 }  // namespace
 
-void DoInPieces(LongWork work) {
+void DoInPieces(const LongWork& work) {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const double share = WorkFor(LongWorkShownAfter, work);
     QApplication::restoreOverrideCursor();
     if (share >= 1) return work.then(true);
-    (new LongWorkBox(std::move(work), share, TopWindow()))->open();
+    (new LongWorkBox(work, share, TopWindow()))->open();
 }
 
 }  // namespace tessaryn

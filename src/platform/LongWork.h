@@ -14,6 +14,6 @@ struct LongWork {
 
 // Does it at once. In the window, what takes more than a moment goes on in later events, behind a
 // box that shows how far it is and lets the user cancel. One body in each front end.
-void DoInPieces(LongWork work);
+void DoInPieces(const LongWork& work);
 
 }  // namespace tessaryn
