@@ -12,9 +12,9 @@ namespace tessaryn {
 namespace {
 
 // Font's first letter, size, colour as one hex digit and "b", then the text: "C12.0b[text]".
-std::string Shown(RichTextBox& box, int first = 0, int last = INT_MAX) {
+std::string Shown(RichTextBox& box) {
     std::string shown;
-    for (const FormatRun& run : box.RunsIn(first, last)) {
+    for (const FormatRun& run : box.Runs()) {
         shown += run.format.Font.substr(0, 1) + std::to_string(run.format.Size) + "." +
                  std::to_string(run.format.Color) + (run.format.Bold ? "b" : "") + "[" +
                  box.GetText().substr(static_cast<std::size_t>(run.start),
@@ -164,31 +164,13 @@ struct BlocksTest : RichTextBoxTest {
             text += part;
             blocks.push_back({static_cast<int>(part.size()), key});
         }
-        formatted.clear();
-        box.SetBlocks(text, blocks, [this, blocks](int index) {
-            formatted += std::to_string(index);
+        box.SetBlocks(text, blocks, [blocks](int index) {
             const auto& block = blocks[Size(index)];
             return std::vector<FormatRun>{
                 {0, block.length, Coloured(static_cast<Colour>(block.key))}};
         });
     }
-    std::string formatted;  // numbers of the blocks asked for
 };
-
-TEST_F(BlocksTest, FormatsWhatIsNewAndNeeded) {
-    Set({{"aa", 1}, {"bb", 2}, {"cc", 2}, {"dd", 4}});
-    ExpectChange(0, 0, 8);
-    EXPECT_EQ(Shown(box, 3, 5), "C12.2[bc]");
-    EXPECT_EQ(formatted, "12");
-    Set({{"aa", 1}, {"xyz", 2}, {"bb", 2}, {"cc", 2}, {"dd", 4}});
-    ExpectChange(2, 0, 3);
-    EXPECT_EQ(Shown(box), "C12.1[aa]C12.2[xyzbbcc]C12.4[dd]");
-    EXPECT_EQ(formatted, "014") << "kept blocks are known by their new number";
-    Set({{"aa", 1}, {"dd", 4}});
-    ExpectChange(2, 7, 0);
-    Set({{"aa", 1}, {"dd", 4}});
-    EXPECT_FALSE(box.TakeChange().any);
-}
 
 // Random edits beside a plain model: a format for each byte, and a front end's copy that is kept in
 // step by the reported changes alone.

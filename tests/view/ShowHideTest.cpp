@@ -69,6 +69,7 @@ TEST(ShowHide, LinesInSight) {
         {"Insert 12 ; HideDetails", "1 2 3 11 12 13", 111},
         {"Insert 1 ; HideDetails", "1 2 3 12 13", 1},
         {"Insert 1 ; ShowDetails", active, -1},
+        {"Insert 12 ; ShowDetails", active, 111},
     };
     for (const auto& row : rows) {
         ASSERT_EQ(Do(Nested + row.steps), "");
