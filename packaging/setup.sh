@@ -7,7 +7,7 @@ build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-private-dev
     libgtest-dev libbenchmark-dev nlohmann-json3-dev rapidjson-dev
     fonts-liberation fonts-dejavu-core)
 test_packages=(xvfb xauth file)
-package_packages=(dpkg-dev)
+package_packages=(dpkg-dev file)
 check_packages=(clang clang-format clang-tidy libclang-rt-14-dev)
 # With these the tests look at what others make of the documents; without them they skip that.
 document_packages=(texlive-latex-base chromium)
