@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "desktop/Bindings.h"
 #include "desktop/Desktop.h"
@@ -216,6 +217,8 @@ void FormWindow::Show(bool modal) {
     modal_ = modal;
     window_->setWindowModality(blocks ? Qt::WindowModal : Qt::NonModal);
     Sync();
+    // Where it stood; a window manager that is told nothing moves it on by its frame.
+    if (std::exchange(shownBefore_, true) && !window_->isVisible()) window_->move(window_->pos());
     // A window that appears gives the focus back to what had it last.
     if (QWidget* last = window_->focusWidget()) last->clearFocus();
     window_->show();

@@ -73,8 +73,9 @@ class FormWindow : public QObject {
     QMenuBar* menuBar_ = nullptr;            // nullptr in a box without menus
     std::map<QObject*, Control*> controls_;  // by widget
     std::map<const MenuItem*, QMenu*> menus_;
-    QPointer<QWidget> below_;           // what it stands in front of
-    bool modal_ = false;                // since it was shown last
+    QPointer<QWidget> below_;  // what it stands in front of
+    bool modal_ = false;       // since it was shown last
+    bool shownBefore_ = false;
     std::unique_ptr<QObject> catcher_;  // of all input, for a form that takes it
 };
 
