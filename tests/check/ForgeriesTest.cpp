@@ -1,6 +1,7 @@
 // Small forged proofs, each with what the checker has to say about it.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -117,6 +118,15 @@ TEST(Forgeries, AreToldForWhatTheyAre) {
     }
 }
 
+// The tables can tell: checkers that do not look and always say the same fall through.
+TEST(Forgeries, FindOutACheckerThatDoesNotLook) {
+    const std::vector<Forgery> forgeries = AllForgeries();
+    for (const char* always : {"proved", "line 1: it is refused", "declined"}) {
+        const auto differs = [&](const Forgery& forgery) { return forgery.expected != always; };
+        EXPECT_GT(std::count_if(forgeries.begin(), forgeries.end(), differs), 180) << always;
+    }
+}
+
 CheckedProof CheckedLines(const std::vector<std::string>& notations) {
     return check::CheckProof(ProofOf(notations));
 }
@@ -131,6 +141,8 @@ TEST(CheckedFiles, AFileThatIsCutIsRefused) {
     }
     EXPECT_EQ(check::CheckProof(file + "and more").sentence, "");
     EXPECT_EQ(Summary(check::CheckProof("Tessaryn 1" + std::string(6, '\0'))), "no statement");
+    EXPECT_EQ(Summary(check::CheckProof("Tessaryn 1" + std::string("\0\0\0\0\5\0a\r\n\r\n", 11))),
+              "no statement");
     EXPECT_EQ(check::CheckProof("Tessaryn 1\xFF\xFF" + std::string(4, '\0')).sentence,
               "its number of statements is negative");
     EXPECT_EQ(check::CheckProof("Tessaryn 1" + std::string("\0\0\0\0\3\0abc", 9)).sentence,
