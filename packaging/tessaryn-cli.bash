@@ -6,8 +6,8 @@ _tessaryn_cli() {
     local help words ending
     help=$("${COMP_WORDS[0]}" --help 2>/dev/null) || return
     COMPREPLY=()
-    if [ "$COMP_CWORD" -eq 1 ]; then
-        words="--help --version $(sed -n 's/.*tessaryn-cli \([a-z][a-z]*\).*/\1/p' <<<"$help")"
+    if [ "$COMP_CWORD" -eq 1 ] || [ "$command" = help ]; then
+        words="--help --version help $(sed -n 's/.*tessaryn-cli \([a-z][a-z]*\).*/\1/p' <<<"$help")"
         mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current" | sort -u)
         return
     fi

@@ -45,5 +45,6 @@ completed() {
     echo "${COMPREPLY[*]}"
 }
 [ "$(completed gr)" = grade ] || fail "gr completes to $(completed gr)"
+[ "$(completed help la)" = latex ] || fail "help la completes to $(completed help la)"
 [ "$(completed check --li)" = --library ] || fail "--li completes to $(completed check --li)"
 [ "$(completed check "$share/tessaryn/examples/barb")" = "$example" ] || fail "barb is not completed"
