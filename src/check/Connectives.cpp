@@ -17,9 +17,11 @@ std::string Line(int line) {
 // connective becomes, 0 if the rule does not take it.
 template <class Rewritten>
 std::string RewritesOnePart(const Step& step, Rewritten rewritten) {
-    const bool follows = DiffersInOnePlace(
-        step.terms, step.first, step.result,
-        [&](Term from, Term to) { return rewritten(step.terms, step.terms[from]) == to; });
+    const bool follows =
+        DiffersInOnePlace(step.terms, step.first, step.result, [&](Term from, Term to) {
+            const Node node = step.terms[from];  // a copy: new terms move the old ones
+            return rewritten(step.terms, node) == to;
+        });
     return follows ? "" : "no one part of " + Line(step.Own().arg1) + " rewritten gives it";
 }
 
