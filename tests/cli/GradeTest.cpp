@@ -185,7 +185,9 @@ TEST_F(GradeTest, CheatsGetNothingAndTouchNoOtherRow) {
                    {"also honest", "", "3.5: none of its 2 files has the goal"}});
     const Outcome outcome = GradeClass();
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_NE(outcome.error.find(" s at "), outcome.error.npos) << outcome.error;
+    const std::size_t news = outcome.error.find(" judged, ");  // and how long the next one takes
+    ASSERT_NE(news, outcome.error.npos) << outcome.error;
+    EXPECT_EQ(outcome.error.substr(news + 10, 6), " s at ") << outcome.error;
     std::map<std::string, std::string> rows = Rows(outcome);
     EXPECT_EQ(rows.size(), cheats.size());
     for (const Cheat& cheat : cheats) {
