@@ -42,6 +42,7 @@ const char* const Entries[] = {"P",
                                "P => Q",
                                "Q & R & P",
                                "x=y",
+                               "f(x)=y",
                                "P(x) & ~P(x)",
                                "ALL(a):[a @ s => P(a)]",
                                "ALL(a):Q(a,y)",
@@ -106,6 +107,14 @@ void Press(QWindow& window, int key, Qt::KeyboardModifiers held) {
     QApplication::processEvents();
     if (alive) qt_handleKeyEvent(&window, QEvent::KeyRelease, key, held, text);
     QApplication::processEvents();
+}
+
+// The first = of a text from a place on, or else its beginning.
+std::size_t NextEqualsSign(const std::string& text, std::size_t place) {
+    place = text.find('=', place);
+    while (place != text.npos && text.compare(place, 2, "=>") == 0)
+        place = text.find('=', place + 1);
+    return place == text.npos ? 0 : place;
 }
 
 QString PathIn(const QString& directory, const char* name) {
@@ -225,7 +234,11 @@ void RandomUser::Command() {
 void RandomUser::ClickInProof() {
     QWidget* display = ShownProof().viewport();
     if (Below(3) == 0) return UseMouse(*display, PlaceIn(*display), Below(30));
-    const auto position = static_cast<int>(Below(Proof.RTB.GetText().size() + 1));
+    const std::string& shown = Proof.RTB.GetText();
+    std::size_t place = Below(shown.size() + 1);
+    // By chance alone the two clicks hardly ever meet an equation.
+    if (RuleMode == Rule::Substitute && Below(2) == 0) place = NextEqualsSign(shown, place);
+    const auto position = static_cast<int>(place);
     ShownProof().EnsureVisible(position);
     UseMouse(*display, PlaceInProof(position), Below(30));
 }
