@@ -25,7 +25,10 @@ constexpr int AnnotationSize = 8;
 // Text with its formats, put together piece by piece, element signs as they are shown.
 class Copy {
   public:
-    explicit Copy(std::size_t expectedLength) { text_.reserve(expectedLength); }
+    Copy(std::size_t expectedLength, std::size_t expectedRuns) {
+        text_.reserve(expectedLength);
+        runs_.reserve(expectedRuns);
+    }
 
     void Append(std::string_view text, int size, bool bold = false) {
         for (std::size_t at = 0; at < text.size();) {
@@ -79,7 +82,8 @@ void AppendStatement(Copy& copy, int number) {
     }
     std::string text = Folded(StoredText(number));
     InsertTabs(text);
-    copy.Append(std::to_string(number) + "\t" + text + "\r\n\t", TextSize);
+    copy.Append(std::to_string(number) + "\t", TextSize);
+    copy.Append(text += "\r\n\t", TextSize);
     const int triangle = IsConclusion(stmt) ? 2 : 0;  // it and its blank are not printed
     copy.Append(ProofSlice(stmt.StartRule + triangle, stmt.EndRule), AnnotationSize);
     copy.Append("\r\n\r\n", TextSize);
@@ -88,6 +92,8 @@ void AppendStatement(Copy& copy, int number) {
 }  // namespace
 
 void InsertBreaks(std::string& text, int width) {
+    const bool isOneLine = text.find('\r') == std::string::npos;
+    if (isOneLine && text.size() <= static_cast<std::size_t>(width)) return;
     std::string folded;
     folded.reserve(text.size() + text.size() / 32);
     int column = 0;
@@ -116,6 +122,7 @@ void InsertBreaks(std::string& text, int width) {
 }
 
 void InsertTabs(std::string& text) {
+    if (text.find('\n') == std::string::npos) return;
     std::string aligned;
     aligned.reserve(text.size() + 8);
     for (const char c : text) {
@@ -126,7 +133,8 @@ void InsertTabs(std::string& text) {
 }
 
 void BuildPrintCopy(int first, int last) {
-    Copy copy(ProofText.size());
+    const auto lines = static_cast<std::size_t>(last - first + 1);
+    Copy copy(ProofText.size() + 8 * lines, 2 * lines);
     if (!ProofCaption.empty()) AppendCaption(copy);
     if (first == 1 && IntroEnd > 0) copy.Append(ProofSlice(1, IntroEnd + 4), TextSize);
     for (int number = first; number <= last; ++number) AppendStatement(copy, number);

@@ -68,7 +68,7 @@ std::string RichTextBox::GetSelText() const {
 
 // Where the new content is the same as the old, the front end has nothing to do.
 void RichTextBox::ReplaceContent(std::string text, const std::vector<FormatRun>& runs) {
-    if (text != GetText() || runs != Runs()) Record(content_.Assign(std::move(text), runs));
+    Record(content_.Assign(std::move(text), runs));
     Select(0, 0);
     insertion_.reset();
 }

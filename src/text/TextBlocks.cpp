@@ -133,13 +133,19 @@ CharFormat TextBlocks::FormatAt(int position) {
     return formats[block.runs[RunAt(block.runs, position - Starts()[index])].format];
 }
 
-std::vector<FormatRun> TextBlocks::RunsIn(int first, int last) {
-    std::vector<FormatRun> result;
-    if (first >= last) return result;
-    StoredRuns found;  // across blocks, so that equal neighbours join
+// Across blocks, so that equal neighbours join.
+TextBlocks::StoredRuns TextBlocks::StoredIn(int first, int last) {
+    StoredRuns found;
+    if (first >= last) return found;
     for (std::size_t i = BlockAt(first); i < blocks.size() && Starts()[i] < last; ++i) {
         AppendPart(found, Formatted(i).runs, first - starts[i], last - starts[i]);
     }
+    return found;
+}
+
+std::vector<FormatRun> TextBlocks::RunsIn(int first, int last) {
+    std::vector<FormatRun> result;
+    const StoredRuns found = StoredIn(first, last);
     result.reserve(found.size());
     int start = first;
     for (const StoredRun& run : found) {
@@ -169,6 +175,7 @@ std::vector<TextBlocks::StoredBlock> TextBlocks::Pieces(const StoredRuns& runs, 
 }
 
 SurfaceChange TextBlocks::Assign(std::string newText, const std::vector<FormatRun>& runs) {
+    if (newText == text && Stored(runs, Length()) == StoredIn(0, Length())) return {};
     const int oldLength = Length();
     text = std::move(newText);
     starts.clear();

@@ -72,6 +72,8 @@ struct TextBlocks {
     struct StoredRun {
         int end;  // where it ends in its block; it begins where the one ahead of it ends
         FormatTable::Id format;
+
+        bool operator==(const StoredRun&) const = default;
     };
     using StoredRuns = std::vector<StoredRun>;
 
@@ -88,6 +90,7 @@ struct TextBlocks {
     static void AppendPart(StoredRuns& runs, const StoredRuns& source, int first, int last);
     static std::vector<StoredBlock> Pieces(const StoredRuns& runs, int length);
     StoredRuns Stored(const std::vector<FormatRun>& runs, int length);
+    StoredRuns StoredIn(int first, int last);
     StoredBlock& Formatted(std::size_t index);
     const std::vector<int>& Starts();
     std::size_t BlockAt(int position);
