@@ -326,7 +326,17 @@ bool FormWindow::OpenFirstMenu() {
 
 // --- events of all widgets
 
+// A double click, or a key held down on a slow machine, has a second press that comes when the
+// first has closed the window: it is for nobody.
+bool FormWindow::ComesTooLate(const QEvent& event) const {
+    const bool isPress = event.type() == QEvent::KeyPress ||
+                         event.type() == QEvent::MouseButtonPress ||
+                         event.type() == QEvent::MouseButtonDblClick;
+    return isPress && !window_->isVisible();
+}
+
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (ComesTooLate(*event)) return true;
     const auto found = controls_.find(watched);
     if (event->type() == QEvent::FocusIn && found != controls_.end()) {
         form_.ActiveControl = found->second;

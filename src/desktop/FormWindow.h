@@ -65,6 +65,7 @@ class FormWindow : public QObject {
     void FocusFirst();
     void SyncFocus();
     void MarkDefault();
+    bool ComesTooLate(const QEvent& event) const;
     bool KeyPressed(QObject* watched, QKeyEvent& event);
 
     Form& form_;

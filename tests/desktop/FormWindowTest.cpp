@@ -235,6 +235,29 @@ TEST(FormWindow, KeyboardAcceptsAndCancels) {
     EXPECT_EQ(form.Run([](QWidget& window) { window.close(); }), "closed");
 }
 
+// On a slow machine a double click or a second Enter finds the box closed by the first.
+TEST(FormWindow, WhatComesBehindItsEndIsForNobody) {
+    EntryForm form;
+    int presses = 0;
+    form.accept.Click = [&] { presses += form.Visible ? 1 : 10, form.Hide(); };
+    EXPECT_TRUE(ClosedBy(form, [](QWidget& window) {
+        const auto& accept = Find<QPushButton>(window, "accept");
+        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {},
+                           accept.mapTo(&window, accept.rect().center()));
+    }));
+    EXPECT_EQ(presses, 1);
+    EXPECT_TRUE(ClosedBy(form, [](QWidget& window) {
+        Find<QWidget>(window, "name").setFocus();
+        QWindow* handle = window.windowHandle();
+        for (int i = 0; i < 2; ++i)
+            QTest::sendKeyEvent(QTest::Press, handle, Qt::Key_Return, QString(), Qt::NoModifier);
+    }));
+    EXPECT_EQ(presses, 2);
+    form.ended.clear();
+    QTest::keyClick(WindowOf(form).Window().windowHandle(), Qt::Key_Escape);
+    EXPECT_EQ(form.ended, "");
+}
+
 // A note says what no label says, and hides nothing of the box, wherever the user has clicked.
 TEST(FormWindow, NoteAddsToABoxAndHidesNothingOfIt) {
     StartProgram();
