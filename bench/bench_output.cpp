@@ -38,7 +38,8 @@ void SavedPage(benchmark::State& state) {
 void PrintCopy(benchmark::State& state) {
     MakeLargeProof(static_cast<int>(state.range(0)));
     int first = 2;
-    for (auto _ : state) BuildPrintCopy(first = 3 - first, StmtCount);  // never the one that is there
+    // Never the one that is there already.
+    for (auto _ : state) BuildPrintCopy(first = 3 - first, StmtCount);
     state.SetComplexityN(state.range(0));
 }
 
