@@ -185,6 +185,7 @@ class HelpWindow : public QWidget {
         colours.setColor(QPalette::PlaceholderText, faint);  // not every desktop theme has one
         search_.setPalette(colours);
         const int scroll = text_.verticalScrollBar()->value();
+        text_.setExtraSelections({});  // which the toolkit looks at once more
         text_.setDocument(nullptr);
         for (ManualPage& page : manual_.pages) page.text.reset();
         if (!stops_.empty()) Show(stops_[here_].page, scroll);

@@ -193,6 +193,14 @@ TEST(HelpViewer, SearchLeadsToEachPlaceOfEveryPage) {
     EXPECT_EQ(viewer.Count(), QStringLiteral("%1 of %1").arg(found));
     viewer.list.setCurrentItem(viewer.list.topLevelItem(1)->child(0));
     EXPECT_EQ(viewer.Selected().toLower(), QStringLiteral("insert line"));
+
+    // In another size the page is made anew, and so are its marks.
+    const auto marks = viewer.page.extraSelections().size();
+    EXPECT_GT(marks, 0);
+    QFont larger = viewer.window.font();
+    larger.setPointSize(larger.pointSize() + 4);
+    viewer.window.setFont(larger);
+    EXPECT_EQ(viewer.page.extraSelections().size(), marks);
 }
 
 TEST(HelpViewer, F1TellsWhatFitsTheLineAndPressedAgainOpensThePage) {
