@@ -5,6 +5,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyle>
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -26,6 +27,10 @@ constexpr int LayoutsKept = 500;  // more than any screen shows
 
 int ProofDisplay::Round(double value) {
     return static_cast<int>(std::lround(std::clamp(value, -1e9, 1e9)));
+}
+
+int ProofDisplay::WidthWith(double line) {
+    return Round(line) + 2 * Margin + CaretWidth;
 }
 
 ProofDisplay::ProofDisplay(RichTextBox& box, QWidget* parent, DisplayExtras extras)
@@ -78,12 +83,20 @@ bool ProofDisplay::TakeContent() {
     const SurfaceChange change = box_.TakeChange();
     if (!change.any) return false;
     const int units = index_.UnitsCounted();
+    const int count = index_.Count();
+    const int lastChanged = index_.LineAt(change.start + change.removed);
     index_.Update(box_.GetText(), change.start, change.removed, change.inserted);
-    lines_.erase(lines_.lower_bound(index_.LineAt(change.start)), lines_.end());
+    const int firstChanged = index_.LineAt(change.start);
+    lines_.erase(lines_.lower_bound(firstChanged), lines_.end());
+    if (widestPainted_.line > lastChanged) {
+        widestPainted_.line += index_.Count() - count;
+    } else if (widestPainted_.line >= firstChanged) {
+        widestPainted_ = {};
+    }
     MeasureFont();
     UpdateScrollBars();
     news_.ContentChanged(*this, change, units);
-    return LineTop(index_.LineAt(change.start)) < viewport()->height();
+    return LineTop(firstChanged) < viewport()->height();
 }
 
 // The content begins in the size of statements, whatever it begins with.
@@ -91,6 +104,7 @@ void ProofDisplay::MeasureFont() {
     const int size = box_.FormatAt(0).Size;
     if (size == fontSize_) return;
     lines_.clear();
+    widestPainted_ = {};
     CharFormat format;
     format.Size = fontSize_ = size;
     style_.font = FontOf(format);
@@ -102,14 +116,34 @@ void ProofDisplay::MeasureFont() {
     UpdateScrollBars();
 }
 
+// What is seen of content of a size, beside the bars it needs. They are told from the room without
+// any: a bar that is there already, and takes from the room of the other, does not keep both there.
+QSize ProofDisplay::RoomFor(const QSize& content) const {
+    const bool spaced =
+        frameStyle() != QFrame::NoFrame &&
+        style()->styleHint(QStyle::SH_ScrollView_FrameOnlyAroundContents, nullptr, this) != 0;
+    const int gap =
+        spaced ? style()->pixelMetric(QStyle::PM_ScrollView_ScrollBarSpacing, nullptr, this) : 0;
+    const int besideText = verticalScrollBar()->sizeHint().width() + gap;
+    const int belowText = horizontalScrollBar()->sizeHint().height() + gap;
+    QSize room = maximumViewportSize();
+    const bool tooWide = content.width() > room.width();
+    const bool down = content.height() > room.height() - (tooWide ? belowText : 0);
+    const bool across = content.width() > room.width() - (down ? besideText : 0);
+    if (down) room.rwidth() -= besideText;
+    if (across) room.rheight() -= belowText;
+    return room;
+}
+
 void ProofDisplay::UpdateScrollBars() {
-    const QSize room = viewport()->size();
-    const int height = Round(double(index_.Count()) * lineHeight_) + 2 * Margin;
-    const int width = Round(index_.WidestLine() * style_.columnWidth) + 2 * Margin + CaretWidth;
-    verticalScrollBar()->setRange(0, std::max(0, height - room.height()));
+    const int widest = WidthWith(index_.WidestLine() * style_.columnWidth);
+    const QSize content(std::max(widest, widestPainted_.width),
+                        Round(double(index_.Count()) * lineHeight_) + 2 * Margin);
+    const QSize room = RoomFor(content);
+    verticalScrollBar()->setRange(0, std::max(0, content.height() - room.height()));
     verticalScrollBar()->setPageStep(room.height());
     verticalScrollBar()->setSingleStep(lineHeight_);
-    horizontalScrollBar()->setRange(0, std::max(0, width - room.width()));
+    horizontalScrollBar()->setRange(0, std::max(0, content.width() - room.width()));
     horizontalScrollBar()->setPageStep(room.width());
     horizontalScrollBar()->setSingleStep(Round(style_.columnWidth * 4));
 }
@@ -205,9 +239,9 @@ void ProofDisplay::PaintLine(QPainter& painter, int number) {
               selected);
 
     // A wide character or a fallback font may be wider than the index can tell.
-    const int width = Round(line.Width()) + 2 * Margin + CaretWidth;
-    if (width - viewport()->width() > bar->maximum()) {
-        bar->setMaximum(width - viewport()->width());
+    if (const int width = WidthWith(line.Width()); width > widestPainted_.width) {
+        widestPainted_ = {number, width};
+        UpdateScrollBars();
     }
 }
 

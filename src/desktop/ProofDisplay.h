@@ -78,9 +78,11 @@ class ProofDisplay : public QAbstractScrollArea {
 
     // To pixels; what lies further off than any text should reach is as far as that.
     static int Round(double value);
+    static int WidthWith(double line);  // of the content, with a line of this width
 
     // ProofDisplay.cpp: content, layout, painting
     void MeasureFont();
+    QSize RoomFor(const QSize& content) const;
     void UpdateScrollBars();
     LineLayout& LaidOut(int number);
     int LineTop(int line) const;  // in the viewport
@@ -111,6 +113,10 @@ class ProofDisplay : public QAbstractScrollArea {
     LineIndex index_;
     std::map<int, LineLayout> lines_;  // laid out, by number; dropped from a change on
     int linesLaidOut_ = 0;
+    struct {
+        int line = 0;
+        int width = 0;  // of the content with it; 0: none painted since the line changed
+    } widestPainted_;
     int fontSize_ = 0;  // points; of the statements
     int lineHeight_ = 1;
     int ascent_ = 1;

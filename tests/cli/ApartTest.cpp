@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
@@ -16,12 +17,13 @@ namespace {
 
 #if defined(__SANITIZE_ADDRESS__)
 constexpr Ending WhenMemoryIsShort = Ending::Done;  // the sanitizer needs it all
+constexpr std::chrono::milliseconds TimeForEach{10'000};
 #else
 constexpr Ending WhenMemoryIsShort = Ending::OutOfMemory;
+constexpr std::chrono::milliseconds TimeForEach{2500};
 #endif
 
 TEST(Apart, EachPieceEndsForItself) {
-    using namespace std::chrono_literals;
     struct Row {
         const char* what;
         std::string (*work)();
@@ -65,7 +67,7 @@ TEST(Apart, EachPieceEndsForItself) {
     };
     std::string ticks;
     const ApartRequest request = {
-        rows.size(), [&](std::size_t i) { return rows[i].work(); }, 3, 2500ms,
+        rows.size(), [&](std::size_t i) { return rows[i].work(); }, 3, TimeForEach,
         [&](std::size_t done, std::size_t, long long) { ticks += std::to_string(done) + ' '; }};
     const std::vector<Answered> answers = DoApart(request);
     for (std::size_t i = 0; i < rows.size(); ++i) {

@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QToolTip>
 #include <QWheelEvent>
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -287,6 +288,61 @@ TEST(ProofDisplay, ScrollsSidewaysToASelectionAndBackToTheLineStarts) {
     shown.ShowPlace(300, 20);
     EXPECT_LT(shown.display.CaretRect(320).right(), shown.display.viewport()->width());
     EXPECT_GT(shown.display.CaretRect(300).left(), 0);
+}
+
+TEST(ProofDisplay, HasTheScrollBarsItNeedsAndNoOthers) {
+    Displayed shown(std::string(50, 'P') + "\n1\n2\n3\n4\n5\n6\n7\n8");
+    ProofDisplay& display = shown.display;
+    const QScrollBar* down = display.verticalScrollBar();
+    const QScrollBar* across = display.horizontalScrollBar();
+    const QRect end = display.CaretRect(shown.box.TextLength());
+    const QSize content(display.CaretRect(50).right() + 1 + 6, end.bottom() + 1 + 6);
+    const QSize frame = display.size() - display.maximumViewportSize();
+    for (const int less : {0, 100, 10, 1, 0, 1, 0}) {  // too small for a while, then just enough
+        display.resize(content + frame - QSize(0, less));
+        QTest::qWait(10);
+        EXPECT_EQ(down->isVisible(), less > 0) << less;
+        EXPECT_EQ(across->isVisible(), less > 0) << less << ": the other took its room";
+        const int hidden = content.height() - display.viewport()->height();
+        EXPECT_EQ(down->maximum(), less > 0 ? hidden : 0) << less;
+    }
+}
+
+struct ResizeCounter : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Resize ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
+// The index takes each character for one column; the painted line is what counts.
+TEST(ProofDisplay, ScrollsToTheEndOfWideCharacters) {
+    std::string wide;
+    while (wide.size() < 3 * 50) wide += "\u8a3c";
+    Displayed shown("1\r\n" + wide + "\r\n2");
+    ResizeCounter resizes;
+    shown.display.viewport()->installEventFilter(&resizes);
+    QTest::qWait(50);
+    const QScrollBar* bar = shown.display.horizontalScrollBar();
+    const int reach = bar->maximum();
+    const int end = 3 + 3 * 50;
+    const int width = shown.display.CaretRect(end).right() + 1 + 6;
+    EXPECT_EQ(reach, std::max(0, width - shown.display.viewport()->width()));
+    EXPECT_LE(resizes.count, 1) << "the bar comes once, and stays";
+    shown.ShowPlace(end);
+    EXPECT_GE(bar->value(), reach - 10);
+
+    const auto replace = [&](int start, int length, const std::string& text) {
+        shown.box.SelStart = start;
+        shown.box.SelLength = length;
+        shown.box.SelText = text;
+        shown.display.Sync();
+        return bar->maximum();
+    };
+    EXPECT_EQ(replace(0, 0, "0\r\n"), reach) << "it has moved";
+    EXPECT_EQ(replace(shown.box.TextLength(), 0, "3"), reach);
+    EXPECT_EQ(replace(10, 60, "P"), 0) << "it has changed";
 }
 
 // A proof of the greatest length: only the lines in sight are laid out and formatted, at first and
