@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QThreadPool>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
@@ -58,6 +59,18 @@ QImage PictureOf(ProofDisplay& display, const QRect& caret) {
     return picture;
 }
 
+// What has been painted may be wider than was thought, and is scrolled over then.
+void PaintEverything(ProofDisplay& display) {
+    QScrollBar* bar = display.verticalScrollBar();
+    const int value = bar->value();
+    const int page = std::max(1, bar->pageStep());
+    for (int place = 0; place < bar->maximum() + page; place += page) {
+        bar->setValue(place);
+        display.viewport()->grab();
+    }
+    bar->setValue(value);
+}
+
 // "", or how the window differs from one that is built from nothing.
 std::string DisplayFault() {
     ProofDisplay& live = ShownProof();
@@ -66,14 +79,14 @@ std::string DisplayFault() {
     fresh.setAttribute(Qt::WA_DontShowOnScreen);
     fresh.resize(live.size());
     fresh.show();
-    for (ProofDisplay* display : {&live, &fresh}) {  // each shows its scroll bars late
-        QCoreApplication::sendPostedEvents(display, QEvent::MetaCall);
+    for (ProofDisplay* display : {&live, &fresh}) {
+        PaintEverything(*display);
+        QCoreApplication::sendPostedEvents(display, QEvent::MetaCall);  // scroll bars come late
     }
-    if (fresh.verticalScrollBar()->maximum() != live.verticalScrollBar()->maximum()) {
+    if (fresh.verticalScrollBar()->maximum() != live.verticalScrollBar()->maximum() ||
+        fresh.horizontalScrollBar()->maximum() != live.horizontalScrollBar()->maximum()) {
         return "the display scrolls further than a new one, or less far";
     }
-    // What has been painted may be wider than was thought.
-    fresh.horizontalScrollBar()->setMaximum(live.horizontalScrollBar()->maximum());
     fresh.verticalScrollBar()->setValue(live.verticalScrollBar()->value());
     fresh.horizontalScrollBar()->setValue(live.horizontalScrollBar()->value());
     // Only now is it settled which of them has the focus.

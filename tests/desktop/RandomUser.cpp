@@ -37,27 +37,30 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const char* const Entries[] = {"P",
-                               "Q",
-                               "P => Q",
-                               "Q & R & P",
-                               "x=y",
-                               "f(x)=y",
-                               "P(x) & ~P(x)",
-                               "ALL(a):[a @ s => P(a)]",
-                               "ALL(a):Q(a,y)",
-                               "EXIST(b):f(b)=x",
-                               "x",
-                               "u",
-                               "3",
-                               "Set(s)",
-                               "a b",
-                               "x+1",
-                               "(",
-                               "",
-                               "~~P | P => ALL(x):P(x)",
-                               "LongName(x) => AnotherLongName(y) & P",
-                               "Premise"};
+const char* const Entries[] = {
+    "P",
+    "Q",
+    "P => Q",
+    "Q & R & P",
+    "x=y",
+    "f(x)=y",
+    "P(x) & ~P(x)",
+    "ALL(a):[a @ s => P(a)]",
+    "ALL(a):Q(a,y)",
+    "EXIST(b):f(b)=x",
+    "x",
+    "u",
+    "3",
+    "Set(s)",
+    "a b",
+    "x+1",
+    "(",
+    "",
+    "~~P | P => ALL(x):P(x)",
+    "LongName(x) => AnotherLongName(y) & P",
+    "証明の方法、証明の方法、証明の方法、証明の方法、証明の方法、証明の方法",
+    "abc עבר, a\u0301\u0302, \U0001F468\u200D\U0001F469",
+    "Premise"};
 const char* const Pasted[] = {"P & Q",
                               "ALL(a):\r\n\t[a \xCE\xB5 s]",
                               "\xE2\x88\x88\xF0\x9F\x98\x80",
@@ -278,7 +281,14 @@ void RandomUser::Enter(QWidget& box) {
         QApplication::clipboard()->setText(QString::fromUtf8(entry));
         return QTest::keyClick(window, Qt::Key_V, Qt::ControlModifier);
     }
-    for (const char* c = entry; *c != '\0'; ++c) QTest::keyClick(window, *c);
+    for (const char32_t c : QString::fromUtf8(entry).toUcs4()) {
+        if (c < 128) {
+            QTest::keyClick(window, static_cast<char>(c));
+        } else {
+            QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString::fromUcs4(&c, 1),
+                                Qt::NoModifier);
+        }
+    }
 }
 
 // Never anything else in there: it could leave the directory.
