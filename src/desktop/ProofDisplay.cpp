@@ -239,7 +239,8 @@ void ProofDisplay::PaintLine(QPainter& painter, int number) {
               selected);
 
     // A wide character or a fallback font may be wider than the index can tell.
-    if (const int width = WidthWith(line.Width()); width > widestPainted_.width) {
+    const int reach = bar->maximum() + bar->pageStep();
+    if (const int width = WidthWith(line.Width()); width > reach) {
         widestPainted_ = {number, width};
         UpdateScrollBars();
     }

@@ -115,7 +115,7 @@ class ProofDisplay : public QAbstractScrollArea {
     int linesLaidOut_ = 0;
     struct {
         int line = 0;
-        int width = 0;  // of the content with it; 0: none painted since the line changed
+        int width = 0;  // of the content with it; 0: none was wider than had been known
     } widestPainted_;
     int fontSize_ = 0;  // points; of the statements
     int lineHeight_ = 1;
